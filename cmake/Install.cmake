@@ -1,0 +1,20 @@
+# Install rules, CMake package and pkg-config file.
+include(CMakePackageConfigHelpers)
+
+set(VXMFC_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/VxMFCEmu")
+
+install(TARGETS VxMFCEmu EXPORT VxMFCEmuTargets
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/VxMFCEmu" "${PROJECT_BINARY_DIR}/include/VxMFCEmu"
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
+install(EXPORT VxMFCEmuTargets NAMESPACE VxMFCEmu:: DESTINATION "${VXMFC_PACKAGE_DIR}")
+
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/VxMFCEmuConfig.cmake.in"
+  "${PROJECT_BINARY_DIR}/VxMFCEmuConfig.cmake" INSTALL_DESTINATION "${VXMFC_PACKAGE_DIR}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/VxMFCEmuConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/VxMFCEmuConfig.cmake" "${PROJECT_BINARY_DIR}/VxMFCEmuConfigVersion.cmake"
+  DESTINATION "${VXMFC_PACKAGE_DIR}")
+
+configure_file("${PROJECT_SOURCE_DIR}/cmake/VxMFCEmu.pc.in" "${PROJECT_BINARY_DIR}/VxMFCEmu.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/VxMFCEmu.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

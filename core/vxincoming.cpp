@@ -1,0 +1,52 @@
+// The one file that reads Qt's private headers.
+#include "core/vxincoming_p.h"
+
+#include <private/qmetaobject_p.h>
+#include <private/qobject_p.h>
+
+namespace vx::detail {
+namespace {
+
+template <typename Visitor>
+void visitSlotConnections(const QObject* pReceiver, Visitor visit)
+{
+    // GUI thread only, like everything that connects to a wrapper; Qt's lock is not reachable here.
+    const auto* pData = QObjectPrivate::get(const_cast<QObject*>(pReceiver))->connections.loadRelaxed();
+    if (!pData)
+        return;
+    for (const auto* pConnection = pData->senders; pConnection; pConnection = pConnection->next) {
+        if (!pConnection->isSlotObject && !visit(*pConnection))
+            return;
+    }
+}
+
+} // namespace
+
+std::vector<IncomingConnection> incomingConnections(const QObject* pReceiver)
+{
+    std::vector<IncomingConnection> result;
+    visitSlotConnections(pReceiver, [&](const QObjectPrivate::Connection& connection) {
+        result.push_back(
+            {connection.sender,
+             QMetaObjectPrivate::signal(connection.sender->metaObject(), connection.signal_index),
+             pReceiver->metaObject()->method(connection.method()),
+             static_cast<Qt::ConnectionType>(connection.connectionType)});
+        return true;
+    });
+    return result;
+}
+
+bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObject* pReceiver,
+                 const QMetaMethod& method)
+{
+    const int signalIndex = QMetaObjectPrivate::signalIndex(signal);
+    bool found = false;
+    visitSlotConnections(pReceiver, [&](const QObjectPrivate::Connection& connection) {
+        found = connection.sender == pSender && connection.signal_index == signalIndex &&
+                connection.method() == method.methodIndex();
+        return !found;
+    });
+    return found;
+}
+
+} // namespace vx::detail

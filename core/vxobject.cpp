@@ -1,0 +1,203 @@
+#include <VxMFCEmu/core/object.h>
+
+#include "core/vxincoming_p.h"
+
+#include <VxMFCEmu/wnd/globaleventhandler.h>
+#include <VxMFCEmu/wnd/resourceids.h>
+
+CRuntimeClass_E CObject_E::s_classInfo(&CObject_E::staticMetaObject, CObject_E::GetImpMetaObject(),
+                                       nullptr, nullptr, CObject_E::GetImpMetaList(),
+                                       static_cast<int>(sizeof(CObject_E)));
+
+namespace {
+
+constexpr char kOwnerProperty[] = "owner";
+constexpr char kParentProperty[] = "parent";
+
+QVariant addressOf(const QObject* pObject)
+{
+    return QVariant(static_cast<qlonglong>(reinterpret_cast<std::intptr_t>(pObject)));
+}
+
+} // namespace
+
+CObject_E::CObject_E() = default;
+
+CObject_E::~CObject_E()
+{
+    Detach();
+}
+
+BOOL CObject_E::AttachDefault(QObject* pParent)
+{
+    return Attach(new QObject(pParent), pParent, false);
+}
+
+BOOL CObject_E::OnAttach()
+{
+    return TRUE;
+}
+
+void CObject_E::OnDetach() {}
+
+void CObject_E::ConnectSlotsFrom(QObject* pFrom, bool bKeepOld)
+{
+    if (!pFrom)
+        return;
+    for (const auto& incoming : vx::detail::incomingConnections(pFrom)) {
+        QMetaMethod slot;
+        if (!FindSlotMethod(QString::fromLatin1(incoming.method.name()), slot) ||
+            !QMetaObject::checkConnectArgs(incoming.signal, slot))
+            continue;
+        const auto type = static_cast<Qt::ConnectionType>(incoming.type | Qt::UniqueConnection);
+        if (connect(incoming.sender, incoming.signal, this, slot, type) && !bKeepOld)
+            disconnect(incoming.sender, incoming.signal, pFrom, incoming.method);
+    }
+}
+
+CRuntimeClass_E* CObject_E::GetRuntimeClass() const
+{
+    return &s_classInfo;
+}
+
+void CObject_E::Serialize(CArchive_E&) {}
+
+QObject* CObject_E::SetImpQObject(QObject* pImp)
+{
+    return std::exchange(m_pImpQObject, pImp);
+}
+
+BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
+{
+    if (!pImp)
+        return FALSE;
+    if (!GetRuntimeClass()->IsMyImpMeta(pImp->metaObject())) {
+        if (!bExternal)
+            delete pImp;
+        return FALSE;
+    }
+    Detach();
+    // A temporary wrapper gives way: it would otherwise handle the events of the same object too.
+    if (CObject_E* pOther = GetOwner(pImp); pOther && pOther->IsTemporary())
+        pOther->Detach();
+    SetObjectFlag(ExternalFlag, bExternal);
+    m_pImpQObject = pImp;
+    pImp->setProperty(kOwnerProperty, addressOf(this));
+    pImp->setProperty(kParentProperty, addressOf(pParent));
+    pImp->installEventFilter(this);
+    connect(pImp, SIGNAL(destroyed(QObject*)), this, SLOT(OnImpDestroy()), Qt::UniqueConnection);
+    const BOOL bAttached = OnAttach();
+    if (!bAttached)
+        Detach();
+    return bAttached;
+}
+
+void CObject_E::Detach()
+{
+    QObject* const pImp = m_pImpQObject;
+    if (!pImp)
+        return;
+    disconnect(pImp, nullptr, this, nullptr);
+    pImp->removeEventFilter(this);
+    // Another wrapper may have taken the object over meanwhile; its binding stays.
+    if (GetOwner(pImp) == this) {
+        pImp->setProperty(kOwnerProperty, QVariant());
+        pImp->setProperty(kParentProperty, QVariant());
+    }
+    m_pImpQObject = nullptr;
+    if (IsExternalImpObj())
+        SetObjectFlag(ExternalFlag, false);
+    else
+        pImp->deleteLater();
+    OnDetach();
+}
+
+void CObject_E::SetTemporary()
+{
+    SetObjectFlag(TemporaryFlag, true);
+    AppendTempObjectPool(this);
+}
+
+bool CObject_E::IsKindOf(const CRuntimeClass_E* pClass) const
+{
+    return pClass && metaObject()->inherits(pClass->GetMetaObject());
+}
+
+bool CObject_E::IsKindOf(const char* pszClassName) const
+{
+    return const_cast<CObject_E*>(this)->qt_metacast(pszClassName) != nullptr;
+}
+
+BOOL CObject_E::FindSlotMethod(const QString& strName, QMetaMethod& method) const
+{
+    const QByteArray name = strName.toUtf8();
+    const QMetaObject* const pMeta = metaObject();
+    for (int i = 0; i < pMeta->methodCount(); ++i) {
+        const QMetaMethod candidate = pMeta->method(i);
+        if (candidate.methodType() == QMetaMethod::Slot && candidate.name() == name) {
+            method = candidate;
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+const QMetaObject* CObject_E::GetImpMetaObject()
+{
+    return &QObject::staticMetaObject;
+}
+
+QList<const QMetaObject*>* CObject_E::GetImpMetaList()
+{
+    return nullptr;
+}
+
+CObject_E* CObject_E::FromImpMetaObject(const QMetaObject* pMeta)
+{
+    for (; pMeta; pMeta = pMeta->superClass()) {
+        if (const auto it = g_mapCreateMethod.find(pMeta); it != g_mapCreateMethod.end())
+            return it->second();
+    }
+    return nullptr;
+}
+
+CObject_E* CObject_E::GetOwner(QObject* pObject)
+{
+    if (!pObject)
+        return nullptr;
+    const QVariant owner = pObject->property(kOwnerProperty);
+    return owner.isValid() ? reinterpret_cast<CObject_E*>(static_cast<std::intptr_t>(owner.toLongLong()))
+                           : nullptr;
+}
+
+QMetaObject::Connection CObject_E::Connect(const QObject* pSender, const char* pszSignal,
+                                           const QObject* pReceiver, const char* pszMethod,
+                                           const QObject*, Qt::ConnectionType type)
+{
+    if (!pSender || !pszSignal || !pReceiver || !pszMethod)
+        return {};
+    disconnect(pSender, pszSignal, pReceiver, nullptr);
+    return connect(pSender, pszSignal, pReceiver, pszMethod, type);
+}
+
+QMetaObject::Connection CObject_E::Connect(UINT nID, const char* pszSignal, const QObject* pReceiver,
+                                           const char* pszMethod, const QObject* pParent,
+                                           Qt::ConnectionType type)
+{
+    const QString strName = ToStringId(nID);
+    // Qt's search takes an empty name for any child.
+    if (!pParent || strName.isEmpty())
+        return {};
+    return Connect(pParent->findChild<QObject*>(strName), pszSignal, pReceiver, pszMethod, nullptr, type);
+}
+
+void CObject_E::OnImpDestroy()
+{
+    m_pImpQObject = nullptr;
+    SetObjectFlag(ExternalFlag, false);
+}
+
+void CObject_E::SetObjectFlag(UINT flag, bool on)
+{
+    m_nObjectFlags = on ? (m_nObjectFlags | flag) : (m_nObjectFlags & ~flag);
+}

@@ -1,0 +1,2 @@
+/// @file coll.h
+#pragma once

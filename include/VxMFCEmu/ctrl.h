@@ -1,0 +1,2 @@
+/// @file ctrl.h
+#pragma once

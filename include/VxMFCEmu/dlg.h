@@ -1,0 +1,2 @@
+/// @file dlg.h
+#pragma once

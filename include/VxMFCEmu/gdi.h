@@ -1,0 +1,2 @@
+/// @file gdi.h
+#pragma once

@@ -1,0 +1,2 @@
+/// @file sys.h
+#pragma once

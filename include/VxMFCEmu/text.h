@@ -1,0 +1,2 @@
+/// @file text.h
+#pragma once

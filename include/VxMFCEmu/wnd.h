@@ -1,0 +1,2 @@
+/// @file wnd.h
+#pragma once

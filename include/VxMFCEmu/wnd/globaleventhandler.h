@@ -1,0 +1,90 @@
+/// @file globaleventhandler.h
+/// What exists once per process: message functions, keyboard hooks, the temporary-object pool, and
+/// the connections to idle time.
+///
+/// Threads: GUI thread only.
+#pragma once
+
+#include <VxMFCEmu/types.h>
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+
+#include <map>
+
+/// A message function: sees messages of the host's main windows; true consumes the message.
+using VxWinMsgFn = bool (*)(tagMSG*);
+/// A keyboard hook procedure: code (always 0), virtual key, key flags; above 0 consumes the key.
+using HOOKPROC = LRESULT (*)(int, WPARAM, LPARAM);
+using HHOOK = HOOKPROC;
+
+class VXMFC_EXPORT QGlobalEventHandler : public QObject
+{
+    Q_OBJECT
+
+public:
+    QGlobalEventHandler() = default;
+
+    /// Offers the events of the host's main windows to the hooks, last added first, and then to the
+    /// message functions, first added first. Filters the application object only while it has any.
+    bool eventFilter(QObject* watched, QEvent* e) override;
+
+    /// Whether there is neither a message function nor a hook.
+    bool IsEmptyHookChain() const { return m_hooks.isEmpty() && m_msgFns.isEmpty(); }
+    void AppendHook(HOOKPROC proc);
+    bool RemoveHook(HOOKPROC proc);
+    void AppendMsgFn(VxWinMsgFn fn);
+    bool RemoveMsgFn(VxWinMsgFn fn);
+
+    /// Takes ownership of @p pObject until the next idle time without a running host command.
+    void AppendTempObject(QObject* pObject);
+    /// Deletes every object of the pool in the order in which they came.
+    void RemoveTempObject();
+
+public Q_SLOTS:
+    /// Clears the pool unless the host is running a command.
+    void OnEnterIdle();
+
+private:
+    void UpdateAppFilter();
+    bool CallHooks(const tagMSG& msg) const;
+    bool CallMsgFns(tagMSG* pMsg) const;
+
+    QList<HOOKPROC> m_hooks;
+    QList<VxWinMsgFn> m_msgFns;
+    QList<QPointer<QObject>> m_tempObjects;
+    std::map<int, QTimer*> m_timers; // of timers without a window
+};
+
+/// The one handler of the process, made on first use.
+VXMFC_EXPORT QGlobalEventHandler* GetGlobalEventHandler();
+
+/// Adds @p pObject to the temporary-object pool, which owns it from then on; null is ignored.
+VXMFC_EXPORT void AppendTempObjectPool(QObject* pObject);
+/// Deletes the temporary objects now.
+VXMFC_EXPORT void ClearTempObjectPool();
+
+/// Calls @p pObject's slot OnEnterIdle() each time the GUI thread's event loop is about to wait. An
+/// object is connected once however often it asks; without an event loop nothing happens.
+VXMFC_EXPORT void ConnectIdleSlot(QObject* pObject);
+VXMFC_EXPORT void DisconnectIdleSlot(QObject* pObject);
+
+/// Adds a message function at the end of the list; null is ignored.
+VXMFC_EXPORT void AppendWinMsgFn(VxWinMsgFn fn);
+VXMFC_EXPORT void RemoveWinMsgFn(VxWinMsgFn fn);
+
+inline constexpr int WH_KEYBOARD = 2;
+inline constexpr int WH_GETMESSAGE = 3;
+inline constexpr int WH_CALLWNDPROC = 4;
+inline constexpr int WH_CBT = 5;
+inline constexpr int WH_MOUSE = 7;
+
+/// Adds a keyboard hook and returns it as its own handle. Differs from Win32: only WH_KEYBOARD is
+/// known, for the host's main windows; any other id and a null procedure give null.
+VXMFC_EXPORT HHOOK SetWindowsHookEx_E(int idHook, HOOKPROC proc);
+/// Removes a hook; FALSE when it was not there.
+VXMFC_EXPORT BOOL UnhookWindowsHookEx_E(HHOOK hHook);
+/// Always 0: the chain is walked by the library itself.
+VXMFC_EXPORT LRESULT CallNextHookEx_E(HHOOK hHook, int nCode, WPARAM wParam, LPARAM lParam);
