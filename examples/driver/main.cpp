@@ -1,0 +1,117 @@
+// Works the demo as a user would and checks what its window reported.
+#include "xrobot.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QRect>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QThread>
+
+#include <X11/keysym.h>
+
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+constexpr char kTitle[] = "Emulation demo";
+constexpr int kLimitMs = 15000;
+
+class Report
+{
+public:
+    explicit Report(const QString& path) : m_path(path) { QFile::remove(path); }
+
+    /// Waits for a line that matches; an empty match when none comes in time.
+    QRegularExpressionMatch waitFor(const char* pattern) const
+    {
+        const QRegularExpression expression(QStringLiteral("^%1$").arg(QLatin1String(pattern)),
+                                            QRegularExpression::MultilineOption);
+        QElapsedTimer clock;
+        clock.start();
+        QRegularExpressionMatch match;
+        while (!match.hasMatch() && !clock.hasExpired(kLimitMs)) {
+            QFile file(m_path);
+            if (file.open(QIODevice::ReadOnly))
+                match = expression.match(QString::fromUtf8(file.readAll()));
+            QThread::msleep(10);
+        }
+        std::printf("%s  %s\n", match.hasMatch() ? "ok     " : "MISSING", pattern);
+        return match;
+    }
+
+private:
+    QString m_path;
+};
+
+QRect rectOf(const QRegularExpressionMatch& match)
+{
+    return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
+            match.captured(4).toInt()};
+}
+
+bool drive(XRobot& robot, const Report& report, const QString& screenshot)
+{
+    const QRect tracker = rectOf(report.waitFor("geometry tracker (\\d+) (\\d+) (\\d+) (\\d+)"));
+    const QRect post = rectOf(report.waitFor("geometry post (\\d+) (\\d+) (\\d+) (\\d+)"));
+    if (!report.waitFor("ready").hasMatch())
+        return false;
+
+    const struct
+    {
+        std::function<void()> action;
+        const char* expected;
+    } steps[] = {
+        {[&] { robot.move(tracker.topLeft() + QPoint(20, 25)); }, "WM_MOUSEMOVE 20,25"},
+        {[] {}, "WM_SETCURSOR for the tracker"},
+        {[&] { robot.click(tracker.topLeft() + QPoint(30, 40)); }, "WM_LBUTTONDOWN 30,40 flags 1"},
+        {[&] { robot.type(XK_a); }, "WM_KEYDOWN 0x41"},
+        {[] {}, "WM_CHAR 'a'"},
+        {[&] { robot.type(XK_F5); }, "WM_KEYDOWN 0x74"},
+        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 3); }, "WM_RBUTTONDOWN 50,60 flags 2"},
+        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 4); }, "WM_MOUSEWHEEL 120"},
+        {[&] { robot.click(post.center()); }, "WM_TRACKER_PING 1"},
+    };
+    bool passed = true;
+    for (const auto& step : steps) {
+        step.action();
+        passed = report.waitFor(step.expected).hasMatch() && passed;
+    }
+    passed = robot.screenshot().copy(0, 0, 880, 590).save(screenshot) && passed;
+    passed = robot.closeWindow(kTitle) && passed;
+    return report.waitFor("WM_DESTROY").hasMatch() && passed;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    QCommandLineParser options;
+    for (const char* name : {"host", "plugin", "report", "screenshot"})
+        options.addOption({QLatin1String(name), QString(), QStringLiteral("file")});
+    options.process(app);
+
+    XRobot robot;
+    if (!robot.isConnected()) {
+        std::fprintf(stderr, "vxdemo_driver: no X display\n");
+        return 2;
+    }
+    const QString reportPath = options.value(QStringLiteral("report"));
+    const Report report(reportPath);
+    QProcess host;
+    host.setProcessChannelMode(QProcess::ForwardedChannels);
+    host.start(options.value(QStringLiteral("host")),
+               {QStringLiteral("--plugin"), options.value(QStringLiteral("plugin")),
+                QStringLiteral("--report"), reportPath});
+    const bool passed = drive(robot, report, options.value(QStringLiteral("screenshot")));
+    const bool ended = host.waitForFinished(kLimitMs) && host.exitStatus() == QProcess::NormalExit &&
+                       host.exitCode() == 0;
+    std::printf("%s  host ended\n", ended ? "ok     " : "FAILED ");
+    if (!ended)
+        host.kill();
+    return passed && ended ? 0 : 1;
+}

@@ -1,0 +1,437 @@
+/// @file window.h
+/// CWnd_E: the MFC window interface over a widget.
+///
+/// A CWnd_E is bound to one widget and is neither its parent nor its child. It owns the widget when it
+/// made it (Create, AttachDefault) and lets it live when it was given it (SubclassWindow, FromHandle).
+/// The widget's events pass through the window's event filter, which turns them into messages for the
+/// handlers of its message map (see messagemap.h) before the widget itself sees them.
+///
+/// Differs from MFC: DestroyWindow() hides the widget, and an owned one is deleted later by the event
+/// loop; a non-zero result of OnCreate(), not only -1, makes creation fail; binding a window to a
+/// widget changes nothing in how the widget works until a handler is written.
+///
+/// Members that have a free function of the same name behave as it does, for the bound widget; unbound
+/// windows give the result for a null handle.
+///
+/// Threads: GUI thread only.
+#pragma once
+
+#include <VxMFCEmu/core/cmdtarget.h>
+#include <VxMFCEmu/text/cstring.h>
+#include <VxMFCEmu/wnd/geometry.h>
+#include <VxMFCEmu/wnd/messagemap.h>
+#include <VxMFCEmu/wnd/messagestructs.h>
+#include <VxMFCEmu/wnd/wincodes.h>
+#include <VxMFCEmu/wnd/winmessages.h>
+#include <VxMFCEmu/wnd/winstyles.h>
+
+#include <QtCore/QEvent>
+#include <QtCore/QPointer>
+
+#include <map>
+
+QT_BEGIN_NAMESPACE
+class QAbstractSlider;
+class QMenuBar;
+class QScrollBar;
+class QTimer;
+QT_END_NAMESPACE
+
+class CDC_E;
+class CDataExchange_E;
+class CMenu_E;
+class CScrollBar_E;
+
+class VXMFC_EXPORT CWnd_E : public CCmdTarget_E
+{
+    Q_OBJECT
+    DECLARE_DYNCREATE_E(CWnd_E)
+
+    CWnd_E();
+    ~CWnd_E() override;
+
+    // Binding
+
+    /// Hands the window to OnCreate(), takes over the widget's incoming connections, fills the message
+    /// map. FALSE when OnCreate() gives anything but 0.
+    BOOL OnAttach() override;
+    using CCmdTarget_E::AttachDefault;
+
+protected:
+    /// Fills the message map; runs once per attachment. A derived class calls its base's first.
+    virtual void OnMessageMap();
+
+public:
+    /// Makes a plain widget below @p pParent that follows the pointer, and attaches it as owned.
+    virtual BOOL AttachDefault(QWidget* pParent);
+    /// For code that builds the window's content; empty here.
+    virtual void SetupUI();
+    /// Lays out what lies along the window's edges: its menu bar and scroll bars.
+    virtual void RecalcLayout();
+    /// Makes the window's widget below @p pParent, or below the host's main frame when that is null.
+    virtual BOOL Create(QWidget* pParent);
+    /// The same with a WS_* style word: WS_VISIBLE shows, WS_VSCROLL and WS_HSCROLL add scroll bars.
+    BOOL Create(UINT dwStyle, QWidget* pParent);
+    /// The same, placed at @p rect, in the parent's coordinates.
+    BOOL Create(UINT dwStyle, const tagRECT& rect, QWidget* pParent);
+    /// Hides the window and sends it and its children WM_DESTROY and WM_NCDESTROY. The window may be
+    /// gone afterwards (`delete this` in PostNcDestroy()).
+    virtual BOOL DestroyWindow();
+    /// Called as the last thing of a window's life; empty here.
+    virtual void PostNcDestroy();
+    /// Sees each message before it is dispatched; TRUE consumes it. FALSE here.
+    virtual BOOL PreTranslateMessage(tagMSG* pMsg);
+    /// Calls the handler of a message; TRUE when there is one. @p pResult may be null.
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// Moves data between members and controls; empty here.
+    virtual void DoDataExchange(CDataExchange_E* pDX);
+    /// Shows the entries of one menu in the window's menu bar, which the window owns; the menu stays
+    /// its owner's. Null takes the menu bar away. FALSE without a widget.
+    virtual BOOL SetMenu(CMenu_E* pMenu);
+    /// Shows each menu under its own title; an empty list takes the menu bar away.
+    virtual BOOL SetMenu(QList<CMenu_E*> menus);
+    /// Called before SubclassWindow() returns; empty here.
+    virtual void PreSubclassWindow();
+    virtual void GetWindowText(CString_E& rString);
+    virtual void SetWindowText(const wchar_t* lpszString);
+    /// The scroll bar control that stands in for the window's own; null here.
+    virtual CScrollBar_E* GetScrollBarCtrl(int nBar) const;
+    /// Called when the window is attached; anything but 0 makes creation fail.
+    virtual int OnCreate(tagCREATESTRUCTW* pCreate);
+
+    /// Binds a widget that lives on its own; it is not deleted with the window.
+    BOOL SubclassWindow(QWidget* pWidget);
+    /// Binds the descendant of @p pParent with this object name; FALSE when there is none.
+    BOOL SubclassDlgItem(const char* pszName, CWnd_E* pParent);
+    BOOL SubclassDlgItem(UINT nID, CWnd_E* pParent);
+
+    /// The bound widget; null while unbound.
+    QWidget* GetSafeHwnd() const;
+    operator HWND() const { return GetSafeHwnd(); }
+
+    /// The window bound to a widget; null when there is none.
+    static CWnd_E* FromHandlePermanent(QWidget* pWidget);
+    /// The window bound to a widget, or a temporary one that lives until the next idle time.
+    static CWnd_E* FromHandle(QWidget* pWidget);
+    /// Empties the temporary part of the window handle map.
+    static void DeleteTempMap();
+
+    // Messages
+
+    /// Adds or replaces the entry of a message; see messagemap.h for the checked way to do so.
+    void AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnE);
+    void AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry);
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
+    BOOL SendEvent(QEvent* e);
+    /// Posts @p e, which is owned by the event loop from then on, also on failure. With @p bCompress it
+    /// is dropped, giving FALSE, while one of its type posted this way has not been dispatched yet.
+    BOOL PostEvent(QEvent* e, int nPriority, bool bCompress);
+    /// Sets the accepted flag of the event being dispatched to this window; a handler that clears it
+    /// lets the event go on to the widget.
+    void SetCurrentEventAccepted(bool bAccepted);
+    bool eventFilter(QObject* watched, QEvent* e) override;
+
+    // Controls
+
+    /// The descendant with this object name; null for a null or empty name.
+    QWidget* GetChildWidget(const char* pszName) const;
+    CWnd_E* GetDlgItem(const char* pszName) const;
+    CWnd_E* GetDlgItem(QWidget* pWidget) const;
+    CWnd_E* GetDlgItem(int nID) const;
+    QWidget* GetDlgItem(int nID, QWidget** ppWidget) const;
+    int GetDlgCtrlID() const;
+    /// Renames the widget to the name of @p nID and returns the id it had; an unknown id clears the name.
+    int SetDlgCtrlID(int nID);
+    BOOL SetDlgItemText(int nID, const wchar_t* lpszString);
+    BOOL SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
+    UINT GetDlgItemText(int nID, wchar_t* lpszString, int nMaxCount) const;
+    int GetDlgItemText(int nID, CString_E& rString) const;
+    UINT GetDlgItemInt(int nID, BOOL* pbTranslated = nullptr, BOOL bSigned = TRUE) const;
+    UINT IsDlgButtonChecked(int nID) const;
+
+    // State, text and place
+
+    BOOL ShowWindow(int nCmdShow);
+    BOOL IsWindowVisible() const;
+    BOOL IsWindowEnabled() const;
+    BOOL EnableWindow(BOOL bEnable = TRUE);
+    BOOL CloseWindow();
+    BOOL UpdateWindow();
+    /// Schedules a repaint of the whole window.
+    void Invalidate(BOOL bErase = TRUE);
+    /// Schedules a repaint of a rectangle, of the whole window for null.
+    void InvalidateRect(const tagRECT* pRect, BOOL bErase = TRUE);
+    /// Centres the window on @p pOther, or on its parent, or on its screen.
+    void CenterWindow(CWnd_E* pOther = nullptr);
+    int GetWindowText(wchar_t* lpszString, int nMaxCount) const;
+    int GetWindowTextLength() const;
+    DWORD GetStyle() const { return m_dwStyle; }
+    void GetWindowRect(tagRECT* pRect) const;
+    void GetClientRect(tagRECT* pRect) const;
+    BOOL MoveWindow(int x, int y, int cx, int cy, BOOL bRepaint = TRUE);
+    BOOL MoveWindow(const tagRECT* pRect, BOOL bRepaint = TRUE);
+    BOOL SetWindowPos(const CWnd_E* pInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
+    void ClientToScreen(tagPOINT* pPoint) const;
+    void ClientToScreen(tagRECT* pRect) const;
+    void ScreenToClient(tagPOINT* pPoint) const;
+    void ScreenToClient(tagRECT* pRect) const;
+    int MapWindowPoints(CWnd_E* pTo, tagPOINT* pPoints, UINT nCount) const;
+    int MapWindowPoints(CWnd_E* pTo, tagRECT* pRect) const;
+    BOOL MapDialogRect(tagRECT* pRect) const;
+    UINT GetDpiForWindow() const;
+
+    // Other windows
+
+    CWnd_E* GetParent() const;
+    CWnd_E* SetParent(CWnd_E* pNewParent);
+    CWnd_E* GetTopWindow() const;
+    BOOL IsChild(const CWnd_E* pWnd) const;
+    CWnd_E* SetFocus();
+    CWnd_E* SetActiveWindow();
+    CWnd_E* SetCapture();
+    static CWnd_E* GetFocus();
+    static CWnd_E* GetActiveWindow();
+    static CWnd_E* GetCapture();
+    static CWnd_E* GetDesktopWindow();
+    static CWnd_E* WindowFromPoint(tagPOINT point);
+
+    // Scroll bars: made by ShowScrollBar(), owned by the window, along its right and bottom edges. Each
+    // use of one sends the window WM_HSCROLL or WM_VSCROLL.
+
+    void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
+    BOOL EnableScrollBar(int nBar, UINT nArrowFlags = 0);
+    /// Sets the range; nothing without that scroll bar.
+    void SetScrollRange(int nBar, int nMin, int nMax, BOOL bRedraw = TRUE);
+    /// Gives the range; 0 and 0 without that scroll bar.
+    void GetScrollRange(int nBar, int* pMin, int* pMax) const;
+    /// Sets the position without sending a message and returns the previous one.
+    int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
+    int GetScrollPos(int nBar) const;
+
+Q_SIGNALS:
+    void timeOut(unsigned long nIDEvent);
+    /// Emitted each time the event loop is about to wait; command-UI updates hang on it.
+    void updateCmdUi();
+
+public Q_SLOTS:
+    void OnEnterIdle();
+
+public:
+    // Message handlers. These defaults clear the current event's accepted flag, so that the event goes
+    // on to the widget; call them to have a message handled in the widget's own way.
+
+    // Life of the window
+    /// Deletes the scroll bars and the menu bar.
+    void OnDestroy();
+    /// Detaches the widget and calls PostNcDestroy().
+    void OnNcDestroy();
+    BOOL OnNcCreate(CREATESTRUCT* pCreate);
+    /// Destroys the window.
+    void OnClose();
+    BOOL OnQueryEndSession();
+    void OnEndSession(BOOL bEnding);
+    BOOL OnQueryOpen();
+    void OnParentNotify(UINT nMessage, LPARAM lParam);
+    BOOL OnCopyData(QWidget* pWnd, COPYDATASTRUCT* pData);
+    BOOL OnCopyData_E(CWnd_E* pWnd, COPYDATASTRUCT* pData);
+
+    // Size, place and show
+    void OnSize(UINT nType, int cx, int cy);
+    void OnSizing(UINT nSide, RECT* pRect);
+    void OnMove(int x, int y);
+    void OnMoving(UINT nSide, RECT* pRect);
+    void OnShowWindow(BOOL bShow, UINT nStatus);
+    void OnEnable(BOOL bEnable);
+    void OnGetMinMaxInfo(MINMAXINFO* pInfo);
+    void OnWindowPosChanging(WINDOWPOS* pPos);
+    void OnWindowPosChanged(WINDOWPOS* pPos);
+    void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* pParams);
+    void OnStyleChanging(int nStyleType, STYLESTRUCT* pStyle);
+    void OnStyleChanged(int nStyleType, STYLESTRUCT* pStyle);
+    void OnEnterSizeMove();
+    void OnExitSizeMove();
+
+    // Activation and focus
+    void OnActivate(UINT nState, QWidget* pWndOther, BOOL bMinimized);
+    void OnActivate_E(UINT nState, CWnd_E* pWndOther, BOOL bMinimized);
+    void OnActivateApp(BOOL bActive, DWORD dwThreadID);
+    int OnMouseActivate(QWidget* pDesktopWnd, UINT nHitTest, UINT nMessage);
+    int OnMouseActivate_E(CWnd_E* pDesktopWnd, UINT nHitTest, UINT nMessage);
+    void OnChildActivate();
+    BOOL OnNcActivate(BOOL bActive);
+    void OnSetFocus(QWidget* pOldWnd);
+    void OnSetFocus_E(CWnd_E* pOldWnd);
+    void OnKillFocus(QWidget* pNewWnd);
+    void OnKillFocus_E(CWnd_E* pNewWnd);
+    void OnCaptureChanged(QWidget* pWnd);
+    void OnCaptureChanged_E(CWnd_E* pWnd);
+    void OnCancelMode();
+
+    // Painting
+    void OnPaint();
+    HBRUSH OnCtlColor(CDC_E* pDC, QWidget* pWnd, UINT nCtlColor);
+    HBRUSH OnCtlColor_E(CDC_E* pDC, CWnd_E* pWnd, UINT nCtlColor);
+    BOOL OnEraseBkgnd(CDC_E* pDC);
+    void OnIconEraseBkgnd(CDC_E* pDC);
+    void OnNcPaint();
+    HCURSOR OnQueryDragIcon();
+    void OnDrawItem(int nIDCtl, DRAWITEMSTRUCT* pDraw);
+    void OnMeasureItem(int nIDCtl, MEASUREITEMSTRUCT* pMeasure);
+    int OnCompareItem(int nIDCtl, COMPAREITEMSTRUCT* pCompare);
+    void OnDeleteItem(int nIDCtl, DELETEITEMSTRUCT* pDelete);
+    void OnPaletteChanged(QWidget* pFocusWnd);
+    void OnPaletteChanged_E(CWnd_E* pFocusWnd);
+    void OnPaletteIsChanging(QWidget* pRealizeWnd);
+    void OnPaletteIsChanging_E(CWnd_E* pRealizeWnd);
+    BOOL OnQueryNewPalette();
+    void OnSysColorChange();
+    LRESULT OnThemeChanged();
+
+    // Keyboard
+    void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnUniChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnHotKey(UINT nHotKeyId, UINT nKey1, UINT nKey2);
+    UINT OnGetDlgCode();
+    int OnCharToItem(UINT nKey, QWidget* pListBox, UINT nIndex);
+    int OnCharToItem_E(UINT nKey, CWnd_E* pListBox, UINT nIndex);
+    int OnVKeyToItem(UINT nKey, QWidget* pListBox, UINT nIndex);
+    int OnVKeyToItem_E(UINT nKey, CWnd_E* pListBox, UINT nIndex);
+    void OnInputLangChange(UINT nCharSet, UINT nLocaleId);
+
+    // Mouse
+    void OnMouseMove(UINT nFlags, CPoint_E point);
+    void OnLButtonDown(UINT nFlags, CPoint_E point);
+    void OnLButtonUp(UINT nFlags, CPoint_E point);
+    void OnLButtonDblClk(UINT nFlags, CPoint_E point);
+    void OnRButtonDown(UINT nFlags, CPoint_E point);
+    void OnRButtonUp(UINT nFlags, CPoint_E point);
+    void OnRButtonDblClk(UINT nFlags, CPoint_E point);
+    void OnMButtonDown(UINT nFlags, CPoint_E point);
+    void OnMButtonUp(UINT nFlags, CPoint_E point);
+    void OnMButtonDblClk(UINT nFlags, CPoint_E point);
+    void OnXButtonDown(UINT nFlags, UINT nButton, CPoint_E point);
+    void OnXButtonUp(UINT nFlags, UINT nButton, CPoint_E point);
+    void OnXButtonDblClk(UINT nFlags, UINT nButton, CPoint_E point);
+    BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint_E point);
+    void OnMouseHWheel(UINT nFlags, short zDelta, CPoint_E point);
+    void OnMouseHover(UINT nFlags, CPoint_E point);
+    void OnMouseLeave();
+    BOOL OnSetCursor(QWidget* pWnd, UINT nHitTest, UINT nMessage);
+    BOOL OnSetCursor_E(CWnd_E* pWnd, UINT nHitTest, UINT nMessage);
+    void OnContextMenu(QWidget* pWnd, CPoint_E pos);
+    void OnContextMenu_E(CWnd_E* pWnd, CPoint_E pos);
+    LRESULT OnNcHitTest(CPoint_E point);
+    void OnNcMouseMove(UINT nHitTest, CPoint_E point);
+    void OnNcMouseHover(UINT nHitTest, CPoint_E point);
+    void OnNcMouseLeave();
+    void OnNcLButtonDown(UINT nHitTest, CPoint_E point);
+    void OnNcLButtonUp(UINT nHitTest, CPoint_E point);
+    void OnNcLButtonDblClk(UINT nHitTest, CPoint_E point);
+    void OnNcRButtonDown(UINT nHitTest, CPoint_E point);
+    void OnNcRButtonUp(UINT nHitTest, CPoint_E point);
+    void OnNcRButtonDblClk(UINT nHitTest, CPoint_E point);
+    void OnNcMButtonDown(UINT nHitTest, CPoint_E point);
+    void OnNcMButtonUp(UINT nHitTest, CPoint_E point);
+    void OnNcMButtonDblClk(UINT nHitTest, CPoint_E point);
+    void OnNcXButtonDown(short nHitTest, UINT nButton, CPoint_E point);
+    void OnNcXButtonUp(short nHitTest, UINT nButton, CPoint_E point);
+    void OnNcXButtonDblClk(short nHitTest, UINT nButton, CPoint_E point);
+
+    // Scrolling, timers and commands
+    void OnHScroll(UINT nSBCode, UINT nPos, QAbstractSlider* pScrollBar);
+    void OnHScroll_E(UINT nSBCode, UINT nPos, CScrollBar_E* pScrollBar);
+    void OnVScroll(UINT nSBCode, UINT nPos, QAbstractSlider* pScrollBar);
+    void OnVScroll_E(UINT nSBCode, UINT nPos, CScrollBar_E* pScrollBar);
+    void OnTimer(UINT_PTR nIDEvent);
+    void OnSysCommand(UINT nID, LPARAM lParam);
+    void OnAppCommand(QWidget* pWnd, UINT nCmd, UINT nDevice, UINT nKey);
+    void OnAppCommand_E(CWnd_E* pWnd, UINT nCmd, UINT nDevice, UINT nKey);
+    BOOL OnHelpInfo(HELPINFO* pHelpInfo);
+    void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
+    void OnEnterMenuLoop(BOOL bIsTrackPopupMenu);
+    void OnExitMenuLoop(BOOL bIsTrackPopupMenu);
+    void OnNextMenu(UINT nKey, MDINEXTMENU* pNextMenu);
+    void OnDropFiles(HDROP hDropInfo);
+    UINT OnNotifyFormat(QWidget* pWnd, UINT nCommand);
+    UINT OnNotifyFormat_E(CWnd_E* pWnd, UINT nCommand);
+    LRESULT OnQueryUIState();
+    void OnChangeUIState(UINT nAction, UINT nUIElement);
+    void OnUpdateUIState(UINT nAction, UINT nUIElement);
+
+    // System
+    void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
+    void OnDevModeChange(LPTSTR lpDeviceName);
+    BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
+    void OnFontChange();
+    void OnTimeChange();
+    void OnCompacting(UINT nCpuTime);
+    void OnSpoolerStatus(UINT nStatus, UINT nJobs);
+    UINT OnPowerBroadcast(UINT nPowerEvent, LPARAM nEventData);
+    void OnUserChanged();
+    void OnSessionChange(UINT nSessionState, UINT nId);
+    void OnTCard(UINT idAction, DWORD dwActionData);
+    void OnRawInput(UINT nInputCode, HANDLE hRawInput);
+
+    // Clipboard
+    void OnDestroyClipboard();
+    void OnDrawClipboard();
+    void OnClipboardUpdate();
+    void OnRenderFormat(UINT nFormat);
+    void OnRenderAllFormats();
+    void OnAskCbFormatName(UINT nMaxCount, LPTSTR lpszString);
+    void OnChangeCbChain(HWND hWndRemove, HWND hWndAfter);
+    void OnPaintClipboard(QWidget* pClipAppWnd, HGLOBAL hPaintStruct);
+    void OnPaintClipboard_E(CWnd_E* pClipAppWnd, HGLOBAL hPaintStruct);
+    void OnSizeClipboard(QWidget* pClipAppWnd, HGLOBAL hRect);
+    void OnSizeClipboard_E(CWnd_E* pClipAppWnd, HGLOBAL hRect);
+    void OnHScrollClipboard(QWidget* pClipAppWnd, UINT nSBCode, UINT nPos);
+    void OnHScrollClipboard_E(CWnd_E* pClipAppWnd, UINT nSBCode, UINT nPos);
+    void OnVScrollClipboard(QWidget* pClipAppWnd, UINT nSBCode, UINT nPos);
+    void OnVScrollClipboard_E(CWnd_E* pClipAppWnd, UINT nSBCode, UINT nPos);
+
+private:
+    struct PendingEvent
+    {
+        QEvent* event;
+        QEvent::Type type; // of its own: an event that others consumed or dropped is not touched again
+    };
+
+    template <typename Result>
+    Result PassOn(Result result);
+    void PassOn();
+    bool DispatchMessage(QObject* watched, QEvent* e, tagMSG& msg);
+    bool OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult) const;
+    void FillIfSeen(tagMSG& msg) const;
+    void ForgetPending(const QEvent* e);
+    QScrollBar* OwnScrollBar(int nBar) const;
+    QScrollBar* MakeScrollBar(int nBar);
+    QMenuBar* MakeMenuBar();
+    void ShowAsStyled();
+
+    QEvent* m_pCurrentEvent = nullptr;
+    QList<PendingEvent> m_pendingEvents;
+    std::map<int, QTimer*> m_mapTimers;
+    std::map<UINT, AFX_MSGMAP_ENTRY_E> m_mapMessages;
+    int m_nReserved = 0;
+    UINT m_dwStyle = 0;
+    QPointer<QScrollBar> m_pHScrollBar;
+    QPointer<QScrollBar> m_pVScrollBar;
+    QPointer<QMenuBar> m_pMenuBar;
+};
+
+/// The handle map of windows; made on first request with @p bCreate, null before.
+VXMFC_EXPORT class CHandleMap_E* afxMapHWND_E(BOOL bCreate);
+
+/// Hides a window and tells it and its children, from the top down, that it ends: each permanent
+/// CWnd_E gets WM_DESTROY before its children and WM_NCDESTROY after them. The widget itself is deleted
+/// later, and only when its CWnd_E owns it. FALSE for null.
+VXMFC_EXPORT BOOL DestroyWindow_E(QWidget* pWidget);

@@ -1,0 +1,91 @@
+// Idle time: who is called, and the temporary objects that it ends.
+#include "core/vxincoming_p.h"
+
+#include <VxMFCEmu/wnd/globaleventhandler.h>
+#include <VxMFCEmu/wnd/windowfunctions.h>
+
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QMetaMethod>
+#include <QtWidgets/QWidget>
+
+namespace {
+
+const QMetaMethod& aboutToBlock()
+{
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&QAbstractEventDispatcher::aboutToBlock);
+    return signal;
+}
+
+QMetaMethod idleSlot(const QObject* pObject)
+{
+    const QMetaObject* const pMeta = pObject->metaObject();
+    return pMeta->method(pMeta->indexOfSlot("OnEnterIdle()"));
+}
+
+// The host announces a running command through a function whose address its main frame carries.
+bool isHostCommandRunning()
+{
+    const QWidget* const pFrame = TolmGetMainFrame();
+    if (!pFrame)
+        return false;
+    const QVariant property = pFrame->property("IsTolmCmdActive");
+    const auto address = property.userType() == QMetaType::VoidStar
+                             ? reinterpret_cast<std::uintptr_t>(property.value<void*>())
+                             : static_cast<std::uintptr_t>(property.toULongLong());
+    using IsActive = bool (*)();
+    return address != 0 && reinterpret_cast<IsActive>(address)();
+}
+
+} // namespace
+
+void ConnectIdleSlot(QObject* pObject)
+{
+    QAbstractEventDispatcher* const pDispatcher = QAbstractEventDispatcher::instance();
+    if (!pObject || !pDispatcher)
+        return;
+    const QMetaMethod slot = idleSlot(pObject);
+    if (slot.isValid() && !vx::detail::isConnected(pDispatcher, aboutToBlock(), pObject, slot))
+        QObject::connect(pDispatcher, aboutToBlock(), pObject, slot);
+}
+
+void DisconnectIdleSlot(QObject* pObject)
+{
+    QAbstractEventDispatcher* const pDispatcher = QAbstractEventDispatcher::instance();
+    if (pObject && pDispatcher)
+        QObject::disconnect(pDispatcher, aboutToBlock(), pObject, idleSlot(pObject));
+}
+
+void QGlobalEventHandler::OnEnterIdle()
+{
+    if (!isHostCommandRunning())
+        RemoveTempObject();
+}
+
+void QGlobalEventHandler::AppendTempObject(QObject* pObject)
+{
+    if (m_tempObjects.isEmpty())
+        ConnectIdleSlot(this);
+    m_tempObjects.append(pObject);
+}
+
+void QGlobalEventHandler::RemoveTempObject()
+{
+    // Deleting an object may make new temporary ones.
+    while (!m_tempObjects.isEmpty()) {
+        const QList<QPointer<QObject>> objects = std::exchange(m_tempObjects, {});
+        for (const QPointer<QObject>& object : objects)
+            delete object;
+    }
+    DisconnectIdleSlot(this);
+}
+
+void AppendTempObjectPool(QObject* pObject)
+{
+    if (pObject)
+        GetGlobalEventHandler()->AppendTempObject(pObject);
+}
+
+void ClearTempObjectPool()
+{
+    GetGlobalEventHandler()->RemoveTempObject();
+}

@@ -1,0 +1,170 @@
+// Binding a window to its widget, and finding windows and controls again.
+#include <VxMFCEmu/wnd/window.h>
+
+#include "core/vxobjectlayout_p.h"
+#include "wnd/vxseesmessages_p.h"
+
+#include <VxMFCEmu/core/handlemap.h>
+#include <VxMFCEmu/core/modulestate.h>
+#include <VxMFCEmu/wnd/globaleventhandler.h>
+#include <VxMFCEmu/wnd/resourceids.h>
+#include <VxMFCEmu/wnd/windowfunctions.h>
+
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QScrollBar>
+
+IMPLEMENT_DYNCREATE_E(CWnd_E, CCmdTarget_E, QWidget)
+
+CWnd_E::CWnd_E()
+{
+    vx::detail::notePlainWindow(*this);
+}
+
+CWnd_E::~CWnd_E()
+{
+    OnDestroy();
+}
+
+QWidget* CWnd_E::GetSafeHwnd() const
+{
+    // Whatever is attached to a window is a widget: its class record says so.
+    return this ? static_cast<QWidget*>(GetImpQObject()) : nullptr;
+}
+
+BOOL CWnd_E::OnAttach()
+{
+    m_pendingEvents.clear();
+    tagCREATESTRUCTW create{};
+    create.style = m_dwStyle;
+    // Intended: anything but 0 stops creation, not only -1.
+    if (OnCreate(&create) != 0 || !GetSafeHwnd())
+        return FALSE;
+    ConnectSlotsFrom(GetSafeHwnd(), false);
+    OnMessageMap();
+    const auto combos = GetSafeHwnd()->findChildren<QComboBox*>();
+    for (QComboBox* pCombo : combos)
+        pCombo->view()->setTextElideMode(Qt::ElideNone);
+    return TRUE;
+}
+
+void CWnd_E::OnMessageMap()
+{
+    AddMsgMapEntry(WM_NCDESTROY, 19, static_cast<AFX_PMSG_E>(&CWnd_E::OnNcDestroy), nullptr);
+    AddMsgMapEntry(WM_DESTROY, 19, static_cast<AFX_PMSG_E>(&CWnd_E::OnDestroy), nullptr);
+    AddMsgMapEntry(WM_SIZE, 26,
+                   vx::detail::eraseHandler<CWnd_E, void(UINT, int, int)>(&CWnd_E::OnSize), nullptr);
+    ConnectIdleSlot(this);
+}
+
+BOOL CWnd_E::SubclassWindow(QWidget* pWidget)
+{
+    if (!pWidget || !Attach(pWidget, pWidget->parent(), true))
+        return FALSE;
+    PreSubclassWindow();
+    return TRUE;
+}
+
+BOOL CWnd_E::SubclassDlgItem(const char* pszName, CWnd_E* pParent)
+{
+    return pParent ? SubclassWindow(pParent->GetChildWidget(pszName)) : FALSE;
+}
+
+BOOL CWnd_E::SubclassDlgItem(UINT nID, CWnd_E* pParent)
+{
+    return pParent ? SubclassWindow(pParent->GetDlgItem(static_cast<int>(nID), nullptr)) : FALSE;
+}
+
+void CWnd_E::PreSubclassWindow() {}
+
+CWnd_E* CWnd_E::FromHandlePermanent(QWidget* pWidget)
+{
+    return qobject_cast<CWnd_E*>(GetOwner(pWidget));
+}
+
+CWnd_E* CWnd_E::FromHandle(QWidget* pWidget)
+{
+    if (!pWidget)
+        return nullptr;
+    if (CWnd_E* const pPermanent = FromHandlePermanent(pWidget))
+        return pPermanent;
+    CObject_E* const pObject = FromImpMetaObject(pWidget->metaObject());
+    auto* const pWindow = qobject_cast<CWnd_E*>(pObject);
+    if (!pWindow) {
+        delete pObject;
+        return nullptr;
+    }
+    pWindow->SetTemporary();
+    return pWindow->SubclassWindow(pWidget) ? pWindow : nullptr;
+}
+
+QWidget* CWnd_E::GetChildWidget(const char* pszName) const
+{
+    // Qt's own search takes an empty name for any child.
+    if (!GetSafeHwnd() || !pszName || !*pszName)
+        return nullptr;
+    return GetSafeHwnd()->findChild<QWidget*>(QString::fromLatin1(pszName));
+}
+
+CWnd_E* CWnd_E::GetDlgItem(const char* pszName) const
+{
+    return FromHandle(GetChildWidget(pszName));
+}
+
+CWnd_E* CWnd_E::GetDlgItem(QWidget* pWidget) const
+{
+    return FromHandle(pWidget);
+}
+
+CWnd_E* CWnd_E::GetDlgItem(int nID) const
+{
+    return FromHandle(GetDlgItem(nID, nullptr));
+}
+
+QWidget* CWnd_E::GetDlgItem(int nID, QWidget** ppWidget) const
+{
+    QWidget* const pItem = GetDlgItem_E(GetSafeHwnd(), nID);
+    if (ppWidget)
+        *ppWidget = pItem;
+    return pItem;
+}
+
+int CWnd_E::GetDlgCtrlID() const
+{
+    return GetDlgCtrlID_E(GetSafeHwnd());
+}
+
+int CWnd_E::SetDlgCtrlID(int nID)
+{
+    QWidget* const pWidget = GetSafeHwnd();
+    if (!pWidget)
+        return 0;
+    const UINT nPrevious = ToCtrlId(pWidget->objectName());
+    pWidget->setObjectName(ToStringId(static_cast<UINT>(nID)));
+    return static_cast<int>(nPrevious);
+}
+
+CHandleMap_E* afxMapHWND_E(BOOL bCreate)
+{
+    AFX_MODULE_THREAD_STATE_E* const pState = AfxGetModuleThreadState_E();
+    if (!pState->m_pmapHWND && bCreate) {
+        pState->m_pmapHWND = new CHandleMap_E(
+            RUNTIME_CLASS_E(CWnd_E), &ConstructDestruct_E<CWnd_E>::Construct,
+            &ConstructDestruct_E<CWnd_E>::Destruct, VxObjectLayout::impQObject(), 1);
+    }
+    return pState->m_pmapHWND;
+}
+
+void CWnd_E::DeleteTempMap()
+{
+    if (CHandleMap_E* const pMap = afxMapHWND_E(FALSE))
+        pMap->DeleteTemp();
+}
+
+void CWnd_E::OnEnterIdle()
+{
+    Q_EMIT updateCmdUi();
+}
+
+void CWnd_E::DoDataExchange(CDataExchange_E*) {}

@@ -1,0 +1,185 @@
+// The road of one event: filter, translation, PreTranslateMessage, follow-up messages, handler.
+#include <VxMFCEmu/wnd/window.h>
+
+#include "wnd/vxeventtable_p.h"
+#include "wnd/vxseesmessages_p.h"
+#include "wnd/vxsignatures_p.h"
+
+#include <VxMFCEmu/dlg/messagebox.h>
+#include <VxMFCEmu/wnd/eventtranslation.h>
+#include <VxMFCEmu/wnd/messageevent.h>
+#include <VxMFCEmu/wnd/sendmessage.h>
+#include <VxMFCEmu/wnd/windowfunctions.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QWidget>
+
+namespace {
+
+bool showMessageBox(QObject* watched, const QEvent* e)
+{
+    const auto& box = static_cast<const VxMsgBoxEvent&>(*e);
+    const CString_E text = box.text;
+    const CString_E caption = box.caption;
+    MessageBox_E(qobject_cast<QWidget*>(watched), text.GetString(), caption.GetString(), 0);
+    return true;
+}
+
+} // namespace
+
+bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
+{
+    tagMSG msg;
+    const bool isMessage = vx::detail::translateEvent(watched, e, &msg);
+    if (!isMessage && e->type() != VxMsgBoxEvent::EventType) {
+        ForgetPending(e);
+        return CCmdTarget_E::eventFilter(watched, e);
+    }
+    // A handler may delete the window, its widget, or both.
+    const QPointer<CWnd_E> self(this);
+    const QPointer<QObject> receiver(watched);
+    QEvent* const previous = std::exchange(m_pCurrentEvent, e);
+    const bool consumed = isMessage ? DispatchMessage(watched, e, msg) : showMessageBox(watched, e);
+    if (self) {
+        ForgetPending(e);
+        m_pCurrentEvent = previous;
+    }
+    return consumed || !receiver;
+}
+
+bool CWnd_E::DispatchMessage(QObject* watched, QEvent* e, tagMSG& msg)
+{
+    const QPointer<CWnd_E> self(this);
+    const QPointer<QObject> receiver(watched);
+    const bool wasAccepted = e->isAccepted();
+    e->setAccepted(true);
+    FillIfSeen(msg);
+    if (PreTranslateMessage(&msg))
+        return true;
+    if (!receiver)
+        return true;
+    TranslateMessage(watched, e, &msg);
+    LRESULT result = 0;
+    const bool handled = self && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
+    // Intended: a close that a handler did not accept goes no further either.
+    if (handled && (e->isAccepted() || e->type() == QEvent::Close)) {
+        if (e->type() == VxWinMsgEvent::EventType)
+            static_cast<VxWinMsgEvent*>(e)->result = result;
+        return true;
+    }
+    e->setAccepted(wasAccepted);
+    return false;
+}
+
+// Only an override of PreTranslateMessage() ever looks at the time and the cursor position: handlers
+// get wParam and lParam. The position costs a trip to the X server, so it is not fetched for nobody.
+void CWnd_E::FillIfSeen(tagMSG& msg) const
+{
+    if (!vx::detail::seesMessages(*this))
+        return;
+    vx::detail::stampMessage(&msg);
+}
+
+BOOL CWnd_E::PreTranslateMessage(tagMSG*)
+{
+    return FALSE;
+}
+
+BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    LRESULT result = 0;
+    if (message == WM_SETCURSOR && reinterpret_cast<QWidget*>(wParam) == GetSafeHwnd() && wParam != 0) {
+        const QPointer<CWnd_E> self(this);
+        if (OfferSetCursorToAncestors(wParam, lParam, pResult))
+            return TRUE;
+        if (!self)
+            return FALSE;
+    }
+    const auto it = m_mapMessages.find(message);
+    if (it == m_mapMessages.end())
+        return FALSE;
+    const AFX_MSGMAP_ENTRY_E entry = it->second; // the handler may change the map
+    if (!vx::detail::callHandler(this, entry, wParam, lParam, result))
+        return FALSE;
+    if (pResult)
+        *pResult = result;
+    return TRUE;
+}
+
+bool CWnd_E::OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult) const
+{
+    std::vector<QPointer<QWidget>> ancestors;
+    for (QWidget* pWidget = GetSafeHwnd(); pWidget && !pWidget->isWindow();) {
+        pWidget = pWidget->parentWidget();
+        ancestors.emplace_back(pWidget);
+    }
+    for (auto it = ancestors.rbegin(); it != ancestors.rend(); ++it) {
+        CWnd_E* const pWindow = FromHandlePermanent(*it);
+        LRESULT result = 0;
+        if (pWindow && pWindow->OnWndMsg(WM_SETCURSOR, wParam, lParam, &result) && result != 0) {
+            if (pResult)
+                *pResult = result;
+            return true;
+        }
+    }
+    return false;
+}
+
+void CWnd_E::AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnE)
+{
+    AddMsgMapEntry(message, {nSig, pfn, pfnE});
+}
+
+void CWnd_E::AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry)
+{
+    m_mapMessages[message] = entry;
+}
+
+LRESULT CWnd_E::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return SendMessage_E(GetSafeHwnd(), message, wParam, lParam);
+}
+
+BOOL CWnd_E::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return PostMessage_E(GetSafeHwnd(), message, wParam, lParam);
+}
+
+BOOL CWnd_E::SendEvent(QEvent* e)
+{
+    if (!e || !GetSafeHwnd())
+        return FALSE;
+    QCoreApplication::sendEvent(GetSafeHwnd(), e);
+    return TRUE;
+}
+
+BOOL CWnd_E::PostEvent(QEvent* e, int nPriority, bool bCompress)
+{
+    std::unique_ptr<QEvent> owned(e);
+    if (!e || !GetSafeHwnd())
+        return FALSE;
+    if (bCompress) {
+        const auto sameType = [e](const PendingEvent& pending) { return pending.type == e->type(); };
+        if (std::any_of(m_pendingEvents.cbegin(), m_pendingEvents.cend(), sameType))
+            return FALSE;
+        m_pendingEvents.append({e, e->type()});
+    }
+    QCoreApplication::postEvent(GetSafeHwnd(), owned.release(), nPriority);
+    return TRUE;
+}
+
+void CWnd_E::ForgetPending(const QEvent* e)
+{
+    if (m_pendingEvents.isEmpty())
+        return;
+    const auto it = std::find_if(m_pendingEvents.begin(), m_pendingEvents.end(),
+                                 [e](const PendingEvent& pending) { return pending.event == e; });
+    if (it != m_pendingEvents.end())
+        m_pendingEvents.erase(it);
+}
+
+void CWnd_E::SetCurrentEventAccepted(bool bAccepted)
+{
+    if (m_pCurrentEvent)
+        m_pCurrentEvent->setAccepted(bAccepted);
+}

@@ -1,0 +1,102 @@
+// Making and destroying windows.
+#include <VxMFCEmu/wnd/window.h>
+
+#include <VxMFCEmu/wnd/windowfunctions.h>
+
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QScrollBar>
+
+BOOL CWnd_E::AttachDefault(QWidget* pParent)
+{
+    auto* const pWidget = new QWidget(pParent);
+    pWidget->setAttribute(Qt::WA_Hover);
+    pWidget->setAttribute(Qt::WA_MouseTracking);
+    return Attach(pWidget, pParent, false);
+}
+
+void CWnd_E::SetupUI() {}
+
+BOOL CWnd_E::Create(QWidget* pParent)
+{
+    return AttachDefault(pParent ? pParent : TolmGetMainFrame());
+}
+
+BOOL CWnd_E::Create(UINT dwStyle, QWidget* pParent)
+{
+    m_dwStyle = dwStyle;
+    if (!AttachDefault(pParent ? pParent : TolmGetMainFrame()))
+        return FALSE;
+    ShowAsStyled();
+    return TRUE;
+}
+
+BOOL CWnd_E::Create(UINT dwStyle, const tagRECT& rect, QWidget* pParent)
+{
+    m_dwStyle = dwStyle;
+    if (const BOOL bCreated = Create(pParent); !bCreated)
+        return bCreated;
+    MoveWindow(&rect, FALSE);
+    ShowAsStyled();
+    return TRUE;
+}
+
+void CWnd_E::ShowAsStyled()
+{
+    if (m_dwStyle & WS_VISIBLE)
+        ShowWindow(SW_SHOW);
+    if (m_dwStyle & WS_VSCROLL)
+        ShowScrollBar(SB_VERT, TRUE);
+    if (m_dwStyle & WS_HSCROLL)
+        ShowScrollBar(SB_HORZ, TRUE);
+}
+
+int CWnd_E::OnCreate(tagCREATESTRUCTW*)
+{
+    return 0;
+}
+
+BOOL CWnd_E::DestroyWindow()
+{
+    return DestroyWindow_E(GetSafeHwnd());
+}
+
+void CWnd_E::OnClose()
+{
+    DestroyWindow();
+}
+
+void CWnd_E::OnDestroy()
+{
+    delete m_pHScrollBar;
+    delete m_pVScrollBar;
+    delete m_pMenuBar;
+}
+
+void CWnd_E::OnNcDestroy()
+{
+    Detach();
+    PostNcDestroy();
+}
+
+void CWnd_E::PostNcDestroy() {}
+
+BOOL DestroyWindow_E(QWidget* pWidget)
+{
+    if (!pWidget)
+        return FALSE;
+    // Handlers may delete the window, the widget or any child.
+    const QPointer<QWidget> widget(pWidget);
+    widget->hide();
+    const QPointer<CWnd_E> window(CWnd_E::FromHandlePermanent(widget));
+    if (window)
+        window->SendMessage(WM_DESTROY);
+    if (widget) {
+        const QObjectList children = widget->children();
+        const std::vector<QPointer<QObject>> childObjects(children.cbegin(), children.cend());
+        for (const QPointer<QObject>& child : childObjects)
+            DestroyWindow_E(qobject_cast<QWidget*>(child));
+    }
+    if (window && widget && window->GetSafeHwnd() == widget)
+        window->SendMessage(WM_NCDESTROY);
+    return TRUE;
+}
