@@ -26,9 +26,9 @@ public:
     explicit Report(const QString& path) : m_path(path) { QFile::remove(path); }
 
     /// Waits for a line that matches; an empty match when none comes in time.
-    QRegularExpressionMatch waitFor(const char* pattern) const
+    QRegularExpressionMatch waitFor(const QString& pattern) const
     {
-        const QRegularExpression expression(QStringLiteral("^%1$").arg(QLatin1String(pattern)),
+        const QRegularExpression expression(QStringLiteral("^%1$").arg(pattern),
                                             QRegularExpression::MultilineOption);
         QElapsedTimer clock;
         clock.start();
@@ -39,7 +39,7 @@ public:
                 match = expression.match(QString::fromUtf8(file.readAll()));
             QThread::msleep(10);
         }
-        std::printf("%s  %s\n", match.hasMatch() ? "ok     " : "MISSING", pattern);
+        std::printf("%s  %s\n", match.hasMatch() ? "ok     " : "MISSING", qUtf8Printable(pattern));
         return match;
     }
 
@@ -55,25 +55,27 @@ QRect rectOf(const QRegularExpressionMatch& match)
 
 bool drive(XRobot& robot, const Report& report, const QString& screenshot)
 {
-    const QRect tracker = rectOf(report.waitFor("geometry tracker (\\d+) (\\d+) (\\d+) (\\d+)"));
-    const QRect post = rectOf(report.waitFor("geometry post (\\d+) (\\d+) (\\d+) (\\d+)"));
-    if (!report.waitFor("ready").hasMatch())
+    const QRect tracker = rectOf(report.waitFor(QStringLiteral("geometry tracker (\\d+) (\\d+) (\\d+) (\\d+)")));
+    const QRect post = rectOf(report.waitFor(QStringLiteral("geometry post (\\d+) (\\d+) (\\d+) (\\d+)")));
+    if (!report.waitFor(QStringLiteral("ready")).hasMatch())
         return false;
 
     const struct
     {
         std::function<void()> action;
-        const char* expected;
+        QString expected;
     } steps[] = {
-        {[&] { robot.move(tracker.topLeft() + QPoint(20, 25)); }, "WM_MOUSEMOVE 20,25"},
-        {[] {}, "WM_SETCURSOR for the tracker"},
-        {[&] { robot.click(tracker.topLeft() + QPoint(30, 40)); }, "WM_LBUTTONDOWN 30,40 flags 1"},
-        {[&] { robot.type(XK_a); }, "WM_KEYDOWN 0x41"},
-        {[] {}, "WM_CHAR 'a'"},
-        {[&] { robot.type(XK_F5); }, "WM_KEYDOWN 0x74"},
-        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 3); }, "WM_RBUTTONDOWN 50,60 flags 2"},
-        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 4); }, "WM_MOUSEWHEEL 120"},
-        {[&] { robot.click(post.center()); }, "WM_TRACKER_PING 1"},
+        {[&] { robot.move(tracker.topLeft() + QPoint(20, 25)); }, QStringLiteral("WM_MOUSEMOVE 20,25")},
+        {[] {}, QStringLiteral("WM_SETCURSOR for the tracker")},
+        {[&] { robot.click(tracker.topLeft() + QPoint(30, 40)); }, QStringLiteral("WM_LBUTTONDOWN 30,40 flags 1")},
+        {[&] { robot.type(XK_a); }, QStringLiteral("WM_KEYDOWN 0x41")},
+        {[] {}, QStringLiteral("WM_CHAR 'a'")},
+        {[&] { robot.type(XK_F5); }, QStringLiteral("WM_KEYDOWN 0x74")},
+        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 3); }, QStringLiteral("WM_RBUTTONDOWN 50,60 flags 2")},
+        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 4); }, QStringLiteral("WM_MOUSEWHEEL 120")},
+        {[&] { robot.click(post.center()); }, QStringLiteral("WM_TRACKER_PING 1")},
+        {[&] { robot.resizeWindow(kTitle, {900, 580}); },
+         QStringLiteral("WM_SIZE %1,%2").arg(tracker.width() + 40).arg(tracker.height() + 20)},
     };
     bool passed = true;
     for (const auto& step : steps) {
@@ -82,7 +84,7 @@ bool drive(XRobot& robot, const Report& report, const QString& screenshot)
     }
     passed = robot.screenshot().copy(0, 0, 880, 590).save(screenshot) && passed;
     passed = robot.closeWindow(kTitle) && passed;
-    return report.waitFor("WM_DESTROY").hasMatch() && passed;
+    return report.waitFor(QStringLiteral("WM_DESTROY")).hasMatch() && passed;
 }
 
 } // namespace

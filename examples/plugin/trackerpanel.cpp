@@ -8,6 +8,18 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 
+IMPLEMENT_DYNAMIC_E(CDrawingWnd, CWnd_E, QWidget)
+
+BEGIN_MESSAGE_MAP_E(CDrawingWnd, CWnd_E)
+    ON_WM_SIZE_E()
+END_MESSAGE_MAP_E()
+
+void CDrawingWnd::OnSize(UINT nType, int cx, int cy)
+{
+    m_panel.FillDrawing(cx, cy);
+    CWnd_E::OnSize(nType, cx, cy);
+}
+
 IMPLEMENT_DYNAMIC_E(CTrackerPanel, CWnd_E, QWidget)
 
 BEGIN_MESSAGE_MAP_E(CTrackerPanel, CWnd_E)
@@ -17,15 +29,31 @@ BEGIN_MESSAGE_MAP_E(CTrackerPanel, CWnd_E)
     CObject_E::Connect(IDC_CLEAR, SIGNAL(clicked()), this, SLOT(OnClear()), GetSafeHwnd());
 END_MESSAGE_MAP_E()
 
+CTrackerPanel::CTrackerPanel(const CString_E& strReportPath)
+    : m_wndDrawing(*this), m_strReportPath(strReportPath)
+{
+}
+
 BOOL CTrackerPanel::CreateInView()
 {
-    if (!Create(WS_CHILD, CRect_E(24, 24, 664, 384), TolmGetViewWindow()))
+    CWnd_E* const pView = CWnd_E::FromHandle(TolmGetViewWindow());
+    if (!pView || !m_wndDrawing.SubclassDlgItem("CTolmView", pView) ||
+        !Create(WS_CHILD, m_wndDrawing.GetSafeHwnd()))
         return FALSE;
+    CRect_E rect;
+    m_wndDrawing.GetClientRect(&rect);
+    FillDrawing(rect.Width(), rect.Height());
     SetupUI();
     OnMessageMap(); // the buttons exist now
     ShowWindow(SW_SHOW);
     QTimer::singleShot(0, this, [this] { ReportReady(); });
     return TRUE;
+}
+
+void CTrackerPanel::FillDrawing(int cx, int cy)
+{
+    constexpr int nMargin = 16;
+    MoveWindow(CRect_E(nMargin, nMargin, cx - nMargin, cy - nMargin));
 }
 
 void CTrackerPanel::SetupUI()

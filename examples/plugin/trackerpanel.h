@@ -2,16 +2,35 @@
 
 #include "trackerwnd.h"
 
+class CTrackerPanel;
+
+/// The host's drawing, watched for its size so that the panel can follow it.
+class CDrawingWnd : public CWnd_E
+{
+    Q_OBJECT
+    DECLARE_DYNAMIC_E(CDrawingWnd)
+
+    explicit CDrawingWnd(CTrackerPanel& panel) : m_panel(panel) {}
+    void OnSize(UINT nType, int cx, int cy);
+
+    DECLARE_MESSAGE_MAP_E()
+
+private:
+    CTrackerPanel& m_panel;
+};
+
 /// The plug-in's window: the tracker, the list of what it reported, and two buttons.
 class CTrackerPanel : public CWnd_E
 {
     Q_OBJECT
     DECLARE_DYNAMIC_E(CTrackerPanel)
 
-    explicit CTrackerPanel(const CString_E& strReportPath) : m_strReportPath(strReportPath) {}
+    explicit CTrackerPanel(const CString_E& strReportPath);
 
     /// Builds the panel inside the host's drawing.
     BOOL CreateInView();
+    /// Fills a drawing of this size but for a margin.
+    void FillDrawing(int cx, int cy);
 
     void SetupUI() override;
     void PostNcDestroy() override;
@@ -30,6 +49,7 @@ private:
     void WriteGeometry(const wchar_t* lpszName, QWidget* pWidget) const;
     void ReportReady();
 
+    CDrawingWnd m_wndDrawing;
     CTrackerWnd m_wndTracker;
     CString_E m_strReportPath;
     UINT m_nPosted = 0;

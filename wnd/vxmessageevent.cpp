@@ -1,0 +1,3 @@
+#include <VxMFCEmu/wnd/messageevent.h>
+
+VxWinMsgEvent::~VxWinMsgEvent() = default;
