@@ -3,12 +3,10 @@ add_library(vxmfc_flags INTERFACE)
 target_compile_options(vxmfc_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
   $<$<BOOL:${VXMFC_WARNINGS_AS_ERRORS}>:-Werror>
-  $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
   # Unique symbols would pin a library in memory after dlclose.
   $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 target_compile_definitions(vxmfc_flags INTERFACE
   QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_DEPRECATED_WARNINGS)
-target_link_options(vxmfc_flags INTERFACE -Wl,--no-undefined)
 
 if(VXMFC_SANITIZE STREQUAL "address")
   set(_vxmfc_sanitize -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
@@ -20,4 +18,7 @@ endif()
 if(_vxmfc_sanitize)
   target_compile_options(vxmfc_flags INTERFACE ${_vxmfc_sanitize})
   target_link_options(vxmfc_flags INTERFACE ${_vxmfc_sanitize})
+else()
+  # Not with sanitizers: a library finds their run-time system in the program that loads it.
+  target_link_options(vxmfc_flags INTERFACE -Wl,--no-undefined)
 endif()

@@ -16,5 +16,8 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/VxMFCEmuConfigVersion.cm
 install(FILES "${PROJECT_BINARY_DIR}/VxMFCEmuConfig.cmake" "${PROJECT_BINARY_DIR}/VxMFCEmuConfigVersion.cmake"
   DESTINATION "${VXMFC_PACKAGE_DIR}")
 
+# Relative to itself, so that the tree can be installed anywhere and moved.
+file(RELATIVE_PATH VXMFC_PREFIX_FROM_PC "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" VXMFC_PREFIX_FROM_PC "${VXMFC_PREFIX_FROM_PC}")
 configure_file("${PROJECT_SOURCE_DIR}/cmake/VxMFCEmu.pc.in" "${PROJECT_BINARY_DIR}/VxMFCEmu.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/VxMFCEmu.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
