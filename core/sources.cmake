@@ -1,7 +1,12 @@
 vxmfc_sources(FOLDER core
   HEADERS
     core/cmdtarget.h
+    core/fixedalloc.h
+    core/handlemap.h
+    core/mapptrtoptr.h
     core/object.h
+    core/plex.h
+    core/position.h
     core/runtimeclass.h
   SOURCES
     vxcreateregistry.cpp
@@ -9,4 +14,7 @@ vxmfc_sources(FOLDER core
     vxincoming.cpp
     vxobject.cpp
     vxcmdtarget.cpp
-    vxinterim.cpp)
+    vxplex.cpp
+    vxfixedalloc.cpp
+    vxmapptrtoptr.cpp
+    vxhandlemap.cpp

@@ -3,5 +3,16 @@
 #pragma once
 
 #include <VxMFCEmu/core/cmdtarget.h>
+#include <VxMFCEmu/core/extensionmodule.h>
+#include <VxMFCEmu/core/fixedalloc.h>
+#include <VxMFCEmu/core/handlemap.h>
+#include <VxMFCEmu/core/mapptrtoptr.h>
+#include <VxMFCEmu/core/modulestate.h>
+#include <VxMFCEmu/core/notrackobject.h>
 #include <VxMFCEmu/core/object.h>
+#include <VxMFCEmu/core/plex.h>
+#include <VxMFCEmu/core/position.h>
 #include <VxMFCEmu/core/runtimeclass.h>
+#include <VxMFCEmu/core/simplelist.h>
+#include <VxMFCEmu/core/threadlocal.h>
+#include <VxMFCEmu/core/threadslots.h>

@@ -1,2 +1,7 @@
 /// @file sys.h
+/// System services: the Win32 functions without windows.
 #pragma once
+
+#include <VxMFCEmu/sys/criticalsection.h>
+#include <VxMFCEmu/sys/memory.h>
+#include <VxMFCEmu/sys/tls.h>

@@ -1,0 +1,9 @@
+vxmfc_sources(FOLDER sys
+  HEADERS
+    sys/criticalsection.h
+    sys/memory.h
+    sys/tls.h
+  SOURCES
+    vxmemory.cpp
+    vxtls.cpp
+    vxcriticalsection.cpp)
