@@ -1,6 +1,12 @@
 vxmfc_sources(FOLDER core
   HEADERS
+    core/bstr.h
     core/cmdtarget.h
+    core/dumpcontext.h
+    core/exceptions.h
+    core/lasterror.h
+    core/log.h
+    core/memorystate.h
     core/object.h
     core/runtimeclass.h
   SOURCES
@@ -9,4 +15,13 @@ vxmfc_sources(FOLDER core
     vxincoming.cpp
     vxobject.cpp
     vxcmdtarget.cpp
+    vxbstr.cpp
+    vxlasterror.cpp
+    vxformatmessage.cpp
+    vxexcept.cpp
+    vxfileexcept.cpp
+    vxoleexcept.cpp
+    vxmemorystate.cpp
+    vxdumpcontext.cpp
+    vxlog.cpp
     vxinterim.cpp)
