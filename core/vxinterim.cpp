@@ -1,8 +1,6 @@
-// Stands in until the resource names and the window layer are there.
-#include <VxMFCEmu/text/resourcename.h>
+// Stands in until the window layer is there.
 #include <VxMFCEmu/wnd/globaleventhandler.h>
 #include <VxMFCEmu/wnd/resourceids.h>
 
-QString GetMfyResourceName() { return {}; }
 QString ToStringId(UINT) { return {}; }
 void AppendTempObjectPool(QObject*) {}
