@@ -1,9 +1,15 @@
 vxmfc_sources(FOLDER core
   HEADERS
+    core/bstr.h
     core/cmdtarget.h
     core/fixedalloc.h
     core/handlemap.h
     core/mapptrtoptr.h
+    core/dumpcontext.h
+    core/exceptions.h
+    core/lasterror.h
+    core/log.h
+    core/memorystate.h
     core/object.h
     core/plex.h
     core/position.h
@@ -18,3 +24,12 @@ vxmfc_sources(FOLDER core
     vxfixedalloc.cpp
     vxmapptrtoptr.cpp
     vxhandlemap.cpp
+    vxbstr.cpp
+    vxlasterror.cpp
+    vxformatmessage.cpp
+    vxexcept.cpp
+    vxfileexcept.cpp
+    vxoleexcept.cpp
+    vxmemorystate.cpp
+    vxdumpcontext.cpp
+    vxlog.cpp)

@@ -1,2 +1,5 @@
 /// @file coll.h
+/// Collections, files and archives.
 #pragma once
+
+#include <VxMFCEmu/coll/file.h>

@@ -1,0 +1,5 @@
+vxmfc_sources(FOLDER dlg
+  HEADERS
+    dlg/messagebox.h
+  SOURCES
+    vxmessagebox.cpp)

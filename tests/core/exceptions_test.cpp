@@ -1,0 +1,295 @@
+#include <VxMFCEmu/core/exceptions.h>
+
+#include <cerrno>
+#include <memory>
+
+namespace {
+
+template <typename Exception, typename Throw>
+Exception* caught(Throw doThrow)
+{
+    try {
+        doThrow();
+    } catch (Exception* pException) {
+        return pException;
+    }
+    return nullptr;
+}
+
+struct Deleter
+{
+    void operator()(CException_E* p) const { p->Delete(); }
+};
+template <typename Exception>
+using Held = std::unique_ptr<Exception, Deleter>;
+
+template <typename Exception, typename Throw>
+Held<Exception> hold(Throw doThrow)
+{
+    return Held<Exception>(caught<Exception>(doThrow));
+}
+
+std::wstring messageOf(CException_E& e, UINT room = 200)
+{
+    std::wstring buffer(room + 1, L'\0');
+    UINT help = 77;
+    if (!e.GetErrorMessage(buffer.data(), room, &help))
+        return L"<none>";
+    EXPECT_EQ(help, 0U);
+    return buffer.c_str();
+}
+
+struct PlainException : CException_E
+{
+    explicit PlainException(int* pDeaths = nullptr, BOOL bAutoDelete = TRUE)
+        : CException_E(bAutoDelete), m_pDeaths(pDeaths) {}
+    ~PlainException() override
+    {
+        if (m_pDeaths)
+            ++*m_pDeaths;
+    }
+    int* m_pDeaths;
+};
+
+TEST(Exceptions, SharedOnesAreThrownAgainAndSurviveDelete)
+{
+    const struct
+    {
+        int line;
+        void (*doThrow)();
+        CException_E* pExpected;
+    } rows[] = {
+        {__LINE__, &AfxThrowMemoryException_E, &_simpleMemoryException},
+        {__LINE__, &AfxThrowNotSupportedException_E, &_simpleNotSupportedException},
+        {__LINE__, &AfxThrowInvalidArgException_E, &_simpleInvalidArgException},
+        {__LINE__, &AfxThrowResourceException_E, &_simpleResourceException},
+        {__LINE__, &AfxThrowUserException_E, &_simpleUserException},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        for (int round = 0; round < 2; ++round) {
+            auto* const p = caught<CException_E>(row.doThrow);
+            ASSERT_EQ(p, row.pExpected);
+            p->Delete();
+            EXPECT_EQ(messageOf(*p), L"CException");
+        }
+    }
+    EXPECT_THROW(caught<CMemoryException_E>(&AfxThrowUserException_E), CUserException_E*);
+}
+
+TEST(Exceptions, DeleteFollowsTheAutoDeleteFlag)
+{
+    int deaths = 0;
+    auto* const p = new PlainException(&deaths, FALSE);
+    p->Delete();
+    EXPECT_EQ(deaths, 0);
+    p->m_bAutoDelete = -1;
+    p->Delete();
+    EXPECT_EQ(deaths, 0);
+    p->m_bAutoDelete = TRUE;
+    p->Delete();
+    EXPECT_EQ(deaths, 1);
+}
+
+TEST(Exceptions, RecordsCannotTellKindsApart)
+{
+    const Held<CException_E> pFile(new CFileException_E);
+    const CObject_E plain;
+    for (const CRuntimeClass_E* pClass : {RUNTIME_CLASS_E(CException_E), RUNTIME_CLASS_E(COleException_E)}) {
+        EXPECT_TRUE(pFile->IsKindOf(pClass));
+        EXPECT_TRUE(plain.IsKindOf(pClass));
+        EXPECT_STREQ(pClass->GetClassName(), "CObject_E");
+        EXPECT_STREQ(pClass->GetImpClassName(), "QObject");
+    }
+    EXPECT_EQ(pFile->GetRuntimeClass(), RUNTIME_CLASS_E(CException_E));
+    EXPECT_EQ(RUNTIME_CLASS_E(COleException_E)->GetObjectSize(), 48);
+}
+
+TEST(Exceptions, SimpleMessageIsCutWithoutATerminator)
+{
+    wchar_t buffer[12];
+    std::fill(std::begin(buffer), std::end(buffer), L'#');
+    EXPECT_TRUE(_simpleUserException.GetErrorMessage(buffer, 4));
+    EXPECT_EQ(std::wstring(buffer, 12), L"CExc########");
+    EXPECT_FALSE(_simpleUserException.GetErrorMessage(nullptr, 4));
+    EXPECT_FALSE(_simpleUserException.GetErrorMessage(buffer, 0));
+}
+
+TEST(Exceptions, BaseHasNoMessage)
+{
+    PlainException e;
+    wchar_t buffer[] = L"old";
+    UINT help = 5;
+    EXPECT_FALSE(e.GetErrorMessage(buffer, 4, &help));
+    EXPECT_STREQ(buffer, L"");
+    EXPECT_EQ(help, 0U);
+    EXPECT_FALSE(e.GetErrorMessage(nullptr, 0, nullptr));
+}
+
+TEST(FileException, CausesOfErrnoNumbers)
+{
+    const std::map<int, int> special = {{1, 5},  {2, 2},  {5, 10}, {9, 6},   {13, 5}, {22, 10},
+                                        {23, 2}, {24, 4}, {28, 13}, {36, 11}};
+    for (int n = -2; n < 200; ++n) {
+        const auto it = special.find(n);
+        EXPECT_EQ(CFileException_E::ErrnoToException(n), it == special.end() ? 1 : it->second) << n;
+    }
+}
+
+TEST(FileException, CausesOfOsErrors)
+{
+    const std::map<int, std::vector<int>> byCause = {
+        {0, {0}},
+        {2, {2, 6, 18, 107}},
+        {3, {3,  15, 17,  34,  52,  53,  55,  67,  70,  85,
+             111, 123, 124, 125, 144, 154, 161, 206, 208, 267}},
+        {4, {4, 36, 68, 113}},
+        {5, {5, 12, 19, 29, 54, 58, 64, 65, 71, 80, 82, 86, 170, 183, 999}},
+        {6, {11, 26, 60, 66, 114, 182, 191, 193}},
+        {7, {16, 145}},
+        {8, {62}},
+        {9, {24, 25, 27, 30, 131, 132}},
+        {10, {20, 21, 22, 23, 57, 59, 88, 117, 995, 996, 997}},
+        {11, {32}},
+        {12, {33, 108, 167}},
+        {13, {39, 112}},
+        {14, {38}}};
+    std::map<int, int> expected;
+    for (const auto& [cause, numbers] : byCause) {
+        for (const int number : numbers)
+            expected[number] = cause;
+    }
+    for (const int n : {INT_MIN, -1, 1000, INT_MAX})
+        expected[n] = 1;
+    for (int n = 0; n < 1010; ++n)
+        expected.emplace(n, 1);
+    for (const auto& [number, cause] : expected)
+        EXPECT_EQ(CFileException_E::OsErrorToException(number), cause) << number;
+}
+
+TEST(FileException, ThrowsFromErrorNumbers)
+{
+    const auto pErrno = hold<CFileException_E>([] { CFileException_E::ThrowErrno(EACCES, L"a.txt"); });
+    ASSERT_TRUE(pErrno);
+    EXPECT_EQ(pErrno->m_cause, CFileException_E::accessDenied);
+    EXPECT_EQ(pErrno->m_lOsError, 0);
+    EXPECT_STREQ(pErrno->m_strFileName.GetString(), L"a.txt");
+    const auto pOs = hold<CFileException_E>([] { CFileException_E::ThrowOsError(112, nullptr); });
+    ASSERT_TRUE(pOs);
+    EXPECT_EQ(pOs->m_cause, CFileException_E::diskFull);
+    EXPECT_EQ(pOs->m_lOsError, 112);
+    EXPECT_NO_THROW(CFileException_E::ThrowErrno(0, L"a"));
+    EXPECT_NO_THROW(CFileException_E::ThrowOsError(0, L"a"));
+}
+
+TEST(FileException, MessageIsCopiedWholeOrNotAtAll)
+{
+    CFileException_E file(2, 7, L"x.dat");
+    const std::wstring text = L"cause: 2, error: 7, file: x.dat\n";
+    const auto length = static_cast<UINT>(text.size());
+    EXPECT_EQ(messageOf(file), text);
+    EXPECT_EQ(messageOf(file, length), text);
+    std::wstring untouched(40, L'#');
+    EXPECT_FALSE(file.GetErrorMessage(untouched.data(), length - 1));
+    EXPECT_EQ(untouched, std::wstring(40, L'#'));
+    // Just fits: all of the text and nothing behind it.
+    EXPECT_TRUE(file.GetErrorMessage(untouched.data(), length));
+    EXPECT_EQ(untouched, text + std::wstring(40 - length, L'#'));
+
+    CFileException_E unnamed(1, 0);
+    EXPECT_EQ(messageOf(unnamed), L"cause: 1, error: 0, file: AFX_IDS_UNNAMED_FILE\n");
+    const auto pArchive = hold<CArchiveException_E>([] { AfxThrowArchiveException_E(4, L"a%d"); });
+    ASSERT_TRUE(pArchive);
+    EXPECT_EQ(messageOf(*pArchive), L"cause: 4, file: a%d\n");
+    EXPECT_EQ(messageOf(*pArchive, 5), L"<none>");
+}
+
+TEST(OleException, CarriesItsStatusCode)
+{
+    const auto pInt = hold<COleException_E>([] { AfxThrowOleException_E(-5); });
+    ASSERT_TRUE(pInt);
+    EXPECT_EQ(pInt->m_sc, -5);
+    EXPECT_EQ(messageOf(*pInt), L"system error! error number: 4294967291");
+    const auto pLong = hold<COleException_E>([] { AfxCheckError_E(-7L); });
+    ASSERT_TRUE(pLong);
+    EXPECT_EQ(pLong->m_sc, -7);
+    EXPECT_NO_THROW(AfxCheckError_E(0));
+    EXPECT_NO_THROW(AfxCheckError_E(0x80004005L)); // positive in 64 bits
+}
+
+TEST(OleException, ProcessReadsTheStatusCodePosition)
+{
+    COleException_E ole;
+    ole.m_sc = 42;
+    const CFileException_E file(CFileException_E::badSeek);
+    const CArchiveException_E archive(CArchiveException_E::badClass);
+    const COleDispatchException_E dispatch(L"d", 0, 0xFFF0);
+    EXPECT_EQ(COleException_E::Process(&ole), 42);
+    EXPECT_EQ(COleException_E::Process(&file), 9);
+    EXPECT_EQ(COleException_E::Process(&archive), 6);
+    EXPECT_EQ(COleException_E::Process(&dispatch), 0xFFF0);
+    EXPECT_EQ(COleException_E::Process(nullptr), E_UNEXPECTED);
+}
+
+TEST(OleDispatchException, HelpContextAndDescription)
+{
+    const auto pText = hold<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, L"why", 0x10); });
+    ASSERT_TRUE(pText);
+    EXPECT_EQ(pText->m_wCode, 3);
+    EXPECT_EQ(pText->m_dwHelpContext, 0x60010U);
+    EXPECT_EQ(messageOf(*pText), L"why");
+    const auto pId = hold<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, 0x20U, 0xFFFFFFFFU); });
+    ASSERT_TRUE(pId);
+    EXPECT_EQ(pId->m_dwHelpContext, 0x60020U);
+    EXPECT_EQ(messageOf(*pId), L"AfxThrowOleDispatchException");
+    EXPECT_EQ(COleDispatchException_E(nullptr, 0, 1).m_dwHelpContext, 0U);
+}
+
+struct Info : EXCEPINFO
+{
+    explicit Info(const CException_E* p) { COleDispatchException_E::Process(this, p); }
+    Q_DISABLE_COPY_MOVE(Info)
+    ~Info()
+    {
+        for (BSTR bstr : {bstrSource, bstrDescription, bstrHelpFile})
+            SysFreeString_E(bstr);
+    }
+};
+
+TEST(OleDispatchException, ProcessFillsTheRecord)
+{
+    COleDispatchException_E e(L"left out", 1, 9);
+    e.m_strSource = L"src";
+    const Info info(&e);
+    EXPECT_EQ(info.wCode, 9);
+    EXPECT_EQ(info.dwHelpContext, 0x60001U);
+    EXPECT_EQ(info.scode, 0);
+    EXPECT_STREQ(info.bstrSource, L"src");
+    EXPECT_STREQ(info.bstrDescription, L""); // the description is not copied
+    EXPECT_STREQ(info.bstrHelpFile, L"");    // there is a help context
+    EXPECT_EQ(SysStringLen_E(info.bstrSource), 3U);
+    EXPECT_EQ(SysStringByteLen_E(info.bstrSource), 12U);
+
+    const Info memory(&_simpleMemoryException);
+    EXPECT_STREQ(memory.bstrDescription, L"AFX_IDP_FAILED_MEMORY_ALLOC");
+    EXPECT_EQ(static_cast<short>(memory.wCode), -3830);
+    EXPECT_EQ(memory.bstrHelpFile, nullptr);
+    const CFileException_E file;
+    const Info other(&file);
+    EXPECT_STREQ(other.bstrDescription, L"AFX_IDP_INTERNAL_FAILURE");
+    EXPECT_EQ(static_cast<short>(other.wCode), -3832);
+    COleDispatchException_E::Process(nullptr, &e);
+}
+
+TEST(Bstr, LengthCountsEmbeddedZeros)
+{
+    BSTR bstr = SysAllocStringLen_E(L"a\0b", 3);
+    EXPECT_EQ(SysStringLen_E(bstr), 3U);
+    EXPECT_EQ(std::wstring(bstr, 4), std::wstring(L"a\0b\0", 4));
+    SysFreeString_E(bstr);
+    EXPECT_EQ(SysAllocString_E(nullptr), nullptr);
+    EXPECT_EQ(SysStringLen_E(nullptr), 0U);
+    SysFreeString_E(nullptr);
+}
+
+} // namespace
