@@ -1,6 +1,5 @@
-// Stands in until the dump context and the resource names are there.
+// Stands in until the dump context is there.
 #include <VxMFCEmu/core/object.h>
-#include <VxMFCEmu/text/resourcename.h>
 #include <VxMFCEmu/wnd/globaleventhandler.h>
 #include <VxMFCEmu/wnd/resourceids.h>
 
@@ -9,7 +8,6 @@
 VXMFC_EXPORT BOOL GetCursorPos_E(tagPOINT* lpPoint);
 
 void CObject_E::Dump(CDumpContext_E&) const {}
-QString GetMfyResourceName() { return {}; }
 QString ToStringId(UINT) { return {}; }
 void AppendTempObjectPool(QObject*) {}
 BOOL GetCursorPos_E(tagPOINT* lpPoint)
