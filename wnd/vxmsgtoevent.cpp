@@ -1,9 +1,10 @@
+#include "wnd/vxmsgtoevent_p.h"
+
 #include <VxMFCEmu/wnd/eventtranslation.h>
 #include <VxMFCEmu/wnd/input.h>
 #include <VxMFCEmu/wnd/messageevent.h>
 #include <VxMFCEmu/wnd/winmessages.h>
 
-#include "wnd/vxeventtable_p.h"
 #include "wnd/vxrowindex_p.h"
 
 #include <QtGui/QKeyEvent>

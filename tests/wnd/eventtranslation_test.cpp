@@ -1,0 +1,393 @@
+#include "support/waiting.h"
+
+#include <VxMFCEmu/wnd/eventtranslation.h>
+#include <VxMFCEmu/wnd/messageevent.h>
+
+namespace {
+
+using EventPtr = std::shared_ptr<QEvent>;
+
+EventPtr mouse(QEvent::Type type, QPointF at, Qt::MouseButton button,
+               Qt::MouseButtons buttons = Qt::NoButton, Qt::KeyboardModifiers mods = Qt::NoModifier)
+{
+    return std::make_shared<QMouseEvent>(type, at, at, QPointF(at.x() + 1000, at.y() + 1000),
+                                         button, buttons, mods);
+}
+
+EventPtr key(QEvent::Type type, int code, Qt::KeyboardModifiers mods = Qt::NoModifier,
+             const QString& text = QString())
+{
+    return std::make_shared<QKeyEvent>(type, code, mods, text);
+}
+
+EventPtr wheel(QPointF at, QPoint angle)
+{
+    return std::make_shared<QWheelEvent>(at, at + QPointF(500, 500), QPoint(), angle,
+                                         Qt::LeftButton, Qt::ShiftModifier, Qt::NoScrollPhase,
+                                         false);
+}
+
+EventPtr hover(QEvent::Type type, QPointF at, Qt::KeyboardModifiers mods)
+{
+    return std::make_shared<QHoverEvent>(type, at, QPointF(), mods);
+}
+
+EventPtr plain(int type) { return std::make_shared<QEvent>(static_cast<QEvent::Type>(type)); }
+
+class Translation : public testing::Test
+{
+protected:
+    QWidget w;
+    WPARAM address() { return reinterpret_cast<WPARAM>(&w); }
+};
+
+TEST_F(Translation, GivesEveryEventItsMessage)
+{
+    const auto L = Qt::LeftButton;
+    const auto R = Qt::RightButton;
+    const auto M = Qt::MiddleButton;
+    const auto X = Qt::XButton1;
+    const auto shift = Qt::ShiftModifier;
+    const auto control = Qt::ControlModifier;
+    const auto alt = Qt::AltModifier;
+    using E = QEvent;
+    const struct
+    {
+        int line;
+        EventPtr event;
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+    } rows[] = {
+        {__LINE__, std::make_shared<QTimerEvent>(77), 0x113, 77, 0},
+        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, L, L, shift), 0x201, 5, 0x40003},
+        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, R, L | R, alt), 0x204, 0x23, 0x40003},
+        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, M, M, control), 0x207, 0x18, 0x40003},
+        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, X, X), 0xFFFFFFFF, 0, 0x40003},
+        {__LINE__, mouse(E::MouseButtonRelease, {0.4, 0.5}, L), 0x202, 0, 0x10000},
+        {__LINE__, mouse(E::MouseButtonRelease, {1.5, 2.5}, R, L), 0x205, 1, 0x30002},
+        {__LINE__, mouse(E::MouseButtonRelease, {1, 2}, M), 0x208, 0, 0x20001},
+        {__LINE__, mouse(E::MouseButtonRelease, {1, 2}, X), 0xFFFFFFFF, 0, 0x20001},
+        {__LINE__, mouse(E::MouseButtonDblClick, {1, 2}, L, L), 0x203, 1, 0x20001},
+        {__LINE__, mouse(E::MouseButtonDblClick, {1, 2}, R, R), 0x206, 2, 0x20001},
+        {__LINE__, mouse(E::MouseButtonDblClick, {1, 2}, M, M), 0x209, 0x10, 0x20001},
+        // Halves away from zero, and nothing sign-extended.
+        {__LINE__, mouse(E::MouseMove, {-2.5, -0.5}, Qt::NoButton), 0x200, 0, 0xFFFFFFFD},
+        {__LINE__, mouse(E::MouseMove, {-1.5, 2.4}, Qt::NoButton), 0x200, 0, 0x2FFFE},
+        {__LINE__, mouse(E::MouseMove, {0.5, -2.5}, Qt::NoButton), 0x200, 0, 0xFFFD0001},
+        {__LINE__, key(E::KeyPress, Qt::Key_A), 0x100, 0x41, 1},
+        {__LINE__, key(E::KeyPress, Qt::Key_F4, alt), 0x104, 0x73, 0x200001},
+        {__LINE__, key(E::KeyPress, Qt::Key_A, alt | shift), 0x104, 0x41, 0x240001},
+        {__LINE__, key(E::KeyPress, Qt::Key_Exclam, control), 0x100, 0x31, 0x80001},
+        {__LINE__, key(E::KeyPress, Qt::Key_Aring), 0x100, 0xFFFFFFFF, 1},
+        {__LINE__, key(E::KeyRelease, Qt::Key_Return), 0x101, 0x0D, 0x80000001},
+        {__LINE__, key(E::KeyRelease, Qt::Key_A, alt), 0x105, 0x41, 0x80200001},
+        {__LINE__, key(E::KeyRelease, Qt::Key_unknown), 0x101, 0xFFFFFFFF, 0x80000001},
+        // The modifier keys themselves: a press of Alt is held, its release is not.
+        {__LINE__, key(E::KeyPress, Qt::Key_Alt), 0x104, 0x12, 0x200001},
+        {__LINE__, key(E::KeyRelease, Qt::Key_Alt, alt), 0x101, 0x12, 0x80000001},
+        {__LINE__, plain(E::Leave), 0x2A3, 0, 0},
+        {__LINE__, std::make_shared<QPaintEvent>(QRect(1, 2, 3, 4)), 0xF, 0, 0},
+        {__LINE__, std::make_shared<QResizeEvent>(QSize(640, 480), QSize(1, 2)), 5, 0, 0x1E00280},
+        {__LINE__, std::make_shared<QCloseEvent>(), 0x10, 0, 0},
+        {__LINE__, plain(E::WindowActivate), 6, 1, LPARAM(address())},
+        {__LINE__, plain(E::WindowDeactivate), 6, 0, LPARAM(address())},
+        {__LINE__, plain(E::ShowToParent), 0x18, 0, 0},
+        {__LINE__, wheel({5.5, 6}, {0, 120}), 0x20A, 0x780000, 0x60006},
+        {__LINE__, wheel({5, 6}, {0, -120}), 0x20A, 0xFF880000, 0x60005},
+        {__LINE__, wheel({5, 6}, {-240, 120}), 0x20A, 0xFF100000, 0x60005},
+        {__LINE__,
+         std::make_shared<QContextMenuEvent>(QContextMenuEvent::Mouse, QPoint(7, -1),
+                                             QPoint(70, 80)),
+         0x7B, address(), 0xFFFF0007},
+        {__LINE__, hover(E::HoverEnter, {3.5, 1}, shift), 0x2A1, 4, 0x10004},
+        {__LINE__, hover(E::HoverLeave, {-1, -1}, alt), 0x2A3, 0x20, 0xFFFFFFFF},
+        {__LINE__, std::make_shared<VxWinMsgEvent>(0xC0DE, ~WPARAM(0), LPARAM(-5)), 0xC0DE,
+         ~WPARAM(0), -5},
+    };
+    for (const auto& row : rows) {
+        testing::ScopedTrace trace(__FILE__, row.line, "event");
+        tagMSG msg{};
+        ASSERT_EQ(vxQEventToMsg(&w, row.event.get(), &msg), TRUE);
+        EXPECT_EQ(msg.hwnd, &w);
+        EXPECT_EQ(msg.message, row.message);
+        EXPECT_EQ(msg.wParam, row.wParam);
+        EXPECT_EQ(msg.lParam, row.lParam);
+    }
+}
+
+TEST_F(Translation, KnowsNoOtherEvent)
+{
+    const std::set<int> known{1,  2,  3,  4,  5,  6,  7,   11,  12,  14,
+                              19, 24, 25, 26, 31, 82, 127, 128, 175, 1128};
+    for (int type = 0; type < 2000; ++type) {
+        if (known.count(type))
+            continue;
+        tagMSG msg{};
+        msg.message = 4711;
+        EXPECT_EQ(vxQEventToMsg(&w, plain(type).get(), &msg), FALSE) << type;
+        EXPECT_EQ(msg.message, 4711U) << type;
+    }
+}
+
+TEST_F(Translation, RefusesNullArguments)
+{
+    tagMSG msg{};
+    QCloseEvent close;
+    EXPECT_FALSE(vxQEventToMsg(nullptr, &close, &msg));
+    EXPECT_FALSE(vxQEventToMsg(&w, nullptr, &msg));
+    EXPECT_FALSE(vxQEventToMsg(&w, &close, nullptr));
+    EXPECT_FALSE(TranslateMessage(nullptr, &close, &msg));
+    EXPECT_FALSE(TranslateMessage(&w, nullptr, &msg));
+    EXPECT_FALSE(TranslateMessage(&w, &close, nullptr));
+}
+
+TEST_F(Translation, StampsTimeAndCursor)
+{
+    tagMSG msg{};
+    QCloseEvent close;
+    QCursor::setPos(33, 44);
+    const auto before = QDateTime::currentSecsSinceEpoch();
+    ASSERT_TRUE(vxQEventToMsg(&w, &close, &msg));
+    EXPECT_GE(msg.time, before);
+    EXPECT_LE(msg.time, QDateTime::currentSecsSinceEpoch());
+    EXPECT_EQ(msg.pt.x, 33);
+    EXPECT_EQ(msg.pt.y, 44);
+}
+
+TEST_F(Translation, OfAnObjectThatIsNoWindow)
+{
+    QObject object;
+    tagMSG msg{};
+    msg.hwnd = &w;
+    QCloseEvent close;
+    ASSERT_TRUE(vxQEventToMsg(&object, &close, &msg));
+    EXPECT_EQ(msg.hwnd, nullptr);
+    const EventPtr release = mouse(QEvent::NonClientAreaMouseButtonRelease, {}, Qt::LeftButton);
+    ASSERT_TRUE(vxQEventToMsg(&object, release.get(), &msg));
+    EXPECT_EQ(msg.wParam, 2U);
+}
+
+TEST_F(Translation, TellsThePartOfTheFrame)
+{
+    w.setGeometry(100, 120, 200, 150);
+    w.setContentsMargins(5, 6, 7, 8);
+    const int top = w.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const int right = 200 - 7;
+    const int bottom = 150 - 8;
+    const struct
+    {
+        int line;
+        int x, y; // from the window's corner
+        WPARAM code;
+    } rows[] = {
+        {__LINE__, 5, top + 1, 10},         {__LINE__, 5, bottom - 1, 10},
+        {__LINE__, 6, top + 1, 2},          {__LINE__, 5, top, 2},
+        {__LINE__, 5, bottom, 2},           {__LINE__, -20, -20, 2},
+        {__LINE__, 5, bottom + 1, 15},      {__LINE__, 50, bottom + 1, 15},
+        {__LINE__, 50, bottom, 2},          {__LINE__, right + 1, bottom + 1, 15},
+        {__LINE__, right + 1, top + 1, 11}, {__LINE__, right + 1, bottom - 1, 11},
+        {__LINE__, right, top + 1, 2},      {__LINE__, right + 1, top, 2},
+        {__LINE__, right + 1, bottom, 2},
+    };
+    for (const auto& row : rows) {
+        testing::ScopedTrace trace(__FILE__, row.line, "point");
+        QCursor::setPos(100 + row.x, 120 + row.y);
+        for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
+            tagMSG msg{};
+            const EventPtr e = mouse(QEvent::NonClientAreaMouseButtonRelease, {1, 1}, button);
+            ASSERT_TRUE(vxQEventToMsg(&w, e.get(), &msg));
+            EXPECT_EQ(msg.message, button == Qt::LeftButton ? 0xA2U : 0xFFFFFFFFU);
+            EXPECT_EQ(msg.wParam, row.code);
+            EXPECT_EQ(msg.lParam, ((120 + row.y) << 16) | (100 + row.x));
+        }
+    }
+}
+
+TEST_F(Translation, PrefersTheRightEdgeOfANarrowWindow)
+{
+    w.setGeometry(100, 120, 4, 150);
+    w.setContentsMargins(5, 0, 5, 0);
+    QCursor::setPos(103, 220);
+    tagMSG msg{};
+    const EventPtr e = mouse(QEvent::NonClientAreaMouseButtonRelease, {}, Qt::LeftButton);
+    ASSERT_TRUE(vxQEventToMsg(&w, e.get(), &msg));
+    EXPECT_EQ(msg.wParam, 11U);
+}
+
+TEST_F(Translation, MakesKeyEvents)
+{
+    const QString musicalSign = QString::fromUtf8("\xF0\x9D\x84\x9E");
+    const struct
+    {
+        int line;
+        UINT message;
+        WPARAM wParam;
+        int type;
+        int key;
+        QString text;
+    } rows[] = {
+        {__LINE__, 0x100, 0x41, QEvent::KeyPress, Qt::Key_A, QStringLiteral("65")},
+        {__LINE__, 0x100, 0x30, QEvent::KeyPress, Qt::Key_ParenRight, QStringLiteral("41")},
+        {__LINE__, 0x100, 0x0D, QEvent::KeyPress, Qt::Key_Return, QStringLiteral("16777220")},
+        {__LINE__, 0x101, 0x0D, QEvent::KeyRelease, 0x0D, QStringLiteral("13")},
+        {__LINE__, 0x101, 0x30, QEvent::KeyRelease, Qt::Key_0, QStringLiteral("48")},
+        {__LINE__, 0x102, 0x61, QEvent::KeyPress, 0x61, QStringLiteral("a")},
+        {__LINE__, 0x102, 0, QEvent::KeyPress, 0, QString(QChar(0))},
+        {__LINE__, 0x102, 0xFEFF, QEvent::KeyPress, 0xFEFF, QString(QChar(0xFEFF))},
+        {__LINE__, 0x102, 0x1D11E, QEvent::KeyPress, 0x1D11E, musicalSign},
+        {__LINE__, 0x102, 0x110000, QEvent::KeyPress, 0x110000, QString(QChar(0xFFFD))},
+        {__LINE__, 0x104, 0x78, QEvent::KeyPress, 0x78, QStringLiteral("x")},
+    };
+    for (const auto& row : rows) {
+        testing::ScopedTrace trace(__FILE__, row.line, "message");
+        for (const QWidget* target : {&w, static_cast<QWidget*>(nullptr)}) {
+            const EventPtr e(vxMsgToQEvent(target, row.message, row.wParam, 0x12345678));
+            ASSERT_EQ(e->type(), row.type);
+            const auto& event = static_cast<const QKeyEvent&>(*e);
+            EXPECT_EQ(event.key(), row.key);
+            EXPECT_EQ(event.text(), row.text);
+            EXPECT_EQ(event.modifiers(), Qt::NoModifier);
+        }
+    }
+}
+
+TEST_F(Translation, MakesMouseEvents)
+{
+    w.move(300, 200);
+    QWidget child(&w);
+    child.move(10, 20);
+    const Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+    const QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                  QEvent::MouseButtonDblClick};
+    for (UINT message = 0x200; message <= 0x209; ++message) {
+        for (const QWidget* target : {&child, static_cast<QWidget*>(nullptr)}) {
+            SCOPED_TRACE(message);
+            const EventPtr e(vxMsgToQEvent(target, message, 0xFF, 0xFFFF0003)); // y is not -1
+            const bool move = message == 0x200;
+            const UINT place = message - 0x201;
+            ASSERT_EQ(e->type(), move ? QEvent::MouseMove : types[place % 3]);
+            const auto& event = static_cast<const QMouseEvent&>(*e);
+            EXPECT_EQ(event.button(), move ? Qt::NoButton : buttons[place / 3]);
+            EXPECT_EQ(event.buttons(), Qt::MouseButtons(event.button()));
+            EXPECT_EQ(event.modifiers(), Qt::NoModifier);
+            EXPECT_EQ(event.localPos(), QPointF(3, 65535));
+            EXPECT_EQ(event.windowPos(), target ? QPointF(13, 65555) : event.localPos());
+            EXPECT_EQ(event.screenPos(),
+                      target ? QPointF(child.mapToGlobal(QPoint(3, 65535))) : event.localPos());
+        }
+    }
+}
+
+TEST_F(Translation, MakesResizeEvents)
+{
+    w.resize(70, 80);
+    const EventPtr e(vxMsgToQEvent(&w, 5, 0, 0xFFFF0280));
+    ASSERT_EQ(e->type(), QEvent::Resize);
+    EXPECT_EQ(static_cast<QResizeEvent&>(*e).size(), QSize(640, 65535));
+    EXPECT_EQ(static_cast<QResizeEvent&>(*e).oldSize(), QSize(70, 80));
+    EXPECT_EQ(EventPtr(vxMsgToQEvent(nullptr, 5, 0, 1))->type(), QEvent::Resize);
+}
+
+TEST_F(Translation, CarriesOtherMessagesAsTheyAre)
+{
+    const struct
+    {
+        UINT message;
+        WPARAM wParam;
+    } rows[] = {{0, 1},
+                {6, 1},
+                {0xF, 0},
+                {0x10, 0},
+                {0x103, 65},
+                {0x105, 65},
+                {0x106, 65},
+                {0x1FF, 0},
+                {0x20A, 0},
+                {0x400, 7},
+                {0xFFFFFFFF, 0},
+                {0x100, 0},
+                {0x100, 0x6B},
+                {0x100, 0x100041},
+                {0x100, ~0UL},
+                {0x100, 0xFFFFFFFF},
+                {0x100, 0x100000041}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.message << ", " << row.wParam);
+        const EventPtr e(vxMsgToQEvent(&w, row.message, row.wParam, -9));
+        ASSERT_EQ(int(e->type()), 1128);
+        const auto& event = static_cast<const VxWinMsgEvent&>(*e);
+        EXPECT_EQ(event.message, row.message);
+        EXPECT_EQ(event.wParam, row.wParam);
+        EXPECT_EQ(event.lParam, -9);
+        EXPECT_EQ(event.result, 0);
+    }
+}
+
+/// Notes the messages that arrive, as text.
+class Recorder : public QObject
+{
+public:
+    bool event(QEvent* e) override
+    {
+        if (e->type() != VxWinMsgEvent::EventType)
+            return QObject::event(e);
+        const auto& m = static_cast<const VxWinMsgEvent&>(*e);
+        const QString sender = m.wParam == reinterpret_cast<WPARAM>(this)
+                                   ? QStringLiteral("self")
+                                   : QString::number(m.wParam, 16);
+        seen << QStringLiteral("%1 %2 %3").arg(m.message, 0, 16).arg(sender).arg(m.lParam, 0, 16);
+        return true;
+    }
+    std::string translate(const EventPtr& e, BOOL expected = TRUE)
+    {
+        tagMSG msg{};
+        vxQEventToMsg(this, e.get(), &msg);
+        EXPECT_EQ(TranslateMessage(this, e.get(), &msg), expected);
+        EXPECT_TRUE(seen.isEmpty()) << "sent, not posted";
+        vxtest::deliverPosted();
+        return std::exchange(seen, {}).join(QStringLiteral("; ")).toStdString();
+    }
+    QStringList seen;
+};
+
+TEST(TranslateMessage, PostsTheCharactersOfAKeyPress)
+{
+    Recorder r;
+    const auto press = [](const QString& text, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+        return key(QEvent::KeyPress, Qt::Key_A, mods, text);
+    };
+    EXPECT_EQ(r.translate(press(QStringLiteral("ab"))), "102 61 1; 102 62 1");
+    EXPECT_EQ(r.translate(press(QString())), "");
+    EXPECT_EQ(r.translate(press(QStringLiteral("A"), Qt::ShiftModifier)), "102 41 40001");
+    EXPECT_EQ(r.translate(press(QStringLiteral("x"), Qt::AltModifier | Qt::ControlModifier)),
+              "106 78 280001");
+    EXPECT_EQ(r.translate(press(QString::fromUtf8("\xF0\x9D\x84\x9E!"))), "102 1d11e 1; 102 21 1");
+    const QChar broken[] = {QChar(0xD834), QChar(u'a'), QChar(0xDD1E), QChar(0xD834)};
+    EXPECT_EQ(r.translate(press(QString(broken, 4))),
+              "102 fffd 1; 102 61 1; 102 fffd 1; 102 fffd 1");
+    EXPECT_EQ(r.translate(key(QEvent::KeyRelease, Qt::Key_A, {}, QStringLiteral("a")), FALSE), "");
+}
+
+TEST(TranslateMessage, AsksForACursorAfterMouseMessages)
+{
+    Recorder r;
+    const auto at = QPointF(1, 2);
+    EXPECT_EQ(r.translate(mouse(QEvent::MouseMove, at, Qt::NoButton)), "20 self 2000000");
+    EXPECT_EQ(r.translate(mouse(QEvent::MouseButtonPress, at, Qt::LeftButton)), "20 self 2010000");
+    EXPECT_EQ(r.translate(mouse(QEvent::MouseButtonRelease, at, Qt::RightButton)),
+              "20 self 2050000");
+    EXPECT_EQ(r.translate(mouse(QEvent::MouseButtonDblClick, at, Qt::XButton2)),
+              "20 self ffff0000");
+    QWidget grabber;
+    grabber.show();
+    grabber.grabMouse();
+    EXPECT_EQ(r.translate(mouse(QEvent::MouseMove, at, Qt::NoButton)), "");
+    grabber.releaseMouse();
+    EXPECT_EQ(r.translate(wheel(at, {0, 120}), FALSE), "");
+    EXPECT_EQ(r.translate(std::make_shared<QTimerEvent>(1), FALSE), "");
+    EXPECT_EQ(r.translate(plain(0), FALSE), "");
+    EXPECT_EQ(r.translate(std::make_shared<VxWinMsgEvent>(0x201, 0, 0), FALSE), "");
+}
+
+} // namespace
