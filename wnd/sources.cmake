@@ -35,3 +35,30 @@ vxmfc_sources(FOLDER wnd
 # The macros of the X headers do not go together with Qt's.
 set_source_files_properties("${VXMFC_ROOT}/wnd/vxkeystate_x11.cpp" PROPERTIES
   SKIP_PRECOMPILE_HEADERS ON)
+    wnd/controlmessages.h
+    wnd/geometry.h
+    wnd/globaleventhandler.h
+    wnd/hostwindows.h
+    wnd/rectfunctions.h
+    wnd/resourceids.h
+    wnd/virtualkeys.h
+    wnd/wincodes.h
+    wnd/windowfunctions.h
+    wnd/windowgeometry.h
+    wnd/windowstate.h
+    wnd/windowstyle.h
+    wnd/windowtext.h
+    wnd/windowtree.h
+    wnd/winmessages.h
+    wnd/winstyles.h
+  SOURCES
+    vxcontrolstate.cpp
+    vxhostwindows.cpp
+    vxlivewidgets.cpp
+    vxresourceids.cpp
+    vxwindowgeometry.cpp
+    vxwindowstate.cpp
+    vxwindowstyle.cpp
+    vxwindowtext.cpp
+    vxwindowtree.cpp
+)
