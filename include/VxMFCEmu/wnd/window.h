@@ -146,10 +146,12 @@ public:
     int SetDlgCtrlID(int nID);
     BOOL SetDlgItemText(int nID, const wchar_t* lpszString);
     BOOL SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
-    UINT GetDlgItemText(int nID, wchar_t* lpszString, int nMaxCount) const;
+    int GetDlgItemText(int nID, wchar_t* lpszString, int nMaxCount) const;
     int GetDlgItemText(int nID, CString_E& rString) const;
     UINT GetDlgItemInt(int nID, BOOL* pbTranslated = nullptr, BOOL bSigned = TRUE) const;
     UINT IsDlgButtonChecked(int nID) const;
+    void CheckDlgButton(int nID, UINT nCheck);
+    void CheckRadioButton(int nFirst, int nLast, int nCheck);
 
     // State, text and place
 
@@ -168,15 +170,15 @@ public:
     int GetWindowText(wchar_t* lpszString, int nMaxCount) const;
     int GetWindowTextLength() const;
     DWORD GetStyle() const { return m_dwStyle; }
-    void GetWindowRect(tagRECT* pRect) const;
-    void GetClientRect(tagRECT* pRect) const;
+    BOOL GetWindowRect(tagRECT* pRect) const;
+    BOOL GetClientRect(tagRECT* pRect) const;
     BOOL MoveWindow(int x, int y, int cx, int cy, BOOL bRepaint = TRUE);
     BOOL MoveWindow(const tagRECT* pRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd_E* pInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
-    void ClientToScreen(tagPOINT* pPoint) const;
-    void ClientToScreen(tagRECT* pRect) const;
-    void ScreenToClient(tagPOINT* pPoint) const;
-    void ScreenToClient(tagRECT* pRect) const;
+    BOOL ClientToScreen(tagPOINT* pPoint) const;
+    BOOL ClientToScreen(tagRECT* pRect) const;
+    BOOL ScreenToClient(tagPOINT* pPoint) const;
+    BOOL ScreenToClient(tagRECT* pRect) const;
     int MapWindowPoints(CWnd_E* pTo, tagPOINT* pPoints, UINT nCount) const;
     int MapWindowPoints(CWnd_E* pTo, tagRECT* pRect) const;
     BOOL MapDialogRect(tagRECT* pRect) const;
