@@ -1,13 +1,20 @@
 vxmfc_sources(FOLDER core
   HEADERS
     core/cmdtarget.h
+    core/extensionmodule.h
     core/fixedalloc.h
     core/handlemap.h
     core/mapptrtoptr.h
+    core/memberoffset.h
+    core/modulestate.h
+    core/notrackobject.h
     core/object.h
     core/plex.h
     core/position.h
     core/runtimeclass.h
+    core/simplelist.h
+    core/threadlocal.h
+    core/threadslots.h
   SOURCES
     vxcreateregistry.cpp
     vxruntimeclass.cpp
@@ -18,4 +25,10 @@ vxmfc_sources(FOLDER core
     vxfixedalloc.cpp
     vxmapptrtoptr.cpp
     vxhandlemap.cpp
+    vxnotrackobject.cpp
+    vxsimplelist.cpp
+    vxthreadslots.cpp
+    vxthreadlocal.cpp
+    vxmodulestate.cpp
+    vxextensionmodule.cpp
     vxinterim.cpp)
