@@ -2,18 +2,25 @@ vxmfc_sources(FOLDER core
   HEADERS
     core/bstr.h
     core/cmdtarget.h
-    core/fixedalloc.h
-    core/handlemap.h
-    core/mapptrtoptr.h
     core/dumpcontext.h
     core/exceptions.h
+    core/extensionmodule.h
+    core/fixedalloc.h
+    core/handlemap.h
     core/lasterror.h
     core/log.h
+    core/mapptrtoptr.h
+    core/memberoffset.h
     core/memorystate.h
+    core/modulestate.h
+    core/notrackobject.h
     core/object.h
     core/plex.h
     core/position.h
     core/runtimeclass.h
+    core/simplelist.h
+    core/threadlocal.h
+    core/threadslots.h
   SOURCES
     vxcreateregistry.cpp
     vxruntimeclass.cpp
@@ -32,4 +39,10 @@ vxmfc_sources(FOLDER core
     vxoleexcept.cpp
     vxmemorystate.cpp
     vxdumpcontext.cpp
-    vxlog.cpp)
+    vxlog.cpp
+    vxnotrackobject.cpp
+    vxsimplelist.cpp
+    vxthreadslots.cpp
+    vxthreadlocal.cpp
+    vxmodulestate.cpp
+    vxextensionmodule.cpp)

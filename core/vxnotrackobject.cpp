@@ -14,7 +14,4 @@ void* CNoTrackObject_E::operator new(std::size_t nSize)
     return p;
 }
 
-void CNoTrackObject_E::operator delete(void* p) noexcept
-{
-    LocalFree_E(p);
-}
+void CNoTrackObject_E::operator delete(void* p) noexcept { LocalFree_E(p); }

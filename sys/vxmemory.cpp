@@ -12,25 +12,13 @@ HGLOBAL GlobalAlloc_E(UINT, SIZE_T nBytes)
     return nBytes <= PTRDIFF_MAX ? std::calloc(nBytes, 1) : nullptr;
 }
 
-HLOCAL LocalAlloc_E(UINT uFlags, SIZE_T nBytes)
-{
-    return GlobalAlloc_E(uFlags, nBytes);
-}
+HLOCAL LocalAlloc_E(UINT uFlags, SIZE_T nBytes) { return GlobalAlloc_E(uFlags, nBytes); }
 
-LPVOID GlobalLock_E(HGLOBAL hMem)
-{
-    return hMem;
-}
+LPVOID GlobalLock_E(HGLOBAL hMem) { return hMem; }
 
-HGLOBAL GlobalHandle_E(LPCVOID pMem)
-{
-    return const_cast<LPVOID>(pMem);
-}
+HGLOBAL GlobalHandle_E(LPCVOID pMem) { return const_cast<LPVOID>(pMem); }
 
-BOOL GlobalUnlock_E(HGLOBAL)
-{
-    return TRUE;
-}
+BOOL GlobalUnlock_E(HGLOBAL) { return TRUE; }
 
 HGLOBAL GlobalFree_E(HGLOBAL hMem)
 {
@@ -38,10 +26,7 @@ HGLOBAL GlobalFree_E(HGLOBAL hMem)
     return nullptr;
 }
 
-HLOCAL LocalFree_E(HLOCAL hMem)
-{
-    return GlobalFree_E(hMem);
-}
+HLOCAL LocalFree_E(HLOCAL hMem) { return GlobalFree_E(hMem); }
 
 HGLOBAL GlobalReAlloc_E(HGLOBAL hMem, SIZE_T nBytes, UINT uFlags)
 {

@@ -8,17 +8,11 @@ DWORD TlsAlloc_E()
     return pthread_key_create(&key, nullptr) == 0 ? key : TLS_OUT_OF_INDEXES;
 }
 
-LPVOID TlsGetValue_E(DWORD dwTlsIndex)
-{
-    return pthread_getspecific(dwTlsIndex);
-}
+LPVOID TlsGetValue_E(DWORD dwTlsIndex) { return pthread_getspecific(dwTlsIndex); }
 
 int TlsSetValue_E(DWORD dwTlsIndex, LPVOID pValue)
 {
     return pthread_setspecific(dwTlsIndex, pValue);
 }
 
-BOOL TlsFree_E(DWORD dwTlsIndex)
-{
-    return pthread_key_delete(dwTlsIndex) == 0 ? TRUE : FALSE;
-}
+BOOL TlsFree_E(DWORD dwTlsIndex) { return pthread_key_delete(dwTlsIndex) == 0 ? TRUE : FALSE; }

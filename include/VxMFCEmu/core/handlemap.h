@@ -9,9 +9,9 @@
 
 #include <VxMFCEmu/core/fixedalloc.h>
 #include <VxMFCEmu/core/mapptrtoptr.h>
+#include <VxMFCEmu/core/memberoffset.h>
 #include <VxMFCEmu/core/object.h>
 
-#include <cstring>
 #include <new>
 
 /// Makes and destroys an object of class @p T in memory that a map provides.
@@ -31,21 +31,6 @@ struct ConstructDestruct_E
             static_cast<T*>(pObject)->~T();
     }
 };
-
-namespace vx::detail {
-
-/// The offset of a data member, for classes that offsetof is not made for.
-template <typename Class, typename Member>
-std::size_t offsetOfMember(Member Class::*pMember)
-{
-    // The platform's ABI represents a pointer to a data member as its offset.
-    static_assert(sizeof(pMember) == sizeof(std::size_t));
-    std::size_t offset = 0;
-    std::memcpy(&offset, &pMember, sizeof(offset));
-    return offset;
-}
-
-} // namespace vx::detail
 
 /// The map of one kind of handle.
 class VXMFC_EXPORT CHandleMap_E

@@ -1,9 +1,9 @@
 /// @file criticalsection.h
 /// Critical sections.
 ///
-/// Differs from Win32: a critical section is a POSIX mutex with default attributes, so a thread that
-/// enters it twice waits for itself for ever; and the functions return error numbers, 0 for success
-/// and EINVAL for null.
+/// Differs from Win32: a critical section is a POSIX mutex with default attributes, so a thread
+/// that enters it twice waits for itself for ever; and the functions return error numbers, 0 for
+/// success and EINVAL for null.
 ///
 /// Threads: any.
 #pragma once

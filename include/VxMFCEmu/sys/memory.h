@@ -33,8 +33,8 @@ inline constexpr UINT LMEM_DISCARDABLE = 0x0F00;
 inline constexpr UINT LHND = LMEM_MOVEABLE | LMEM_ZEROINIT;
 inline constexpr UINT LPTR = LMEM_FIXED | LMEM_ZEROINIT;
 
-/// A new block of @p nBytes zero bytes, owned by the caller; null when there is no memory. The flags
-/// are ignored.
+/// A new block of @p nBytes zero bytes, owned by the caller; null when there is no memory. The
+/// flags are ignored.
 VXMFC_EXPORT HGLOBAL GlobalAlloc_E(UINT uFlags, SIZE_T nBytes);
 /// The same as GlobalAlloc_E().
 VXMFC_EXPORT HLOCAL LocalAlloc_E(UINT uFlags, SIZE_T nBytes);
@@ -52,8 +52,9 @@ VXMFC_EXPORT HGLOBAL GlobalFree_E(HGLOBAL hMem);
 VXMFC_EXPORT HLOCAL LocalFree_E(HLOCAL hMem);
 
 /// Moves the block to a new one of @p nBytes, which holds what fits of the old data and zeros after
-/// it; owned by the caller in its place. A null block is allocated. Null when there is no memory; the
-/// old block stays as it is. Differs from Win32: the block always moves, and the flags are ignored.
+/// it; owned by the caller in its place. A null block is allocated. Null when there is no memory;
+/// the old block stays as it is. Differs from Win32: the block always moves, and the flags are
+/// ignored.
 VXMFC_EXPORT HGLOBAL GlobalReAlloc_E(HGLOBAL hMem, SIZE_T nBytes, UINT uFlags);
 /// The same as GlobalReAlloc_E().
 VXMFC_EXPORT HLOCAL LocalReAlloc_E(HLOCAL hMem, SIZE_T nBytes, UINT uFlags);

@@ -1,0 +1,115 @@
+#include <VxMFCEmu/core/extensionmodule.h>
+#include <VxMFCEmu/core/modulestate.h>
+#include <VxMFCEmu/core/threadlocal.h>
+#include <VxMFCEmu/core/threadslots.h>
+#include <VxMFCEmu/gdi.h>
+#include <VxMFCEmu/sys/memory.h>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace {
+
+int handleA, handleB;
+
+TEST(ModuleState, OneOfEachInTheProcess)
+{
+    EXPECT_EQ(AfxGetModuleState_E(), &afxModuleState);
+    EXPECT_EQ(AfxGetModuleThreadState_E(), &gdiThreadState);
+    std::thread([] { EXPECT_EQ(AfxGetModuleThreadState_E(), &gdiThreadState); }).join();
+    EXPECT_EQ(AfxGetStaticModuleState_E(), nullptr);
+    AfxSetResourceHandle_E(&handleA);
+    EXPECT_EQ(AfxGetResourceHandle_E(), nullptr) << "resource handles are not used";
+    EXPECT_EQ(afxModuleState.m_bDLL, FALSE);
+    EXPECT_TRUE(afxModuleState.m_classList.IsEmpty());
+    EXPECT_EQ(gdiThreadState.m_nLastHit, -1);
+    EXPECT_EQ(gdiThreadState.m_nLastStatus, -1);
+}
+
+TEST(ModuleState, MapsAreMadeOnRequest)
+{
+    struct Row
+    {
+        const char* name;
+        CHandleMap_E* (*map)(BOOL);
+        CHandleMap_E* AFX_MODULE_THREAD_STATE_E::*field;
+    };
+    const Row rows[] = {
+        {"HDC", afxMapHDC_E, &AFX_MODULE_THREAD_STATE_E::m_pmapHDC},
+        {"HGDIOBJ", afxMapHGDIOBJ_E, &AFX_MODULE_THREAD_STATE_E::m_pmapHGDIOBJ},
+        {"HIMAGELIST", afxMapHIMAGELIST_E, &AFX_MODULE_THREAD_STATE_E::m_pmapHIMAGELIST},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        CHandleMap_E* const kept = std::exchange(gdiThreadState.*row.field, nullptr);
+        EXPECT_EQ(row.map(FALSE), nullptr);
+        CHandleMap_E* const made = row.map(TRUE);
+        EXPECT_NE(made, nullptr);
+        EXPECT_EQ(row.map(FALSE), made);
+        EXPECT_EQ(row.map(TRUE), made);
+        delete std::exchange(gdiThreadState.*row.field, kept);
+    }
+}
+
+struct ToolTip : VxToolTip
+{
+    void DestroyToolTipCtrl() override { ++destroyed; }
+    int destroyed = 0;
+};
+
+TEST(ModuleState, TheThreadStateDestroysWhatItOwns)
+{
+    ToolTip toolTip;
+    {
+        AFX_MODULE_THREAD_STATE_E state;
+        state.m_pToolTip = &toolTip;
+        state.m_pLastInfo = static_cast<tagTOOLINFOW*>(LocalAlloc_E(LPTR, 16));
+        state.m_pmapHGDIOBJ = vx::detail::makeHandleMap<CGdiObject_E>(RUNTIME_CLASS_E(CGdiObject_E),
+                                                                      &CGdiObject_E::m_hObject);
+        state.m_pmapHGDIOBJ->FromHandle(&handleA);
+        EXPECT_EQ(toolTip.destroyed, 0);
+    }
+    EXPECT_EQ(toolTip.destroyed, 1);
+}
+
+struct Value : CNoTrackObject_E
+{
+};
+
+TEST(ExtensionModule, InitialisedOnceThenItsSlotsAreAssigned)
+{
+    AFX_EXTENSION_MODULE_E state{};
+    CThreadLocal_E<Value> local;
+    local.GetData();
+    AfxTermExtensionModule_E(state);
+    EXPECT_EQ(AfxInitExtensionModule_E(state, &handleA), TRUE);
+    EXPECT_EQ(state.bInitialized, TRUE);
+    EXPECT_EQ(state.hModule, &handleA);
+    EXPECT_EQ(state.hResource, &handleA);
+    EXPECT_EQ(state.pFirstSharedClass, nullptr);
+    AfxTermExtensionModule_E(state, FALSE);
+    EXPECT_NE(local.GetDataNA(), nullptr) << "the slot belongs to no module yet";
+    EXPECT_EQ(AfxInitExtensionModule_E(state, &handleA), TRUE);
+    std::thread([&] { AfxTermExtensionModule_E(state, FALSE); }).join();
+    EXPECT_EQ(local.GetDataNA(), nullptr) << "of every thread, whatever the argument";
+}
+
+TEST(DynLinkLibrary, KeepsTheModuleOnly)
+{
+    const AFX_EXTENSION_MODULE_E state{TRUE, &handleA, &handleB, nullptr, nullptr};
+    const CDynLinkLibrary_E fromState(state, TRUE);
+    const CDynLinkLibrary_E fromHandles(&handleA, &handleB);
+    for (const CDynLinkLibrary_E* library : {&fromState, &fromHandles}) {
+        EXPECT_EQ(library->m_hModule, &handleA);
+        EXPECT_EQ(library->m_hResource, nullptr);
+        EXPECT_EQ(library->m_pNextDLL, nullptr);
+        EXPECT_EQ(library->m_bSystem, library == &fromState ? TRUE : FALSE);
+    }
+    EXPECT_EQ(fromState.GetRuntimeClass(), RUNTIME_CLASS_E(CDynLinkLibrary_E));
+    // Intended: without a meta object of its own it cannot be told from its base.
+    EXPECT_EQ(RUNTIME_CLASS_E(CDynLinkLibrary_E)->GetMetaObject(), &CCmdTarget_E::staticMetaObject);
+    EXPECT_TRUE(CCmdTarget_E().IsKindOf(RUNTIME_CLASS_E(CDynLinkLibrary_E)));
+}
+
+} // namespace

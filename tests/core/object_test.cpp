@@ -1,0 +1,245 @@
+#include "support/waiting.h"
+
+#include <VxMFCEmu/core/cmdtarget.h>
+
+#include <QtWidgets/QtWidgets>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Wrapper : public CObject_E
+{
+    Q_OBJECT
+    DECLARE_DYNAMIC_E(Wrapper)
+
+    BOOL OnAttach() override
+    {
+        log += QLatin1Char('a');
+        return accepts;
+    }
+    void OnDetach() override { log += QLatin1Char('d'); }
+    bool eventFilter(QObject*, QEvent*) override
+    {
+        ++events;
+        return false;
+    }
+
+    QString log;
+    BOOL accepts = TRUE;
+    int events = 0;
+
+public Q_SLOTS:
+    void apply(int value) { log += QString::number(value); }
+    void clear() { log += QLatin1Char('c'); }
+    void take(const QString& text) { log += text; }
+};
+
+} // namespace
+
+IMPLEMENT_DYNAMIC_E(Wrapper, CObject_E, QTimer)
+
+namespace {
+
+class Source : public QObject
+{
+    Q_OBJECT
+Q_SIGNALS:
+    void sent(int value);
+    void text(const QString& text);
+};
+
+class Target : public QObject
+{
+    Q_OBJECT
+public:
+    int calls = 0;
+public Q_SLOTS:
+    void apply(int) { ++calls; }
+    void clear() { ++calls; }
+    void take(int) { ++calls; }
+    void unknown(int) { ++calls; }
+};
+
+TEST(Object, AttachBindsBothSides)
+{
+    Wrapper wrapper;
+    QTimer timer;
+    QObject parent;
+    EXPECT_EQ(CObject_E::GetOwner(&timer), nullptr);
+    ASSERT_EQ(wrapper.Attach(&timer, &parent, true), TRUE);
+    EXPECT_EQ(wrapper.GetImpQObject(), &timer);
+    EXPECT_TRUE(wrapper.IsExternalImpObj());
+    EXPECT_EQ(CObject_E::GetOwner(&timer), &wrapper);
+    EXPECT_EQ(timer.property("parent").toLongLong(), reinterpret_cast<qlonglong>(&parent));
+    QEvent event(QEvent::User);
+    QCoreApplication::sendEvent(&timer, &event);
+    EXPECT_EQ(wrapper.events, 1);
+    wrapper.Detach();
+    EXPECT_EQ(wrapper.GetImpQObject(), nullptr);
+    EXPECT_FALSE(wrapper.IsExternalImpObj());
+    EXPECT_FALSE(timer.property("owner").isValid());
+    EXPECT_FALSE(timer.property("parent").isValid());
+    const int before = wrapper.events;
+    QCoreApplication::sendEvent(&timer, &event);
+    EXPECT_EQ(wrapper.events, before) << "the filter is gone";
+    wrapper.Detach();
+    EXPECT_EQ(wrapper.log, QStringLiteral("ad")) << "detaching twice does nothing";
+    EXPECT_EQ(CObject_E::GetOwner(nullptr), nullptr);
+}
+
+TEST(Object, OwnershipDecidesWhoDeletes)
+{
+    for (const bool external : {false, true}) {
+        SCOPED_TRACE(external);
+        QPointer<QTimer> timer = new QTimer;
+        Wrapper wrapper;
+        ASSERT_EQ(wrapper.Attach(timer, nullptr, external), TRUE);
+        wrapper.Detach();
+        EXPECT_FALSE(timer.isNull()) << "never at once";
+        vxtest::deliverPosted();
+        EXPECT_EQ(timer.isNull(), !external);
+        delete timer;
+    }
+}
+
+TEST(Object, AWrongClassIsRefused)
+{
+    for (const bool external : {false, true}) {
+        SCOPED_TRACE(external);
+        QPointer<QObject> wrong = new QObject;
+        QTimer kept;
+        Wrapper wrapper;
+        wrapper.Attach(&kept, nullptr, true);
+        EXPECT_EQ(wrapper.Attach(wrong, nullptr, external), FALSE);
+        EXPECT_EQ(wrong.isNull(), !external) << "taken over and deleted, unless external";
+        EXPECT_EQ(wrapper.GetImpQObject(), &kept);
+        delete wrong;
+    }
+    EXPECT_EQ(Wrapper().Attach(nullptr, nullptr, false), FALSE);
+}
+
+TEST(Object, ARefusalByTheHookDetaches)
+{
+    Wrapper wrapper;
+    wrapper.accepts = FALSE;
+    QTimer timer;
+    EXPECT_EQ(wrapper.Attach(&timer, nullptr, true), FALSE);
+    EXPECT_EQ(wrapper.log, QStringLiteral("ad"));
+    EXPECT_EQ(CObject_E::GetOwner(&timer), nullptr);
+    wrapper.accepts = 7;
+    EXPECT_EQ(wrapper.Attach(&timer, nullptr, true), 7) << "the hook's own value";
+}
+
+TEST(Object, ASecondAttachReplacesTheFirst)
+{
+    Wrapper wrapper;
+    QTimer first, second;
+    wrapper.Attach(&first, nullptr, true);
+    wrapper.Attach(&second, nullptr, true);
+    EXPECT_EQ(wrapper.log, QStringLiteral("ada"));
+    EXPECT_EQ(CObject_E::GetOwner(&first), nullptr);
+    EXPECT_EQ(CObject_E::GetOwner(&second), &wrapper);
+}
+
+TEST(Object, DestroyedByAnother)
+{
+    Wrapper wrapper;
+    auto* const timer = new QTimer;
+    wrapper.Attach(timer, nullptr, true);
+    delete timer;
+    EXPECT_EQ(wrapper.GetImpQObject(), nullptr);
+    EXPECT_FALSE(wrapper.IsExternalImpObj());
+    EXPECT_EQ(wrapper.log, QStringLiteral("a")) << "OnDetach is not called";
+    CObject_E plain;
+    EXPECT_EQ(plain.AttachDefault(&wrapper), TRUE);
+    EXPECT_EQ(plain.GetImpQObject()->parent(), &wrapper);
+    QObject other;
+    QObject* const previous = plain.SetImpQObject(&other);
+    EXPECT_EQ(CObject_E::GetOwner(previous), &plain);
+    EXPECT_EQ(plain.SetImpQObject(previous), &other);
+}
+
+TEST(Object, KindAndSlots)
+{
+    const Wrapper wrapper;
+    EXPECT_TRUE(wrapper.IsKindOf(RUNTIME_CLASS_E(CObject_E)));
+    EXPECT_FALSE(wrapper.IsKindOf(RUNTIME_CLASS_E(CCmdTarget_E)));
+    EXPECT_FALSE(wrapper.IsKindOf(static_cast<const CRuntimeClass_E*>(nullptr)));
+    EXPECT_TRUE(wrapper.IsKindOf("CObject_E"));
+    EXPECT_TRUE(wrapper.IsKindOf("QObject"));
+    EXPECT_FALSE(wrapper.IsKindOf("QTimer"));
+    EXPECT_FALSE(wrapper.IsKindOf(static_cast<const char*>(nullptr)));
+    QMetaMethod method;
+    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("APPLY"), method), FALSE);
+    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("objectNameChanged"), method), FALSE)
+        << "a signal";
+    EXPECT_FALSE(method.isValid());
+    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("apply"), method), TRUE);
+    EXPECT_EQ(method.methodSignature(), "apply(int)");
+}
+
+class SlotTakeOver : public testing::TestWithParam<bool>
+{
+};
+
+TEST_P(SlotTakeOver, FittingSlotsOfTheSameName)
+{
+    const bool keepOld = GetParam();
+    Source source;
+    Target target;
+    Wrapper wrapper;
+    int functorCalls = 0;
+    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(apply(int)));
+    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(clear()), Qt::QueuedConnection);
+    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(take(int)));
+    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(unknown(int)));
+    QObject::connect(&source, &Source::sent, &target, [&] { ++functorCalls; });
+    QObject::connect(&source, &Source::sent, &target, &Target::apply);
+    wrapper.ConnectSlotsFrom(&target, keepOld);
+    wrapper.ConnectSlotsFrom(&target, keepOld);
+    Q_EMIT source.sent(4);
+    EXPECT_EQ(wrapper.log, QStringLiteral("4")) << "once, and the queued one not yet";
+    EXPECT_EQ(target.calls, keepOld ? 4 : 3);
+    vxtest::deliverPosted();
+    EXPECT_EQ(wrapper.log, QStringLiteral("4c")) << "of the old connection's type";
+    EXPECT_EQ(target.calls, keepOld ? 5 : 3);
+    EXPECT_EQ(functorCalls, 1) << "functors stay";
+}
+
+INSTANTIATE_TEST_SUITE_P(, SlotTakeOver, testing::Bool());
+
+TEST(Object, SlotsAreTakenInTheOrderOfTheSenderList)
+{
+    Source first, second;
+    Target target;
+    Wrapper wrapper;
+    QObject::connect(&first, SIGNAL(sent(int)), &target, SLOT(apply(int)));
+    QObject::connect(&second, SIGNAL(text(QString)), &target, SLOT(clear()));
+    wrapper.ConnectSlotsFrom(&target, false);
+    wrapper.ConnectSlotsFrom(nullptr, false);
+    Q_EMIT first.sent(1);
+    Q_EMIT second.text(QStringLiteral("x"));
+    EXPECT_EQ(wrapper.log, QStringLiteral("1c"));
+    EXPECT_EQ(target.calls, 0);
+}
+
+TEST(Object, ConnectReplaces)
+{
+    Source source;
+    Target target;
+    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(apply(int)));
+    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(take(int)));
+    EXPECT_TRUE(CObject_E::Connect(&source, SIGNAL(sent(int)), &target, SLOT(clear())));
+    Q_EMIT source.sent(1);
+    EXPECT_EQ(target.calls, 1);
+    EXPECT_FALSE(CObject_E::Connect(nullptr, SIGNAL(sent(int)), &target, SLOT(clear())));
+    EXPECT_FALSE(CObject_E::Connect(1U, SIGNAL(sent(int)), &target, SLOT(clear()), nullptr));
+    QObject parent;
+    new QObject(&parent);
+    EXPECT_FALSE(CObject_E::Connect(9999U, SIGNAL(destroyed()), &target, SLOT(clear()), &parent))
+        << "an unknown id finds no child, not any child";
+}
+
+} // namespace
+
+#include "object_test.moc"
