@@ -21,15 +21,19 @@ rm -rf "$results"
 
 # measure PLATFORM: one file of results for each binary.
 measure() {
-  local platform=$1 binary
+  local platform=$1 binary result
   mkdir -p "$results/$platform"
   for binary in build/release/bin/*_bench; do
     [ -x "$binary" ] || continue
+    result="$results/$platform/${binary##*/}"
     echo "$platform: ${binary##*/}" >&2
     # Rows are repeated in mixed order, so that a slow moment of the machine hits row and baseline alike.
     "$binary" --benchmark_filter="$filter" --benchmark_min_time=0.05 --benchmark_repetitions=7 \
       --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true \
-      --benchmark_out="$results/$platform/${binary##*/}.json" --benchmark_out_format=json >/dev/null
+      --benchmark_out="$result.json" --benchmark_out_format=json >"$result.log" 2>&1 || {
+      cat "$result.log" >&2
+      return 1
+    }
   done
 }
 

@@ -19,11 +19,13 @@ NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
 def medians(folder):
-    """Median time in nanoseconds of each row of a platform, in the order of the binaries."""
+    """Median time in nanoseconds of each row of a platform, in the order in which the binaries have them."""
     times = {}
     for path in sorted(folder.glob("*.json")):
         text = path.read_text()
-        for row in json.loads(text)["benchmarks"] if text.strip() else []:
+        rows = json.loads(text)["benchmarks"] if text.strip() else []
+        rows.sort(key=lambda row: (row["family_index"], row["per_family_instance_index"]))
+        for row in rows:
             if row.get("error_occurred"):
                 sys.exit(f"{path.name}: {row['name']}: {row.get('error_message', 'failed')}")
             if row.get("aggregate_name") == "median":
