@@ -2,7 +2,6 @@ vxmfc_sources(FOLDER wnd
   HEADERS
     wnd/controlmessages.h
     wnd/geometry.h
-    wnd/globaleventhandler.h
     wnd/hostwindows.h
     wnd/rectfunctions.h
     wnd/resourceids.h

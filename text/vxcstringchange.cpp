@@ -1,0 +1,159 @@
+// Changing in place, and the changed copies for other platforms.
+#include <VxMFCEmu/text/cstring.h>
+
+#include <algorithm>
+#include <cwctype>
+#include <functional>
+
+using vx::detail::orEmpty;
+
+CString_E& CString_E::MakeUpper()
+{
+    for (wchar_t& ch : m_text)
+        ch = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
+    return *this;
+}
+
+CString_E& CString_E::MakeLower()
+{
+    for (wchar_t& ch : m_text)
+        ch = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(ch)));
+    return *this;
+}
+
+CString_E& CString_E::MakeReverse()
+{
+    std::reverse(m_text.begin(), m_text.end());
+    return *this;
+}
+
+int CString_E::Replace(wchar_t chOld, wchar_t chNew)
+{
+    int count = 0;
+    for (wchar_t& ch : m_text) {
+        if (ch == chOld) {
+            ch = chNew;
+            ++count;
+        }
+    }
+    return count;
+}
+
+int CString_E::Replace(const wchar_t* old, const wchar_t* replacement)
+{
+    const std::wstring_view from(orEmpty(old));
+    const std::wstring_view to(orEmpty(replacement));
+    if (from.empty())
+        return 0;
+    // Text is only moved towards the start while nothing of it is still to be compared or inserted.
+    const bool inPlace = to.size() <= from.size() && !PointsInto(old) && !PointsInto(replacement);
+    return inPlace ? ReplaceInPlace(from, to) : ReplaceGrowing(from, to);
+}
+
+bool CString_E::PointsInto(const wchar_t* p) const noexcept
+{
+    const std::less_equal<> notAfter;
+    return notAfter(m_text.data(), p) && notAfter(p, m_text.data() + m_text.size());
+}
+
+int CString_E::ReplaceInPlace(std::wstring_view old, std::wstring_view replacement)
+{
+    int count = 0;
+    wchar_t* const text = m_text.data();
+    wchar_t* out = text;
+    std::size_t from = 0;
+    const auto keepUntil = [&](std::size_t end) {
+        out = out == text + from ? text + end : std::copy(text + from, text + end, out);
+    };
+    for (std::size_t hit = 0; (hit = m_text.find(old, from)) != std::wstring::npos; ++count) {
+        keepUntil(hit);
+        out = std::copy(replacement.begin(), replacement.end(), out);
+        from = hit + old.size();
+    }
+    keepUntil(m_text.size());
+    m_text.resize(static_cast<std::size_t>(out - text));
+    return count;
+}
+
+int CString_E::ReplaceGrowing(std::wstring_view old, std::wstring_view replacement)
+{
+    int count = 0;
+    std::wstring result;
+    std::size_t from = 0;
+    for (std::size_t hit = 0; (hit = m_text.find(old, from)) != std::wstring::npos; ++count) {
+        if (count == 0)
+            result.reserve(m_text.size() + replacement.size());
+        result.append(m_text, from, hit - from).append(replacement);
+        from = hit + old.size();
+    }
+    if (count != 0)
+        m_text = std::move(result.append(m_text, from));
+    return count;
+}
+
+int CString_E::Remove(wchar_t ch)
+{
+    const auto end = std::remove(m_text.begin(), m_text.end(), ch);
+    const auto removed = static_cast<int>(m_text.end() - end);
+    m_text.erase(end, m_text.end());
+    return removed;
+}
+
+int CString_E::Insert(int nIndex, wchar_t ch)
+{
+    m_text.insert(static_cast<std::size_t>(nIndex), 1, ch);
+    return GetLength();
+}
+
+int CString_E::Insert(int nIndex, const wchar_t* p)
+{
+    m_text.insert(static_cast<std::size_t>(nIndex), orEmpty(p));
+    return GetLength();
+}
+
+int CString_E::Delete(int nIndex, int nCount)
+{
+    m_text.erase(static_cast<std::size_t>(nIndex), clampCount(nCount));
+    return GetLength();
+}
+
+CString_E& CString_E::TrimLeft(const wchar_t* set)
+{
+    m_text.erase(0, std::min(m_text.find_first_not_of(orEmpty(set)), m_text.size()));
+    return *this;
+}
+
+CString_E& CString_E::TrimRight(const wchar_t* set)
+{
+    // Without any character to keep, npos + 1 is 0.
+    m_text.resize(m_text.find_last_not_of(orEmpty(set)) + 1);
+    return *this;
+}
+
+CString_E CString_E::ToWinReturn() const
+{
+    CString_E copy(*this);
+    copy.Replace(L"\n", L"\r\n");
+    return copy;
+}
+
+CString_E CString_E::ToUnixReturn() const
+{
+    CString_E copy(*this);
+    copy.Replace(L"\r\n", L"\n");
+    return copy;
+}
+
+CString_E CString_E::ToWinSeperator() const
+{
+    CString_E copy(*this);
+    copy.Replace(L'/', L'\\');
+    return copy;
+}
+
+CString_E CString_E::ToUnixSeperator() const
+{
+    CString_E copy(*this);
+    copy.Replace(L'\\', L'/');
+    return copy;
+}
