@@ -2,7 +2,7 @@
 #include "core/vxincoming_p.h"
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
-#include <VxMFCEmu/wnd/windowfunctions.h>
+#include <VxMFCEmu/wnd/hostwindows.h>
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMetaMethod>

@@ -1,6 +1,6 @@
 #include <VxMFCEmu/wnd/sendmessage.h>
 
-#include "wnd/vxeventtable_p.h"
+#include "wnd/vxmsgtoevent_p.h"
 
 #include <VxMFCEmu/wnd/eventtranslation.h>
 #include <VxMFCEmu/wnd/messageevent.h>

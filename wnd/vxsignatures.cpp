@@ -124,7 +124,7 @@ template <typename Result, typename... Args>
 BOOL callForm(CWnd_E* pWindow, AFX_PMSG_E pfn, const Message& m, LRESULT& result)
 {
     using Handler = typename Result::Type (CWnd_E::*)(typename Args::Type...);
-    const auto handler = reinterpret_cast<Handler>(pfn);
+    const auto handler = castHandler<Handler>(pfn);
     if constexpr (std::is_void_v<typename Result::Type>) {
         (pWindow->*handler)(Args::get(m)...);
         result = Result::value;

@@ -1,6 +1,7 @@
 // Making and destroying windows.
 #include <VxMFCEmu/wnd/window.h>
 
+#include <VxMFCEmu/wnd/hostwindows.h>
 #include <VxMFCEmu/wnd/windowfunctions.h>
 
 #include <QtWidgets/QMenuBar>

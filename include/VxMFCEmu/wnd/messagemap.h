@@ -20,6 +20,8 @@
 
 #include <VxMFCEmu/types.h>
 
+#include <cstring>
+
 class CWnd_E;
 
 /// A handler without its signature.
@@ -43,11 +45,22 @@ struct Member<Class, Result(Args...)>
     using Type = Result (Class::*)(Args...);
 };
 
+/// A handler under another signature. GCC warns of the plain cast between pointers to member, and an
+/// application's message map is compiled with the application's warnings.
+template <typename To, typename From>
+To castHandler(From pfn)
+{
+    static_assert(sizeof(To) == sizeof(From));
+    To result;
+    std::memcpy(&result, &pfn, sizeof(result));
+    return result;
+}
+
 /// Takes the signature off a handler of @p Class, which must have the signature @p Fn.
 template <typename Class, typename Fn>
 AFX_PMSG_E eraseHandler(typename Member<Class, Fn>::Type pfn)
 {
-    return reinterpret_cast<AFX_PMSG_E>(static_cast<typename Member<CWnd_E, Fn>::Type>(pfn));
+    return castHandler<AFX_PMSG_E>(static_cast<typename Member<CWnd_E, Fn>::Type>(pfn));
 }
 
 /// The entry of a handler with two forms. A form that is still CWnd_E's own default is left out when

@@ -1,0 +1,138 @@
+#include <VxMFCEmu/wnd/geometry.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <ostream>
+
+static void PrintTo(const CRect_E& rc, std::ostream* out)
+{
+    *out << rc.left << ',' << rc.top << ',' << rc.right << ',' << rc.bottom;
+}
+
+TEST(Geometry, SetOperations)
+{
+    const CRect_E a(0, 0, 10, 10);
+    const CRect_E none;
+    struct
+    {
+        int line;
+        CRect_E other, intersection, all, rest;
+        BOOL meets, hasRest;
+    } const rows[] = {
+        {__LINE__, {5, 5, 15, 15}, {5, 5, 10, 10}, {0, 0, 15, 15}, a, TRUE, TRUE},
+        {__LINE__, {10, 0, 20, 10}, none, {0, 0, 20, 10}, a, FALSE, TRUE}, // sides touch
+        {__LINE__, {-5, -5, 4, 20}, {0, 0, 4, 10}, {-5, -5, 10, 20}, {4, 0, 10, 10}, TRUE, TRUE},
+        {__LINE__, {7, -5, 12, 20}, {7, 0, 10, 10}, {0, -5, 12, 20}, {0, 0, 7, 10}, TRUE, TRUE},
+        {__LINE__, {-1, -1, 11, 3}, {0, 0, 10, 3}, {-1, -1, 11, 10}, {0, 3, 10, 10}, TRUE, TRUE},
+        {__LINE__, {0, 6, 10, 10}, {0, 6, 10, 10}, a, {0, 0, 10, 6}, TRUE, TRUE},
+        {__LINE__, {3, 0, 6, 10}, {3, 0, 6, 10}, a, a, TRUE, TRUE}, // a hole in the middle
+        {__LINE__, {-1, -1, 11, 11}, a, {-1, -1, 11, 11}, none, TRUE, FALSE},
+        {__LINE__, {5, 5, 5, 50}, none, a, a, FALSE, TRUE}, // an empty one counts nowhere
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        CRect_E rc(1, 2, 3, 4);
+        EXPECT_EQ(rc.IntersectRect(a, row.other), row.meets);
+        EXPECT_EQ(rc, row.intersection);
+        EXPECT_EQ(rc.UnionRect(row.other, a), TRUE);
+        EXPECT_EQ(rc, row.all);
+        rc = a;
+        EXPECT_EQ(rc.SubtractRect(rc, row.other), row.hasRest);
+        EXPECT_EQ(rc, row.rest);
+    }
+    CRect_E rc(1, 2, 3, 4);
+    EXPECT_FALSE(rc.UnionRect(none, CRect_E(5, 5, 5, 9)));
+    EXPECT_EQ(rc, none);
+    EXPECT_FALSE(rc.SubtractRect(CRect_E(7, 7, 7, 7), a));
+    EXPECT_EQ(rc, none);
+}
+
+TEST(Geometry, NullPointersGiveFalse)
+{
+    RECT rc{1, 2, 3, 4};
+    RECT* const null = nullptr;
+    EXPECT_FALSE(SetRect_E(null, 1, 2, 3, 4) || SetRectEmpty_E(null) || CopyRect_E(null, &rc) ||
+                 CopyRect_E(&rc, null) || InflateRect_E(null, 1, 1) || OffsetRect_E(null, 1, 1));
+    EXPECT_FALSE(IntersectRect_E(&rc, null, &rc) || UnionRect_E(&rc, &rc, null) ||
+                 SubtractRect_E(null, &rc, &rc) || IsRectEmpty_E(null) || EqualRect_E(null, null) ||
+                 PtInRect_E(null, {0, 0}));
+    EXPECT_EQ(CRect_E(rc), CRect_E(1, 2, 3, 4));
+}
+
+TEST(Geometry, RectanglesAreHalfOpen)
+{
+    const CRect_E rc(-2, -3, 4, 5);
+    EXPECT_TRUE(rc.PtInRect(CPoint_E(-2, -3)) && rc.PtInRect(CPoint_E(3, 4)));
+    EXPECT_FALSE(rc.PtInRect(CPoint_E(4, 4)) || rc.PtInRect(CPoint_E(3, 5)));
+    EXPECT_FALSE(CRect_E(4, 5, -2, -3).PtInRect(CPoint_E(0, 0)));
+    EXPECT_TRUE(CRect_E(4, 5, -2, -3).IsRectEmpty());
+    EXPECT_FALSE(CRect_E(1, 1, 1, 1).IsRectNull());
+    EXPECT_FALSE(EqualRect_E(CRect_E(1, 1, 1, 1), CRect_E()));
+}
+
+TEST(Geometry, MovingAndGrowing)
+{
+    CRect_E rc(CPoint_E(10, 20), CSize_E(30, 40));
+    EXPECT_EQ(rc, CRect_E(10, 20, 40, 60));
+    rc.InflateRect(1, 2, 3, 4);
+    EXPECT_EQ(rc, CRect_E(9, 18, 43, 64));
+    rc.DeflateRect(CRect_E(1, 2, 3, 4));
+    rc.DeflateRect(20, 0); // narrower than twice 20: the sides cross
+    EXPECT_EQ(rc, CRect_E(30, 20, 20, 60));
+    rc.NormalizeRect();
+    rc.MoveToXY(-1, -2);
+    EXPECT_EQ(rc, CRect_E(-1, -2, 9, 38));
+    EXPECT_EQ(rc.CenterPoint(), CPoint_E(4, 18));
+    rc.TopLeft() += CSize_E(1, 2);
+    EXPECT_EQ(rc.Size(), CSize_E(9, 38));
+    rc -= CPoint_E(1, 1);
+    EXPECT_EQ(rc | CRect_E(0, 0, 1, 50), CRect_E(-1, -1, 8, 50));
+    EXPECT_EQ(rc & CRect_E(0, 0, 1, 50), CRect_E(0, 0, 1, 37));
+    EXPECT_EQ(rc + CRect_E(1, 2, 3, 4), CRect_E(-2, -3, 11, 41));
+    EXPECT_EQ(rc.MulDiv(3, 2), CRect_E(-2, -2, 12, 56));
+}
+
+TEST(Geometry, CoordinatesWrapAround)
+{
+    CRect_E rc(INT_MIN, 0, INT_MAX, 1);
+    EXPECT_EQ(rc.Width(), -1);
+    rc.OffsetRect(1, 0);
+    EXPECT_EQ(rc, CRect_E(INT_MIN + 1, 0, INT_MIN, 1));
+    EXPECT_EQ(-CPoint_E(INT_MIN, 1), CPoint_E(INT_MIN, -1));
+    EXPECT_EQ(CRect_E(INT_MAX, INT_MAX, INT_MAX, INT_MAX).CenterPoint(),
+              CPoint_E(INT_MAX, INT_MAX));
+}
+
+TEST(Geometry, PointsAndSizes)
+{
+    const CPoint_E pt(MAKELPARAM(-5, 7));
+    EXPECT_EQ(pt, CPoint_E(-5, 7));
+    const CSize_E distance = pt - CPoint_E(1, 2);
+    EXPECT_EQ(distance, CSize_E(-6, 5));
+    EXPECT_EQ(CPoint_E(1, 2) + distance, pt);
+    EXPECT_EQ(CSize_E(MAKELONG(-1, 3)), CSize_E(-1, 3));
+    const tagRECT rc{0, 0, 2, 2};
+    EXPECT_EQ(distance + &rc, CRect_E(-6, 5, -4, 7));
+}
+
+TEST(Geometry, MulDiv)
+{
+    struct
+    {
+        int line, number, numerator, denominator, result;
+    } const rows[] = {
+        {__LINE__, 7, 1, 2, 4},
+        {__LINE__, -7, 1, 2, -4},
+        {__LINE__, 7, 1, -2, -4},
+        {__LINE__, 1, 1, 3, 0},
+        {__LINE__, INT_MAX, 2, 4, 1 << 30},
+        {__LINE__, 5, 5, 0, -1},
+        {__LINE__, INT_MAX, 2, 1, -1},
+        {__LINE__, INT_MIN, INT_MIN, INT_MIN, INT_MIN},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        EXPECT_EQ(MulDiv_E(row.number, row.numerator, row.denominator), row.result);
+    }
+}

@@ -1,0 +1,109 @@
+#include <VxMFCEmu/wnd/windowstyle.h>
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtWidgets/QWidget>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void setStyle(QWidget& widget, const char* style)
+{
+    widget.setProperty("mfcStyle", QString::fromLatin1(style));
+}
+
+} // namespace
+
+TEST(WindowStyle, FlagsAndStates)
+{
+    constexpr Qt::WindowFlags none;
+    struct
+    {
+        int line;
+        const char* style;
+        Qt::WindowFlags flags;
+        Qt::WindowStates states;
+    } const rows[] = {
+        {__LINE__, "WS_MAXIMIZE", none, Qt::WindowMaximized},
+        {__LINE__, "WS_ICONIC", none, Qt::WindowMinimized},
+        {__LINE__, "WS_MINIMIZEBOX", Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
+        {__LINE__, "WS_MAXIMIZEBOX", Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
+        {__LINE__, "WS_MAXIMIZE|WS_ICONIC", none, Qt::WindowMinimized},
+        {__LINE__, "WS_THICKFRAME", Qt::Window, {}},
+        {__LINE__, "WS_SIZEBOX", Qt::Window, {}},
+        {__LINE__, "WS_DLGFRAME", Qt::Window, {}},
+        {__LINE__, "WS_CHILDWINDOW", Qt::SubWindow, {}},
+        {__LINE__, "WS_CHILD|WS_POPUP", none, {}},
+        {__LINE__, "WS_POPUP", Qt::FramelessWindowHint, {}},
+        {__LINE__, "WS_POPUP|WS_CAPTION", none, {}},
+        {__LINE__,
+         "WS_POPUPWINDOW",
+         Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint,
+         {}},
+        {__LINE__, "ws_popup", none, {}},
+        {__LINE__, "", none, {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        // A child starts without flags of its own.
+        QWidget parent;
+        auto* const pChild = new QWidget(&parent);
+        const Qt::WindowFlags before = pChild->windowFlags();
+        setStyle(*pChild, row.style);
+        setupStyle(pChild);
+        EXPECT_EQ(int(pChild->windowFlags()), int(before | row.flags));
+        EXPECT_EQ(int(pChild->windowState()), int(row.states));
+    }
+}
+
+TEST(WindowStyle, StateOfTheWidget)
+{
+    QWidget parent;
+    auto* const pChild = new QWidget(&parent);
+    pChild->hide();
+    setStyle(*pChild, "WS_DISABLED|WS_VISIBLE|WS_BORDER|DS_MODALFRAME");
+    setupStyle(pChild);
+    EXPECT_FALSE(pChild->isEnabled());
+    EXPECT_FALSE(pChild->isHidden());
+    EXPECT_EQ(pChild->styleSheet(), QStringLiteral("border: 1px solid black;"));
+    EXPECT_EQ(pChild->windowModality(), Qt::ApplicationModal);
+}
+
+TEST(WindowStyle, DirectChildrenOnly)
+{
+    QWidget top;
+    auto* const pFirst = new QWidget(&top);
+    auto* const pSecond = new QWidget(&top);
+    auto* const pGrandChild = new QWidget(pFirst);
+    new QObject(&top);
+    setStyle(*pFirst, "WS_DISABLED|WS_SIZEBOX"); // moves it behind the second in the list
+    setStyle(*pSecond, "WS_DISABLED");
+    setStyle(*pGrandChild, "WS_BORDER");
+    setupStyle(&top); // without a style of its own
+    EXPECT_FALSE(pFirst->isEnabled() || pSecond->isEnabled());
+    EXPECT_TRUE(top.isEnabled());
+    EXPECT_EQ(pGrandChild->styleSheet(), QString());
+    setupStyle(nullptr);
+    setupDialogStyleData(nullptr, QStringLiteral("DS_CENTER"));
+    setupWindowStyleData(nullptr, QStringLiteral("WS_VISIBLE"));
+}
+
+TEST(WindowStyle, Centre)
+{
+    QWidget parent;
+    parent.setGeometry(100, 50, 301, 200);
+    auto* const pChild = new QWidget(&parent);
+    pChild->resize(51, 40);
+    setupDialogStyleData(pChild, QStringLiteral("DS_CENTER"));
+    // (100 + 400) / 2 - 51 / 2, (50 + 249) / 2 - 40 / 2, in the coordinates of the parent's own
+    // place.
+    EXPECT_EQ(pChild->pos(), QPoint(225, 129));
+
+    QWidget alone;
+    alone.resize(100, 80);
+    alone.move(1, 1);
+    setupDialogStyleData(&alone, QStringLiteral("DS_CENTERMOUSE")); // holds DS_CENTER
+    const QPoint middle = QGuiApplication::primaryScreen()->geometry().center();
+    EXPECT_EQ(alone.pos(), middle - QPoint(50, 40));
+}
