@@ -62,7 +62,7 @@ TEST_F(Translation, GivesEveryEventItsMessage)
     {
         int line;
         EventPtr event;
-        UINT message;
+        WPARAM message;
         WPARAM wParam;
         LPARAM lParam;
     } rows[] = {
