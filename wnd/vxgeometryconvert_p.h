@@ -1,0 +1,18 @@
+// Private: points and rectangles from Qt and back. Qt's rectangles count right and bottom in.
+#pragma once
+
+#include <VxMFCEmu/types.h>
+
+#include <QtCore/QPoint>
+#include <QtCore/QRect>
+
+namespace vx::detail {
+
+inline tagPOINT toPoint(const QPoint& pt) { return {pt.x(), pt.y()}; }
+inline QPoint fromPoint(const tagPOINT& pt) { return {pt.x, pt.y}; }
+inline tagRECT toRect(const QRect& rc)
+{
+    return {rc.x(), rc.y(), rc.x() + rc.width(), rc.y() + rc.height()};
+}
+
+} // namespace vx::detail

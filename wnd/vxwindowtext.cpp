@@ -1,0 +1,170 @@
+#include <VxMFCEmu/wnd/windowtext.h>
+
+#include <VxMFCEmu/text/cstring.h>
+#include <VxMFCEmu/text/vxqstring.h>
+#include <VxMFCEmu/wnd/windowtree.h>
+
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QTextEdit>
+
+#include <algorithm>
+#include <climits>
+
+namespace {
+
+/// How a class of widgets keeps its text.
+struct TextRow
+{
+    const QMetaObject* meta;
+    QString (*get)(const QWidget*);
+    bool (*set)(QWidget*, const QString&);
+};
+
+template <typename Widget, auto Get, auto Set>
+constexpr TextRow textRow()
+{
+    return {&Widget::staticMetaObject,
+            [](const QWidget* p) -> QString { return (static_cast<const Widget*>(p)->*Get)(); },
+            [](QWidget* p, const QString& strText) {
+                (static_cast<Widget*>(p)->*Set)(strText);
+                return true;
+            }};
+}
+
+bool setComboText(QWidget* pWidget, const QString& strText)
+{
+    auto* const pCombo = static_cast<QComboBox*>(pWidget);
+    if (pCombo->isEditable())
+        pCombo->setEditText(strText);
+    return pCombo->isEditable();
+}
+
+bool setSpinText(QWidget* pWidget, const QString& strText)
+{
+    // The spin box takes its value from its line edit, which it does not give away.
+    auto* const pEdit = pWidget->findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+    if (pEdit)
+        pEdit->setText(strText);
+    return pEdit != nullptr;
+}
+
+QString spinText(const QWidget* pWidget)
+{
+    return static_cast<const QAbstractSpinBox*>(pWidget)->text();
+}
+
+QString comboText(const QWidget* pWidget)
+{
+    return static_cast<const QComboBox*>(pWidget)->currentText();
+}
+
+/// The first row whose class a widget inherits counts; the last one takes them all.
+constexpr TextRow kTextRows[] = {
+    textRow<QAbstractButton, &QAbstractButton::text, &QAbstractButton::setText>(),
+    textRow<QLineEdit, &QLineEdit::text, &QLineEdit::setText>(),
+    textRow<QLabel, &QLabel::text, &QLabel::setText>(),
+    {&QComboBox::staticMetaObject, comboText, setComboText},
+    textRow<QGroupBox, &QGroupBox::title, &QGroupBox::setTitle>(),
+    {&QAbstractSpinBox::staticMetaObject, spinText, setSpinText},
+    textRow<QTextEdit, &QTextEdit::toPlainText, &QTextEdit::setPlainText>(),
+    textRow<QPlainTextEdit, &QPlainTextEdit::toPlainText, &QPlainTextEdit::setPlainText>(),
+    textRow<QWidget, &QWidget::windowTitle, &QWidget::setWindowTitle>(),
+};
+
+const TextRow& textRowOf(const QWidget* pWidget)
+{
+    const QMetaObject* const pMeta = pWidget->metaObject();
+    return *std::find_if(std::begin(kTextRows), std::prev(std::end(kTextRows)),
+                         [pMeta](const TextRow& row) { return pMeta->inherits(row.meta); });
+}
+
+QString textOf(const QWidget* pWidget)
+{
+    return pWidget ? textRowOf(pWidget).get(pWidget) : QString();
+}
+
+/// A number at the start of @p strText; false without digits and outside @p low to @p high.
+bool parseNumber(const QString& strText, LONGLONG low, LONGLONG high, LONGLONG& value)
+{
+    auto at = strText.begin();
+    while (at != strText.end() && at->isSpace())
+        ++at;
+    const bool bNegative = low < 0 && at != strText.end() && *at == QLatin1Char('-');
+    if (bNegative)
+        ++at;
+    const auto digits = at;
+    value = 0;
+    for (; at != strText.end() && *at >= QLatin1Char('0') && *at <= QLatin1Char('9'); ++at) {
+        const int digit = at->unicode() - u'0';
+        value = value * 10 + (bNegative ? -digit : digit);
+        if (value < low || value > high)
+            return false;
+    }
+    return at != digits;
+}
+
+} // namespace
+
+BOOL SetWindowText_E(HWND hWnd, LPCWSTR pszText)
+{
+    return hWnd && textRowOf(hWnd).set(hWnd, VxQString(pszText));
+}
+
+int GetWindowText_E(HWND hWnd, CString_E& strText)
+{
+    strText = textOf(hWnd);
+    return strText.GetLength();
+}
+
+int GetWindowText_E(HWND hWnd, LPWSTR pszText, int nMaxCount)
+{
+    if (!pszText || nMaxCount <= 0)
+        return 0;
+    const CString_E strText(textOf(hWnd));
+    const int nLength = std::min(strText.GetLength(), nMaxCount - 1);
+    std::copy_n(strText.GetString(), nLength, pszText);
+    pszText[nLength] = L'\0';
+    return nLength;
+}
+
+int GetWindowTextLength_E(HWND hWnd) { return textOf(hWnd).toUcs4().size(); }
+
+BOOL SetDlgItemText_E(HWND hDlg, int nID, LPCWSTR pszText)
+{
+    return SetWindowText_E(GetDlgItem_E(hDlg, nID), pszText);
+}
+
+int GetDlgItemText_E(HWND hDlg, int nID, CString_E& strText)
+{
+    return GetWindowText_E(GetDlgItem_E(hDlg, nID), strText);
+}
+
+int GetDlgItemText_E(HWND hDlg, int nID, LPWSTR pszText, int nMaxCount)
+{
+    return GetWindowText_E(GetDlgItem_E(hDlg, nID), pszText, nMaxCount);
+}
+
+BOOL SetDlgItemInt_E(HWND hDlg, int nID, UINT nValue, BOOL bSigned)
+{
+    HWND hItem = GetDlgItem_E(hDlg, nID);
+    const QString strNumber =
+        bSigned ? QString::number(static_cast<int>(nValue)) : QString::number(nValue);
+    return hItem && textRowOf(hItem).set(hItem, strNumber);
+}
+
+UINT GetDlgItemInt_E(HWND hDlg, int nID, LPBOOL pTranslated, BOOL bSigned)
+{
+    LONGLONG value = 0;
+    const bool bDone = bSigned
+                           ? parseNumber(textOf(GetDlgItem_E(hDlg, nID)), INT_MIN, INT_MAX, value)
+                           : parseNumber(textOf(GetDlgItem_E(hDlg, nID)), 0, UINT_MAX, value);
+    if (pTranslated)
+        *pTranslated = bDone;
+    return bDone ? static_cast<UINT>(value) : 0;
+}
