@@ -4,6 +4,7 @@
 #include <VxMFCEmu/wnd/input.h>
 #include <VxMFCEmu/wnd/messageevent.h>
 #include <VxMFCEmu/wnd/wincodes.h>
+#include <VxMFCEmu/wnd/windowgeometry.h>
 #include <VxMFCEmu/wnd/winmessages.h>
 
 #include "wnd/vxrowindex_p.h"
@@ -14,8 +15,6 @@
 #include <QtWidgets/QWidget>
 
 #include <cmath>
-
-VXMFC_EXPORT BOOL GetCursorPos_E(tagPOINT* lpPoint);
 
 namespace vx::detail {
 namespace {

@@ -1,3 +1,4 @@
 #include <VxMFCEmu/wnd/messageevent.h>
 
 VxWinMsgEvent::~VxWinMsgEvent() = default;
+VxMsgBoxEvent::~VxMsgBoxEvent() = default;

@@ -3,6 +3,13 @@
 #include <VxMFCEmu/wnd/eventtranslation.h>
 #include <VxMFCEmu/wnd/messageevent.h>
 
+#include <QtWidgets/QtWidgets>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <set>
+
 namespace {
 
 using EventPtr = std::shared_ptr<QEvent>;
@@ -55,7 +62,7 @@ TEST_F(Translation, GivesEveryEventItsMessage)
     {
         int line;
         EventPtr event;
-        UINT message;
+        WPARAM message;
         WPARAM wParam;
         LPARAM lParam;
     } rows[] = {
@@ -322,6 +329,18 @@ TEST_F(Translation, CarriesOtherMessagesAsTheyAre)
         EXPECT_EQ(event.lParam, -9);
         EXPECT_EQ(event.result, 0);
     }
+}
+
+TEST_F(Translation, LeavesTheMessageBoxEventAlone)
+{
+    CString_E text(L"Text");
+    VxMsgBoxEvent e(text, L"Caption");
+    text = L"changed";
+    tagMSG msg{};
+    EXPECT_EQ(int(e.type()), 1129);
+    EXPECT_FALSE(vxQEventToMsg(&w, &e, &msg));
+    EXPECT_STREQ(e.text.GetString(), L"Text");
+    EXPECT_STREQ(e.caption.GetString(), L"Caption");
 }
 
 /// Notes the messages that arrive, as text.

@@ -2,6 +2,10 @@
 
 #include <VxMFCEmu/wnd/input.h>
 
+#include <QtCore/QByteArray>
+
+#include <gtest/gtest.h>
+
 #include <X11/keysym.h>
 
 namespace {

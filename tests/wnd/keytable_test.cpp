@@ -1,6 +1,12 @@
 #include <VxMFCEmu/wnd/input.h>
 
+#include <QtGui/QKeyEvent>
+
+#include <gtest/gtest.h>
+
+#include <climits>
 #include <cstdlib>
+#include <map>
 
 namespace {
 

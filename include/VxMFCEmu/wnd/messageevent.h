@@ -4,6 +4,7 @@
 /// Threads: made in any thread, delivered in the receiver's.
 #pragma once
 
+#include <VxMFCEmu/text/cstring.h>
 #include <VxMFCEmu/types.h>
 
 #include <QtCore/QEvent>
@@ -24,4 +25,20 @@ public:
     WPARAM wParam;
     LPARAM lParam;
     LRESULT result = 0; ///< written by the window that handles the message
+};
+
+/// Asks a window to show a message box with an OK button; the window's filter consumes it.
+class VXMFC_EXPORT VxMsgBoxEvent : public QEvent
+{
+public:
+    static constexpr QEvent::Type EventType = static_cast<QEvent::Type>(QEvent::User + 129);
+
+    VxMsgBoxEvent(const CString_E& strText, const CString_E& strCaption)
+        : QEvent(EventType), text(strText), caption(strCaption)
+    {
+    }
+    ~VxMsgBoxEvent() override;
+
+    CString_E text;
+    CString_E caption;
 };
