@@ -9,7 +9,7 @@ scripts/setup.sh
 build release
 
 host=build/release/bin/vxdemo_host
-plugin=build/release/lib/libvxdemo_plugin.so
+plugin=build/release/lib/libVxDemoPlugin.so
 
 # shellcheck disable=SC2031 # with_display sets them for its command only
 if [ -n "${DISPLAY-}" ] && [ "${QT_QPA_PLATFORM-}" != offscreen ]; then

@@ -3,6 +3,7 @@ vxmfc_sources(FOLDER wnd
     wnd/controlmessages.h
     wnd/eventtranslation.h
     wnd/geometry.h
+    wnd/globaleventhandler.h
     wnd/hostwindows.h
     wnd/input.h
     wnd/menu.h

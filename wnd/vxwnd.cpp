@@ -30,7 +30,7 @@ CWnd_E::~CWnd_E()
 QWidget* CWnd_E::GetSafeHwnd() const
 {
     // Whatever is attached to a window is a widget: its class record says so.
-    return this ? static_cast<QWidget*>(GetImpQObject()) : nullptr;
+    return static_cast<QWidget*>(GetImpQObject());
 }
 
 BOOL CWnd_E::OnAttach()

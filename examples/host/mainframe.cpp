@@ -1,5 +1,6 @@
 #include "mainframe.h"
 
+#include <QtCore/QVariant>
 #include <QtWidgets/QMdiArea>
 #include <QtWidgets/QMdiSubWindow>
 #include <QtWidgets/QStatusBar>
