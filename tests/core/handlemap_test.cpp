@@ -150,9 +150,9 @@ TEST(DeviceContext, BothHandlesFollow)
     }
     CDC_E* previous = nullptr;
     for (CDC_E* const object : objects) {
-        if (previous)
-            ASSERT_GE(reinterpret_cast<char*>(object) - reinterpret_cast<char*>(previous),
-                      static_cast<std::ptrdiff_t>(sizeof(CDC_E)));
+        EXPECT_TRUE(!previous ||
+                    reinterpret_cast<char*>(object) - reinterpret_cast<char*>(previous) >=
+                        static_cast<std::ptrdiff_t>(sizeof(CDC_E)));
         previous = object;
     }
     CDC_E::DeleteTempMap();

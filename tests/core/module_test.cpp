@@ -1,4 +1,5 @@
 #include <VxMFCEmu/core/extensionmodule.h>
+#include <VxMFCEmu/core/handlemap.h>
 #include <VxMFCEmu/core/modulestate.h>
 #include <VxMFCEmu/core/threadlocal.h>
 #include <VxMFCEmu/core/threadslots.h>
@@ -52,7 +53,7 @@ TEST(ModuleState, MapsAreMadeOnRequest)
     }
 }
 
-struct ToolTip : VxToolTip
+struct ToolTip final : VxToolTip
 {
     void DestroyToolTipCtrl() override { ++destroyed; }
     int destroyed = 0;

@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
     , Memory,
     testing::Values(Family{"Global", GlobalAlloc_E, GlobalReAlloc_E, GlobalFree_E},
                     Family{"Local", LocalAlloc_E, LocalReAlloc_E, LocalFree_E}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST(GlobalMemory, AHandleIsTheAddress)
 {

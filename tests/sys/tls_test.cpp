@@ -28,7 +28,8 @@ TEST(Tls, EachThreadHasItsOwnValue)
 TEST(Tls, ASlotThatDoesNotExist)
 {
     const DWORD freed = TlsAlloc_E();
-    TlsSetValue_E(freed, &freed);
+    int value = 0;
+    TlsSetValue_E(freed, &value);
     EXPECT_EQ(TlsFree_E(freed), TRUE);
     for (const DWORD slot : {freed, TLS_OUT_OF_INDEXES}) {
         EXPECT_EQ(TlsFree_E(slot), FALSE);
