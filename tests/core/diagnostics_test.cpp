@@ -159,7 +159,8 @@ protected:
 
 TEST_F(LogTest, FoldersLieAroundTheExecutable)
 {
-    EXPECT_EQ(Run({QStringLiteral("folders")}), (m_root + "/bin\n" + m_root + '\n').toUtf8());
+    const QByteArray root = m_root.toUtf8();
+    EXPECT_EQ(Run({QStringLiteral("folders")}), root + "/bin\n" + root + "\n");
 }
 
 TEST_F(LogTest, AppendsTimedLinesAndKeepsTextAsItIs)
