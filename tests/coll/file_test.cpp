@@ -28,7 +28,10 @@ int causeOf(Work work)
 class FileTest : public testing::Test
 {
 protected:
-    CString_E Path(const char* name = "f") const { return CString_E(m_dir.filePath(QString::fromUtf8(name))); }
+    CString_E Path(const char* name = "f") const
+    {
+        return CString_E(m_dir.filePath(QString::fromUtf8(name)));
+    }
     CString_E Make(const QByteArray& bytes) const
     {
         QFile file{VxQString(Path())};
@@ -77,7 +80,8 @@ TEST_F(FileTest, OpenModes)
         const char* after;  // when "Z" has been written, if it may be
     } rows[] = {
         {__LINE__, CFile_E::modeRead, "abc", -1, "abc"},
-        {__LINE__, CFile_E::modeRead | CFile_E::shareExclusive | CFile_E::typeBinary, "abc", -1, "abc"},
+        {__LINE__, CFile_E::modeRead | CFile_E::shareExclusive | CFile_E::typeBinary, "abc", -1,
+         "abc"},
         {__LINE__, CFile_E::modeRead, nullptr, CFileException_E::fileNotFound, "<none>"},
         {__LINE__, CFile_E::modeWrite, nullptr, CFileException_E::fileNotFound, "<none>"},
         {__LINE__, CFile_E::modeWrite, "abc", -1, "Zbc"},
@@ -97,7 +101,8 @@ TEST_F(FileTest, OpenModes)
         CFileException_E error;
         EXPECT_EQ(file.Open(Path(), row.flags, &error), row.cause < 0);
         EXPECT_EQ(error.m_cause, std::max(row.cause, 0));
-        EXPECT_EQ(causeOf([&] { CFile_E thrown(L"/nowhere/f", row.flags); }), CFileException_E::fileNotFound);
+        EXPECT_EQ(causeOf([&] { CFile_E thrown(L"/nowhere/f", row.flags); }),
+                  CFileException_E::fileNotFound);
         if (row.cause < 0) {
             char c;
             const UINT access = row.flags & 3U;
@@ -188,8 +193,10 @@ TEST_F(FileTest, FullDiskIsReported)
 TEST_F(FileTest, RemoveAndRename)
 {
     Make("x");
-    EXPECT_EQ(causeOf([&] { CFile_E::Rename(Path("no"), Path("g")); }), CFileException_E::fileNotFound);
-    EXPECT_EQ(causeOf([&] { CFile_E::Rename(Path(), Path()); }), CFileException_E::genericException);
+    EXPECT_EQ(causeOf([&] { CFile_E::Rename(Path("no"), Path("g")); }),
+              CFileException_E::fileNotFound);
+    EXPECT_EQ(causeOf([&] { CFile_E::Rename(Path(), Path()); }),
+              CFileException_E::genericException);
     CFile_E::Rename(Path(), Path("g"));
     EXPECT_EQ(Bytes("g"), "x");
     CFile_E::Remove(Path("g"));
@@ -200,7 +207,9 @@ TEST_F(FileTest, RemoveAndRename)
 
 TEST_F(FileTest, WorksInAThreadWithoutAnEventLoop)
 {
-    std::thread([this] { CFile_E(Path(), CFile_E::modeWrite | CFile_E::modeCreate).Write("t", 1); }).join();
+    std::thread([this] {
+        CFile_E(Path(), CFile_E::modeWrite | CFile_E::modeCreate).Write("t", 1);
+    }).join();
     EXPECT_EQ(Bytes(), "t");
 }
 
@@ -239,9 +248,19 @@ TEST_F(FileTest, TextLines)
         {__LINE__, "ab\r\nc", CFile_E::typeBinary, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
         {__LINE__, "ab\r\ncde\n", 0, {L"ab", L"cde"}, 3, {L"ab", L"\n", L"cd", L"e\n"}},
         {__LINE__, "ab\r\nc", 0, {L"ab", L"c"}, 4, {L"ab\n", L"c"}},
-        {__LINE__, "\u00e4\u4e2d\U0001F600\nx", 0, {L"\u00e4\u4e2d\U0001F600", L"x"}, 3,
+        {__LINE__,
+         "\u00e4\u4e2d\U0001F600\nx",
+         0,
+         {L"\u00e4\u4e2d\U0001F600", L"x"},
+         3,
          {L"\u00e4\u4e2d", L"\U0001F600\n", L"x"}},
-        {__LINE__, "\xEF\xBB\xBF" "a\n", 0, {L"a"}, 8, {L"a\n"}},
+        {__LINE__,
+         "\xEF\xBB\xBF"
+         "a\n",
+         0,
+         {L"a"},
+         8,
+         {L"a\n"}},
         {__LINE__, "a\xFF\n", 0, {L"a\uFFFD"}, 8, {L"a\uFFFD\n"}},
     };
     for (const auto& row : rows) {
@@ -288,7 +307,8 @@ TEST(MemFile, GrowsAndReadsBack)
     file.Write("x", 1);
     file.SeekToBegin();
     EXPECT_EQ(file.Read(actual.data(), 9), 5U);
-    EXPECT_EQ(actual.substr(0, 5), std::string("01\0\0x", 5)); // what was cut off does not come back
+    EXPECT_EQ(actual.substr(0, 5),
+              std::string("01\0\0x", 5)); // what was cut off does not come back
     EXPECT_EQ(causeOf([&] { file.Seek(-6, CFile_E::current); }), CFileException_E::badSeek);
     EXPECT_FALSE(file.Open(L"f", CFile_E::modeRead));
     file.Close();

@@ -12,19 +12,18 @@
 
 namespace {
 
-QMessageBox* openBox()
-{
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-}
+QMessageBox* openBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 
 /// Captions of the buttons from left to right, the default one in brackets.
 QString buttonRow(const QMessageBox& box)
 {
     QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
-    std::sort(buttons.begin(), buttons.end(), [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
+    std::sort(buttons.begin(), buttons.end(),
+              [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
     QStringList texts;
     for (const QPushButton* pButton : buttons)
-        texts += (pButton->isDefault() ? QStringLiteral("[%1]") : QStringLiteral("%1")).arg(pButton->text().remove(u'&'));
+        texts += (pButton->isDefault() ? QStringLiteral("[%1]") : QStringLiteral("%1"))
+                     .arg(pButton->text().remove(u'&'));
     return texts.join(u' ');
 }
 
@@ -60,31 +59,49 @@ struct SetRow
 {
     int line;
     UINT type;
-    const char* buttons[4]; // with default button 1 to 4
+    const char* buttons[4];                // with default button 1 to 4
     std::vector<std::pair<int, int>> keys; // key, and the result; 0 when the box stays
     int closeResult;
 };
 
 const SetRow kSets[] = {
-    {__LINE__, MB_OK, {"[OK]", "[OK]", "[OK]", "[OK]"}, {{Qt::Key_Return, IDOK}, {Qt::Key_Escape, IDOK}}, IDOK},
-    {__LINE__, MB_OKCANCEL,
+    {__LINE__,
+     MB_OK,
+     {"[OK]", "[OK]", "[OK]", "[OK]"},
+     {{Qt::Key_Return, IDOK}, {Qt::Key_Escape, IDOK}},
+     IDOK},
+    {__LINE__,
+     MB_OKCANCEL,
      {"[OK] Cancel", "OK [Cancel]", "[OK] Cancel", "[OK] Cancel"},
-     {{Qt::Key_Return, IDOK}, {Qt::Key_Escape, IDCANCEL}}, IDCANCEL},
-    {__LINE__, MB_ABORTRETRYIGNORE,
-     {"[Abort] Retry Ignore", "Abort [Retry] Ignore", "Abort Retry [Ignore]", "[Abort] Retry Ignore"},
-     {{Qt::Key_A, IDABORT}, {Qt::Key_R, IDRETRY}, {Qt::Key_I, IDIGNORE}, {Qt::Key_Escape, 0}}, 0},
-    {__LINE__, MB_YESNOCANCEL,
+     {{Qt::Key_Return, IDOK}, {Qt::Key_Escape, IDCANCEL}},
+     IDCANCEL},
+    {__LINE__,
+     MB_ABORTRETRYIGNORE,
+     {"[Abort] Retry Ignore", "Abort [Retry] Ignore", "Abort Retry [Ignore]",
+      "[Abort] Retry Ignore"},
+     {{Qt::Key_A, IDABORT}, {Qt::Key_R, IDRETRY}, {Qt::Key_I, IDIGNORE}, {Qt::Key_Escape, 0}},
+     0},
+    {__LINE__,
+     MB_YESNOCANCEL,
      {"[Yes] No Cancel", "Yes [No] Cancel", "Yes No [Cancel]", "[Yes] No Cancel"},
-     {{Qt::Key_Y, IDYES}, {Qt::Key_N, IDNO}, {Qt::Key_Escape, IDCANCEL}}, IDCANCEL},
-    {__LINE__, MB_YESNO, {"[Yes] No", "Yes [No]", "[Yes] No", "[Yes] No"},
-     {{Qt::Key_Return, IDYES}, {Qt::Key_N, IDNO}, {Qt::Key_Escape, 0}}, 0},
-    {__LINE__, MB_RETRYCANCEL,
+     {{Qt::Key_Y, IDYES}, {Qt::Key_N, IDNO}, {Qt::Key_Escape, IDCANCEL}},
+     IDCANCEL},
+    {__LINE__,
+     MB_YESNO,
+     {"[Yes] No", "Yes [No]", "[Yes] No", "[Yes] No"},
+     {{Qt::Key_Return, IDYES}, {Qt::Key_N, IDNO}, {Qt::Key_Escape, 0}},
+     0},
+    {__LINE__,
+     MB_RETRYCANCEL,
      {"[Retry] Cancel", "Retry [Cancel]", "[Retry] Cancel", "[Retry] Cancel"},
-     {{Qt::Key_R, IDRETRY}, {Qt::Key_Escape, IDCANCEL}}, IDCANCEL},
-    {__LINE__, MB_CANCELTRYCONTINUE,
+     {{Qt::Key_R, IDRETRY}, {Qt::Key_Escape, IDCANCEL}},
+     IDCANCEL},
+    {__LINE__,
+     MB_CANCELTRYCONTINUE,
      {"[Cancel] Try Again Continue", "Cancel [Try Again] Continue", "Cancel Try Again [Continue]",
       "[Cancel] Try Again Continue"},
-     {{Qt::Key_T, IDTRYAGAIN}, {Qt::Key_C, IDCONTINUE}, {Qt::Key_Escape, IDCANCEL}}, IDCANCEL},
+     {{Qt::Key_T, IDTRYAGAIN}, {Qt::Key_C, IDCONTINUE}, {Qt::Key_Escape, IDCANCEL}},
+     IDCANCEL},
 };
 
 int showSet(UINT type) { return MessageBox_E(nullptr, L"text", L"caption", type); }
@@ -116,8 +133,12 @@ TEST(MessageBox, KeysAndCloseButtonAnswer)
 
 TEST(MessageBox, DefaultButtonTakesReturn)
 {
-    EXPECT_EQ(withBox([] { return showSet(MB_YESNOCANCEL | MB_DEFBUTTON2); }, pressKey(Qt::Key_Return)), IDNO);
-    EXPECT_EQ(withBox([] { return showSet(MB_YESNOCANCEL | MB_DEFBUTTON3); }, pressKey(Qt::Key_Return)), IDCANCEL);
+    EXPECT_EQ(
+        withBox([] { return showSet(MB_YESNOCANCEL | MB_DEFBUTTON2); }, pressKey(Qt::Key_Return)),
+        IDNO);
+    EXPECT_EQ(
+        withBox([] { return showSet(MB_YESNOCANCEL | MB_DEFBUTTON3); }, pressKey(Qt::Key_Return)),
+        IDCANCEL);
 }
 
 TEST(MessageBox, RealKeys)
