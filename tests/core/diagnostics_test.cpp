@@ -45,7 +45,8 @@ TEST(DumpContext, WritesValues)
         {__LINE__, dumped([](auto& dc) { dc << L"a\nb"; }), L"a\nb"},
         {__LINE__, dumped([](auto& dc) { dc << static_cast<const wchar_t*>(nullptr); }), L"NULL"},
         {__LINE__, dumped([](auto& dc) { dc << static_cast<const char*>(nullptr); }), L"(NULL)"},
-        {__LINE__, dumped([](auto& dc) { dc << std::string(600, 'n').c_str(); }), std::wstring(512, L'n')},
+        {__LINE__, dumped([](auto& dc) { dc << std::string(600, 'n').c_str(); }),
+         std::wstring(512, L'n')},
         {__LINE__, dumped([](auto& dc) { dc << static_cast<BYTE>(200) << L' '; }), L"20032"},
         {__LINE__, dumped([](auto& dc) { dc << static_cast<WORD>(65535); }), L"65535"},
         {__LINE__, dumped([](auto& dc) { dc << 4000000000U; }), L"4000000000"},
@@ -60,11 +61,13 @@ TEST(DumpContext, WritesValues)
         {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(0xABCU); }), L"0x00000abc"},
         {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(-2LL); }), L"0xfffffffffffffffe"},
         {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(0x1FULL); }), L"0x000000000000001f"},
-        {__LINE__, dumped([&](auto& dc) { dc << static_cast<const void*>(&object); }), address(&object)},
+        {__LINE__, dumped([&](auto& dc) { dc << static_cast<const void*>(&object); }),
+         address(&object)},
         {__LINE__, dumped([&](auto& dc) { dc << &object; }),
          L"Unable to dump object in static release builds"},
         {__LINE__, dumped([](auto& dc) { dc << static_cast<const CObject_E*>(nullptr); }), L"NULL"},
-        {__LINE__, dumped([&](auto& dc) { object.Dump(dc); }), L"a CObject_E at " + address(&object)},
+        {__LINE__, dumped([&](auto& dc) { object.Dump(dc); }),
+         L"a CObject_E at " + address(&object)},
     };
     for (const auto& row : rows)
         EXPECT_EQ(row.actual, row.expected) << "line " << row.line;
@@ -74,8 +77,8 @@ TEST(DumpContext, HexDumpWritesRows)
 {
     BYTE bytes[] = {0x00, 0x0F, 0xFF, 0x80, 0x7F};
     EXPECT_EQ(dumped([&](auto& dc) { dc.HexDump(L"%p:", bytes, 5, 2); }),
-              address(bytes).substr(1) + L": 00 0F\n" + address(bytes + 2).substr(1) + L": FF 80\n" +
-                  address(bytes + 4).substr(1) + L": 7F\n");
+              address(bytes).substr(1) + L": 00 0F\n" + address(bytes + 2).substr(1) +
+                  L": FF 80\n" + address(bytes + 4).substr(1) + L": 7F\n");
     EXPECT_EQ(dumped([&](auto& dc) { dc.HexDump(L"", bytes, 2, 2); }), L" 00 0F\n");
     CDumpContext_E dc;
     EXPECT_THROW(dc.HexDump(nullptr, bytes, 1, 1), CInvalidArgException_E*);
@@ -118,8 +121,10 @@ QString g_debugText;
 
 TEST(MemoryState, DumpsOneRecord)
 {
-    const auto previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) { g_debugText += text + u'|'; });
+    const auto previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+            g_debugText += text + u'|';
+        });
     CMemoryState_E().DumpStatistics();
     qInstallMessageHandler(previous);
     EXPECT_EQ(g_debugText.toStdString(),
@@ -135,7 +140,8 @@ protected:
         ASSERT_TRUE(m_dir.isValid());
         QDir(m_dir.path()).mkpath(QStringLiteral("x/bin"));
         QDir(m_dir.path()).mkpath(QStringLiteral("x/Common"));
-        ASSERT_TRUE(QFile::copy(QStringLiteral(VXTEST_LOG_HELPER), m_root + QStringLiteral("/bin/app")));
+        ASSERT_TRUE(
+            QFile::copy(QStringLiteral(VXTEST_LOG_HELPER), m_root + QStringLiteral("/bin/app")));
     }
     QByteArray Run(const QStringList& arguments) const
     {
@@ -159,7 +165,8 @@ protected:
 
 TEST_F(LogTest, FoldersLieAroundTheExecutable)
 {
-    EXPECT_EQ(Run({QStringLiteral("folders")}), (m_root + "/bin\n" + m_root + '\n').toUtf8());
+    const QByteArray root = m_root.toUtf8();
+    EXPECT_EQ(Run({QStringLiteral("folders")}), root + "/bin\n" + root + "\n");
 }
 
 TEST_F(LogTest, AppendsTimedLinesAndKeepsTextAsItIs)

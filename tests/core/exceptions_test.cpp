@@ -42,7 +42,9 @@ std::wstring messageOf(CException_E& e, UINT room = 200)
 struct PlainException : CException_E
 {
     explicit PlainException(int* pDeaths = nullptr, BOOL bAutoDelete = TRUE)
-        : CException_E(bAutoDelete), m_pDeaths(pDeaths) {}
+        : CException_E(bAutoDelete), m_pDeaths(pDeaths)
+    {
+    }
     ~PlainException() override
     {
         if (m_pDeaths)
@@ -95,7 +97,8 @@ TEST(Exceptions, RecordsCannotTellKindsApart)
 {
     const Held<CException_E> pFile(new CFileException_E);
     const CObject_E plain;
-    for (const CRuntimeClass_E* pClass : {RUNTIME_CLASS_E(CException_E), RUNTIME_CLASS_E(COleException_E)}) {
+    for (const CRuntimeClass_E* pClass :
+         {RUNTIME_CLASS_E(CException_E), RUNTIME_CLASS_E(COleException_E)}) {
         EXPECT_TRUE(pFile->IsKindOf(pClass));
         EXPECT_TRUE(plain.IsKindOf(pClass));
         EXPECT_STREQ(pClass->GetClassName(), "CObject_E");
@@ -128,8 +131,8 @@ TEST(Exceptions, BaseHasNoMessage)
 
 TEST(FileException, CausesOfErrnoNumbers)
 {
-    const std::map<int, int> special = {{1, 5},  {2, 2},  {5, 10}, {9, 6},   {13, 5}, {22, 10},
-                                        {23, 2}, {24, 4}, {28, 13}, {36, 11}};
+    const std::map<int, int> special = {{1, 5},   {2, 2},  {5, 10}, {9, 6},   {13, 5},
+                                        {22, 10}, {23, 2}, {24, 4}, {28, 13}, {36, 11}};
     for (int n = -2; n < 200; ++n) {
         const auto it = special.find(n);
         EXPECT_EQ(CFileException_E::ErrnoToException(n), it == special.end() ? 1 : it->second) << n;
@@ -141,8 +144,8 @@ TEST(FileException, CausesOfOsErrors)
     const std::map<int, std::vector<int>> byCause = {
         {0, {0}},
         {2, {2, 6, 18, 107}},
-        {3, {3,  15, 17,  34,  52,  53,  55,  67,  70,  85,
-             111, 123, 124, 125, 144, 154, 161, 206, 208, 267}},
+        {3,
+         {3, 15, 17, 34, 52, 53, 55, 67, 70, 85, 111, 123, 124, 125, 144, 154, 161, 206, 208, 267}},
         {4, {4, 36, 68, 113}},
         {5, {5, 12, 19, 29, 54, 58, 64, 65, 71, 80, 82, 86, 170, 183, 999}},
         {6, {11, 26, 60, 66, 114, 182, 191, 193}},
@@ -169,7 +172,8 @@ TEST(FileException, CausesOfOsErrors)
 
 TEST(FileException, ThrowsFromErrorNumbers)
 {
-    const auto pErrno = hold<CFileException_E>([] { CFileException_E::ThrowErrno(EACCES, L"a.txt"); });
+    const auto pErrno =
+        hold<CFileException_E>([] { CFileException_E::ThrowErrno(EACCES, L"a.txt"); });
     ASSERT_TRUE(pErrno);
     EXPECT_EQ(pErrno->m_cause, CFileException_E::accessDenied);
     EXPECT_EQ(pErrno->m_lOsError, 0);
@@ -233,12 +237,14 @@ TEST(OleException, ProcessReadsTheStatusCodePosition)
 
 TEST(OleDispatchException, HelpContextAndDescription)
 {
-    const auto pText = hold<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, L"why", 0x10); });
+    const auto pText =
+        hold<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, L"why", 0x10); });
     ASSERT_TRUE(pText);
     EXPECT_EQ(pText->m_wCode, 3);
     EXPECT_EQ(pText->m_dwHelpContext, 0x60010U);
     EXPECT_EQ(messageOf(*pText), L"why");
-    const auto pId = hold<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, 0x20U, 0xFFFFFFFFU); });
+    const auto pId = hold<COleDispatchException_E>(
+        [] { AfxThrowOleDispatchException_E(3, 0x20U, 0xFFFFFFFFU); });
     ASSERT_TRUE(pId);
     EXPECT_EQ(pId->m_dwHelpContext, 0x60020U);
     EXPECT_EQ(messageOf(*pId), L"AfxThrowOleDispatchException");

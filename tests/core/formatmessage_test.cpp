@@ -45,8 +45,9 @@ TEST(FormatMessage, IntoTheCallersBuffer)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         std::wstring buffer(128, L'#');
-        EXPECT_EQ(FormatMessage_E(row.flags, row.source, row.id, 0, buffer.data(), row.size, nullptr),
-                  row.length);
+        EXPECT_EQ(
+            FormatMessage_E(row.flags, row.source, row.id, 0, buffer.data(), row.size, nullptr),
+            row.length);
         EXPECT_EQ(std::wstring(buffer.data(), row.text ? row.length + 1 : 1),
                   row.text ? std::wstring(row.text) + L'\0' : std::wstring(L"#"));
         EXPECT_EQ(buffer[row.length + 1], L'#');

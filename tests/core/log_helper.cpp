@@ -37,7 +37,8 @@ int main(int argc, char** argv)
 {
     const std::string_view what = argc > 1 ? argv[1] : "";
     if (what == "folders")
-        std::printf("%s\n%s\n", GetApplicationDirectory(nullptr).Utf8Ptr(), GetMainDirectory().Utf8Ptr());
+        std::printf("%s\n%s\n", GetApplicationDirectory(nullptr).Utf8Ptr(),
+                    GetMainDirectory().Utf8Ptr());
     else if (what == "text" && argc > 2)
         vxLogPrintf(L"%S", argv[2]);
     else if (what == "rotate" && argc > 2)
