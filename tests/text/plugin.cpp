@@ -2,8 +2,6 @@
 #include <VxMFCEmu/core.h>
 #include <VxMFCEmu/text.h>
 
-#include <exception>
-
 namespace {
 
 QString s_nameInFactory;
@@ -23,7 +21,7 @@ Q_DECL_EXPORT void pluginName(QString* result) { *result = GetMfyResourceName();
 Q_DECL_EXPORT void pluginCallBack(void (*callback)())
 {
     callback();
-    std::set_terminate(std::get_terminate()); // keeps the call above from being a tail call
+    s_nameInFactory.clear();
 }
 
 Q_DECL_EXPORT BOOL pluginLoad(CString_E* text, UINT id)
@@ -32,10 +30,12 @@ Q_DECL_EXPORT BOOL pluginLoad(CString_E* text, UINT id)
     return found == text->LoadString(nullptr, id, 0) ? found : -1;
 }
 
-Q_DECL_EXPORT void pluginFormat(CString_E* text, UINT id)
+// The results keep the calls from being tail calls, which would hide the plug-in.
+Q_DECL_EXPORT int pluginFormat(CString_E* text, UINT id)
 {
     text->Format(id, 3, L"nine");
     text->AppendFormat(id, 4, L"ten");
+    return text->GetLength();
 }
 
 /// A factory that the library is to call: the plug-in is nearer on the stack than who asked for it.

@@ -105,7 +105,7 @@ TEST(LoadString, ReadsTheCallersTable)
         EXPECT_EQ(load(&text, row.id), row.found) << row.id;
         EXPECT_EQ(text, row.text) << row.id;
     }
-    gizmo.find<void(CString_E*, UINT)>("pluginFormat")(&text, 104);
+    EXPECT_EQ(gizmo.find<int(CString_E*, UINT)>("pluginFormat")(&text, 104), 17);
     EXPECT_EQ(text, L"3 of nine4 of ten");
 }
 
