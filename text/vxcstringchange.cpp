@@ -45,9 +45,17 @@ int CString_E::Replace(const wchar_t* old, const wchar_t* replacement)
     const std::wstring_view to(orEmpty(replacement));
     if (from.empty())
         return 0;
-    // Text is only moved towards the start while nothing of it is still to be compared or inserted.
+    const std::size_t first = m_text.find(from);
+    if (first == std::wstring::npos)
+        return 0;
+    const std::size_t second = m_text.find(from, first + from.size());
+    if (second == std::wstring::npos) {
+        m_text.replace(first, from.size(), to);
+        return 1;
+    }
+    // In place, text is only moved towards the start; what is still read must not lie in it.
     const bool inPlace = to.size() <= from.size() && !PointsInto(old) && !PointsInto(replacement);
-    return inPlace ? ReplaceInPlace(from, to) : ReplaceGrowing(from, to);
+    return inPlace ? ReplaceInPlace(from, to, first) : ReplaceGrowing(from, to, first);
 }
 
 bool CString_E::PointsInto(const wchar_t* p) const noexcept
@@ -56,38 +64,36 @@ bool CString_E::PointsInto(const wchar_t* p) const noexcept
     return notAfter(m_text.data(), p) && notAfter(p, m_text.data() + m_text.size());
 }
 
-int CString_E::ReplaceInPlace(std::wstring_view old, std::wstring_view replacement)
+int CString_E::ReplaceInPlace(std::wstring_view old, std::wstring_view replacement, std::size_t hit)
 {
     int count = 0;
     wchar_t* const text = m_text.data();
-    wchar_t* out = text;
-    std::size_t from = 0;
-    const auto keepUntil = [&](std::size_t end) {
-        out = out == text + from ? text + end : std::copy(text + from, text + end, out);
-    };
-    for (std::size_t hit = 0; (hit = m_text.find(old, from)) != std::wstring::npos; ++count) {
-        keepUntil(hit);
+    wchar_t* out = text + hit;
+    while (hit != std::wstring::npos) {
         out = std::copy(replacement.begin(), replacement.end(), out);
-        from = hit + old.size();
+        ++count;
+        const std::size_t kept = hit + old.size();
+        hit = m_text.find(old, kept);
+        out = std::copy(text + kept, text + std::min(hit, m_text.size()), out);
     }
-    keepUntil(m_text.size());
     m_text.resize(static_cast<std::size_t>(out - text));
     return count;
 }
 
-int CString_E::ReplaceGrowing(std::wstring_view old, std::wstring_view replacement)
+int CString_E::ReplaceGrowing(std::wstring_view old, std::wstring_view replacement, std::size_t hit)
 {
     int count = 0;
     std::wstring result;
-    std::size_t from = 0;
-    for (std::size_t hit = 0; (hit = m_text.find(old, from)) != std::wstring::npos; ++count) {
-        if (count == 0)
-            result.reserve(m_text.size() + replacement.size());
-        result.append(m_text, from, hit - from).append(replacement);
-        from = hit + old.size();
+    result.reserve(m_text.size() + 2 * replacement.size());
+    result.append(m_text, 0, hit);
+    while (hit != std::wstring::npos) {
+        result.append(replacement);
+        ++count;
+        const std::size_t kept = hit + old.size();
+        hit = m_text.find(old, kept);
+        result.append(m_text, kept, hit - kept);
     }
-    if (count != 0)
-        m_text = std::move(result.append(m_text, from));
+    m_text = std::move(result);
     return count;
 }
 

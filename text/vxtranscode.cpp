@@ -3,233 +3,234 @@
 #include <QtCore/QString>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
+#include <initializer_list>
 #include <memory>
 #include <stdexcept>
+
+#ifdef __SSE2__
+#    include <emmintrin.h>
+#endif
 
 namespace vx::detail {
 namespace {
 
+constexpr std::size_t kLongest = 4; // bytes of one character in UTF-8
 constexpr wchar_t kReplacement = 0xFFFD;
 
 constexpr std::uint32_t codeOf(wchar_t ch) { return static_cast<std::uint32_t>(ch); }
 
 constexpr bool isSurrogate(std::uint32_t code) { return code - 0xD800U < 0x800U; }
 
-bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+// The six bits that a continuation byte carries.
+constexpr std::uint32_t bitsOf(unsigned char byte) { return byte & 0x3FU; }
 
-// Length of a sequence by its first byte; 0 for a byte that starts none.
-std::size_t lengthByLead(unsigned char lead)
+constexpr bool areContinuations(std::initializer_list<unsigned char> bytes)
 {
+    unsigned char wrong = 0;
+    for (const unsigned char byte : bytes)
+        wrong |= byte ^ 0x80U;
+    return (wrong & 0xC0U) == 0;
+}
+
+struct Sequence
+{
+    std::uint32_t code;
+    std::size_t length; // 0 when invalid
+};
+
+// The sequence at the start of a text that is not empty.
+inline Sequence decode(const unsigned char* p, const unsigned char* end)
+{
+    constexpr Sequence kInvalid = {0, 0};
+    const unsigned char lead = *p;
+    const auto left = static_cast<std::size_t>(end - p);
     if (lead < 0x80)
-        return 1;
-    if (lead < 0xC2 || lead > 0xF4)
-        return 0;
-    return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        return {lead, 1};
+    if (lead < 0xE0) {
+        if (lead < 0xC2 || left < 2 || !areContinuations({p[1]}))
+            return kInvalid;
+        return {((lead & 0x1FU) << 6) | bitsOf(p[1]), 2};
+    }
+    if (lead < 0xF0) {
+        if (left < 3 || !areContinuations({p[1], p[2]}))
+            return kInvalid;
+        const std::uint32_t code = ((lead & 0x0FU) << 12) | (bitsOf(p[1]) << 6) | bitsOf(p[2]);
+        return code < 0x800 || isSurrogate(code) ? kInvalid : Sequence{code, 3};
+    }
+    if (lead > 0xF4 || left < 4 || !areContinuations({p[1], p[2], p[3]}))
+        return kInvalid;
+    const std::uint32_t code =
+        ((lead & 0x07U) << 18) | (bitsOf(p[1]) << 12) | (bitsOf(p[2]) << 6) | bitsOf(p[3]);
+    return code < 0x10000 || code > 0x10FFFF ? kInvalid : Sequence{code, 4};
 }
 
-// Length of the valid sequence at the start of a text that is not empty; 0 when there is none.
-std::size_t validLength(const char* p, const char* end)
-{
-    const auto lead = static_cast<unsigned char>(*p);
-    const std::size_t length = lengthByLead(lead);
-    if (length < 2 || static_cast<std::size_t>(end - p) < length)
-        return length == 1 ? 1 : 0;
-    if (!std::all_of(p + 1, p + length, isContinuation))
-        return 0;
-    // Overlong forms, surrogates and values above 0x10FFFF show in the second byte.
-    const auto second = static_cast<unsigned char>(p[1]);
-    const bool invalid = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
-                         (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
-    return invalid ? 0 : length;
-}
-
-// The code point of a valid sequence.
-wchar_t decode(const char* p)
-{
-    const auto byte = [p](int i) { return static_cast<wchar_t>(static_cast<unsigned char>(p[i])); };
-    const auto tail = [&byte](int i) { return byte(i) & 0x3F; };
-    if (byte(0) < 0x80)
-        return byte(0);
-    if (byte(0) < 0xE0)
-        return ((byte(0) & 0x1F) << 6) | tail(1);
-    if (byte(0) < 0xF0)
-        return ((byte(0) & 0x0F) << 12) | (tail(1) << 6) | tail(2);
-    return ((byte(0) & 0x07) << 18) | (tail(1) << 12) | (tail(2) << 6) | tail(3);
-}
-
-const char* skipAscii(const char* p, const char* end)
+// Reads 64 bytes a step.
+bool isAscii(const unsigned char* p, std::size_t n)
 {
     constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    for (std::uint64_t eight = 0; end - p >= 8; p += 8) {
-        std::memcpy(&eight, p, sizeof eight);
-        if (eight & kHighBits)
-            break;
+    for (std::array<std::uint64_t, 8> words; n >= sizeof words;
+         p += sizeof words, n -= sizeof words) {
+        std::memcpy(words.data(), p, sizeof words);
+        std::uint64_t all = 0;
+        for (const std::uint64_t word : words)
+            all |= word;
+        if (all & kHighBits)
+            return false;
     }
-    while (p != end && static_cast<unsigned char>(*p) < 0x80)
-        ++p;
-    return p;
+    unsigned char all = 0;
+    for (std::size_t i = 0; i < n; ++i)
+        all |= p[i];
+    return all < 0x80;
 }
 
-// Number of code points; throws for invalid text.
-std::size_t countCodePoints(std::string_view bytes)
+// Vectorises: no early way out, narrow sums.
+
+std::size_t countStarts(const unsigned char* p, std::size_t n)
 {
-    const char* p = bytes.data();
-    const char* const end = p + bytes.size();
-    std::size_t surplus = 0;
-    while ((p = skipAscii(p, end)) != end) {
-        do {
-            const std::size_t length = validLength(p, end);
-            if (length == 0)
-                throw std::range_error("wstring_convert::from_bytes");
-            surplus += length - 1;
-            p += length;
-        } while (p != end && static_cast<unsigned char>(*p) >= 0x80);
+    constexpr std::size_t kBlock = 255; // sums stay in a byte
+    std::size_t count = 0;
+    for (; n > 0; n -= std::min(n, kBlock)) {
+        const std::size_t block = std::min(n, kBlock);
+        unsigned char starts = 0;
+        for (std::size_t i = 0; i < block; ++i)
+            starts = static_cast<unsigned char>(starts + ((p[i] & 0xC0U) != 0x80U ? 1U : 0U));
+        count += starts;
+        p += block;
     }
-    return bytes.size() - surplus;
+    return count;
 }
 
-// Decodes while a string is being constructed from it, so that each character is written once: a
-// resize() would fill the text with zeros first. Its distance is known from counting.
-template <typename Decoder>
-class CodePointIterator
+// Writes the bytes of the leading ASCII characters and returns their number, which may be rounded
+// down.
+std::size_t narrowAscii(std::wstring_view text, char* out)
 {
-public:
-    using iterator_category = std::random_access_iterator_tag;
-    using value_type = wchar_t;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const wchar_t*;
-    using reference = wchar_t;
-
-    CodePointIterator(Decoder decoder, std::ptrdiff_t index) : m_decoder(decoder), m_index(index) {}
-    wchar_t operator*() const { return m_decoder.value(); }
-    CodePointIterator& operator++() { return m_decoder.advance(), ++m_index, *this; }
-    bool operator==(const CodePointIterator& other) const { return m_index == other.m_index; }
-    bool operator!=(const CodePointIterator& other) const { return m_index != other.m_index; }
-    difference_type operator-(const CodePointIterator& other) const
-    {
-        return m_index - other.m_index;
+    std::size_t done = 0;
+#ifdef __SSE2__
+    constexpr std::size_t kStep = 16;
+    const __m128i notAscii = _mm_set1_epi32(~0x7F);
+    for (; text.size() - done >= kStep; done += kStep) {
+        const auto* const p = reinterpret_cast<const __m128i*>(text.data() + done);
+        const __m128i a = _mm_loadu_si128(p);
+        const __m128i b = _mm_loadu_si128(p + 1);
+        const __m128i c = _mm_loadu_si128(p + 2);
+        const __m128i d = _mm_loadu_si128(p + 3);
+        const __m128i all = _mm_or_si128(_mm_or_si128(a, b), _mm_or_si128(c, d));
+        const __m128i wrong = _mm_and_si128(all, notAscii);
+        if (_mm_movemask_epi8(_mm_cmpeq_epi32(wrong, _mm_setzero_si128())) != 0xFFFF)
+            return done;
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + done),
+                         _mm_packus_epi16(_mm_packs_epi32(a, b), _mm_packs_epi32(c, d)));
     }
-
-private:
-    Decoder m_decoder;
-    std::ptrdiff_t m_index;
-};
-
-template <typename Decoder>
-std::wstring decodeAll(Decoder decoder, std::size_t count)
-{
-    using Iterator = CodePointIterator<Decoder>;
-    return std::wstring(Iterator(decoder, 0),
-                        Iterator(decoder, static_cast<std::ptrdiff_t>(count)));
+#endif
+    for (; done < text.size() && codeOf(text[done]) < 0x80; ++done)
+        out[done] = static_cast<char>(text[done]);
+    return done;
 }
 
-struct Utf8Decoder
+constexpr char leadByte(std::uint32_t mark, std::uint32_t bits)
 {
-    const char* p;
-    wchar_t value() const { return decode(p); }
-    void advance() { p += lengthByLead(static_cast<unsigned char>(*p)); }
-};
+    return static_cast<char>(mark | bits);
+}
 
-struct Utf16Decoder
+constexpr char tailByte(std::uint32_t code, unsigned shift)
 {
-    const char16_t* p;
-    const char16_t* end;
+    return static_cast<char>(0x80U | ((code >> shift) & 0x3FU));
+}
 
-    bool atPair() const
-    {
-        return QChar::isHighSurrogate(*p) && p + 1 != end && QChar::isLowSurrogate(p[1]);
-    }
-    wchar_t value() const
-    {
-        if (!isSurrogate(*p))
-            return *p;
-        return atPair() ? static_cast<wchar_t>(QChar::surrogateToUcs4(*p, p[1])) : kReplacement;
-    }
-    void advance() { p += atPair() ? 2 : 1; }
-};
-
-// Bytes of the text in UTF-8; throws for what is no code point.
-std::size_t utf8Size(std::wstring_view text)
+// Runs of one length are the rule, and a loop with a fixed stride for each is what makes this fast.
+char* encode(const wchar_t* p, const wchar_t* end, char* out)
 {
-    constexpr std::size_t kBlock = 1U << 16; // 32-bit sums vectorise best and cannot overflow
-    std::size_t size = text.size();
-    for (std::size_t start = 0; start < text.size(); start += kBlock) {
-        const wchar_t* const p = text.data() + start;
-        const std::size_t n = std::min(kBlock, text.size() - start);
-        std::uint32_t extra = 0;
-        std::uint32_t invalid = 0;
-        for (std::size_t i = 0; i < n; ++i) {
-            const std::uint32_t code = codeOf(p[i]);
-            extra += (code > 0x7F ? 1U : 0U) + (code > 0x7FF ? 1U : 0U) + (code > 0xFFFF ? 1U : 0U);
-            invalid |= (code > 0x10FFFF ? 1U : 0U) | (isSurrogate(code) ? 1U : 0U);
+    while (p != end) {
+        for (; p != end && codeOf(*p) < 0x80; ++p)
+            *out++ = static_cast<char>(*p);
+        for (; p != end && codeOf(*p) - 0x80U < 0x780U; ++p, out += 2) {
+            out[0] = leadByte(0xC0, codeOf(*p) >> 6);
+            out[1] = tailByte(codeOf(*p), 0);
         }
-        if (invalid)
-            throw std::range_error("wstring_convert::to_bytes");
-        size += extra;
-    }
-    return size;
-}
-
-char* encode(std::uint32_t code, char* out)
-{
-    const auto put = [&out](std::uint32_t byte) { *out++ = static_cast<char>(byte); };
-    if (code < 0x80) {
-        put(code);
-    } else if (code < 0x800) {
-        put(0xC0 | (code >> 6));
-        put(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        put(0xE0 | (code >> 12));
-        put(0x80 | ((code >> 6) & 0x3F));
-        put(0x80 | (code & 0x3F));
-    } else {
-        put(0xF0 | (code >> 18));
-        put(0x80 | ((code >> 12) & 0x3F));
-        put(0x80 | ((code >> 6) & 0x3F));
-        put(0x80 | (code & 0x3F));
+        for (; p != end && codeOf(*p) - 0x800U < 0xF800U; ++p, out += 3) {
+            if (isSurrogate(codeOf(*p)))
+                throw std::range_error("wstring_convert::to_bytes");
+            out[0] = leadByte(0xE0, codeOf(*p) >> 12);
+            out[1] = tailByte(codeOf(*p), 6);
+            out[2] = tailByte(codeOf(*p), 0);
+        }
+        for (; p != end && codeOf(*p) > 0xFFFF; ++p, out += 4) {
+            if (codeOf(*p) > 0x10FFFF)
+                throw std::range_error("wstring_convert::to_bytes");
+            out[0] = leadByte(0xF0, codeOf(*p) >> 18);
+            out[1] = tailByte(codeOf(*p), 12);
+            out[2] = tailByte(codeOf(*p), 6);
+            out[3] = tailByte(codeOf(*p), 0);
+        }
     }
     return out;
+}
+
+const unsigned char* bytesOf(std::string_view text)
+{
+    return reinterpret_cast<const unsigned char*>(text.data());
 }
 
 } // namespace
 
 std::wstring utf8ToWide(std::string_view bytes)
 {
-    const std::size_t count = countCodePoints(bytes);
-    if (count == bytes.size())
-        return std::wstring(bytes.begin(), bytes.end());
-    return decodeAll(Utf8Decoder{bytes.data()}, count);
+    const unsigned char* p = bytesOf(bytes);
+    const unsigned char* const end = p + bytes.size();
+    if (isAscii(p, bytes.size()))
+        return std::wstring(p, end); // writes each character once, where resize() fills with zeros
+    std::wstring text(countStarts(p, bytes.size()), L'\0');
+    for (wchar_t* out = text.data(); p != end;) {
+        // Runs of one length are the rule; what ends a run is decoded with all tests.
+        for (; p != end && *p < 0x80; ++p)
+            *out++ = static_cast<wchar_t>(*p);
+        for (; end - p >= 2 && p[0] - 0xC2U < 0x1EU && areContinuations({p[1]}); p += 2)
+            *out++ = static_cast<wchar_t>(((p[0] & 0x1FU) << 6) | bitsOf(p[1]));
+        // Of the other leads of three bytes, E0 and ED do not go with every second byte.
+        for (; end - p >= 3 && p[0] - 0xE1U < 0x0CU && areContinuations({p[1], p[2]}); p += 3)
+            *out++ =
+                static_cast<wchar_t>(((p[0] & 0x0FU) << 12) | (bitsOf(p[1]) << 6) | bitsOf(p[2]));
+        if (p == end)
+            break;
+        const Sequence sequence = decode(p, end);
+        if (sequence.length == 0)
+            throw std::range_error("wstring_convert::from_bytes");
+        *out++ = static_cast<wchar_t>(sequence.code);
+        p += sequence.length;
+    }
+    return text;
 }
 
 std::wstring utf8ToWideLossy(std::string_view bytes, std::size_t maxCount)
 {
     std::wstring text;
-    const char* p = bytes.data();
-    const char* const end = p + bytes.size();
+    const unsigned char* p = bytesOf(bytes);
+    const unsigned char* const end = p + bytes.size();
     while (p != end && text.size() < maxCount) {
-        const std::size_t length = validLength(p, end);
-        text.push_back(length ? decode(p) : kReplacement);
-        p += length ? length : 1;
+        const Sequence sequence = decode(p, end);
+        text.push_back(sequence.length ? static_cast<wchar_t>(sequence.code) : kReplacement);
+        p += std::max<std::size_t>(sequence.length, 1);
     }
     return text;
 }
 
 char* wideToUtf8(std::wstring_view text)
 {
-    const std::size_t size = utf8Size(text);
-    std::unique_ptr<char[]> bytes(new char[size + 1]);
-    char* out = bytes.get();
-    if (size == text.size()) {
-        for (std::size_t i = 0; i < size; ++i)
-            out[i] = static_cast<char>(text[i]);
-    } else {
-        for (const wchar_t ch : text)
-            out = encode(codeOf(ch), out);
+    const std::size_t n = text.size();
+    std::unique_ptr<char[]> bytes(new char[n + 1]);
+    const std::size_t ascii = narrowAscii(text, bytes.get());
+    char* out = bytes.get() + ascii;
+    if (ascii != n) {
+        text.remove_prefix(ascii);
+        std::unique_ptr<char[]> larger(new char[ascii + kLongest * text.size() + 1]);
+        out = std::copy_n(bytes.get(), ascii, larger.get());
+        bytes = std::move(larger);
+        out = encode(text.data(), text.data() + text.size(), out);
     }
-    bytes[size] = '\0';
+    *out = '\0';
     return bytes.release();
 }
 
@@ -242,10 +243,9 @@ std::wstring qStringToWide(const QString& text)
         surrogates |= isSurrogate(p[i]) ? 1U : 0U;
     if (!surrogates)
         return std::wstring(p, p + n);
-    std::size_t count = 0;
-    for (Utf16Decoder decoder{p, p + n}; decoder.p != decoder.end; decoder.advance())
-        ++count;
-    return decodeAll(Utf16Decoder{p, p + n}, count);
+    std::wstring wide(n, L'\0');
+    wide.resize(static_cast<std::size_t>(text.toWCharArray(wide.data())));
+    return wide;
 }
 
 QString wideToQString(std::wstring_view text)

@@ -249,8 +249,8 @@ private:
                                      : CString_E(m_text, first, static_cast<std::size_t>(nCount));
     }
     bool PointsInto(const wchar_t* p) const noexcept;
-    int ReplaceInPlace(std::wstring_view old, std::wstring_view replacement);
-    int ReplaceGrowing(std::wstring_view old, std::wstring_view replacement);
+    int ReplaceInPlace(std::wstring_view old, std::wstring_view replacement, std::size_t hit);
+    int ReplaceGrowing(std::wstring_view old, std::wstring_view replacement, std::size_t hit);
 
     std::wstring m_text;
     mutable char* m_pUtf8 = nullptr; // the last conversion, from new[]

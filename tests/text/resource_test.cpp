@@ -1,0 +1,112 @@
+#include <VxMFCEmu/core.h>
+#include <VxMFCEmu/text.h>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include <dlfcn.h>
+
+namespace {
+
+class Plugin
+{
+public:
+    explicit Plugin(const char* file)
+        : m_handle(dlopen((std::string(TEXT_PLUGIN_DIR) + file).c_str(), RTLD_NOW | RTLD_LOCAL))
+    {
+        EXPECT_TRUE(m_handle) << dlerror();
+    }
+    ~Plugin() { EXPECT_EQ(dlclose(m_handle), 0); }
+    Plugin(const Plugin&) = delete;
+    Plugin& operator=(const Plugin&) = delete;
+
+    template <typename Function>
+    Function* find(const char* name) const
+    {
+        return reinterpret_cast<Function*>(dlsym(m_handle, name));
+    }
+    QString name() const
+    {
+        QString result;
+        find<void(QString*)>("pluginName")(&result);
+        return result;
+    }
+
+private:
+    void* m_handle;
+};
+
+QString s_seen;
+void lookFromHost() { s_seen = GetMfyResourceName(); }
+
+TEST(ResourceName, IsThatOfTheModuleWhichCalls)
+{
+    EXPECT_EQ(GetMfyResourceName(), QLatin1String("text_test"));
+    const Plugin gizmo("libGizmo.so.2");
+    EXPECT_EQ(gizmo.name(), QLatin1String("Gizmo"));
+    gizmo.find<void(void (*)())>("pluginCallBack")(&lookFromHost);
+    EXPECT_EQ(s_seen, QLatin1String("text_test"));
+    QString inThread;
+    std::thread([&] { inThread = gizmo.name(); }).join();
+    EXPECT_EQ(inThread, QLatin1String("Gizmo"));
+}
+
+TEST(ResourceName, IsThatOfAPluginWhichTheLibraryCallsBack)
+{
+    const Plugin gizmo("libGizmo.so.2");
+    const CRuntimeClass_E record(&QObject::staticMetaObject, &QObject::staticMetaObject, nullptr,
+                                 gizmo.find<VxCreateObjectFn()>("pluginFactory")(), nullptr, 1);
+    EXPECT_EQ(record.CreateObject(), nullptr);
+    EXPECT_EQ(*gizmo.find<QString*()>("pluginNameInFactory")(), QLatin1String("Gizmo"));
+}
+
+TEST(ResourceName, IsNotMistakenWhenAnotherPluginTakesThePlaceOfAnUnloadedOne)
+{
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(Plugin("libGizmo.so.2").name(), QLatin1String("Gizmo"));
+        EXPECT_EQ(Plugin("libSprocket.so").name(), QLatin1String("Sprocket"));
+    }
+}
+
+TEST(ResourceName, KnowsTheThreeLibraries)
+{
+    for (const char* name :
+         {"VxMFCEmu", "libVxMFCEmu", "VxArxEmu", "libVxArxEmu", "VxCustomUI", "libVxCustomUI"})
+        EXPECT_TRUE(isCurrentLibrary(QLatin1String(name))) << name;
+    for (const char* name : {"", "lib", "vxmfcemu", "LibVxMFCEmu", "VxMFCEmu2", "VxMFC", "Gizmo"})
+        EXPECT_FALSE(isCurrentLibrary(QLatin1String(name))) << name;
+}
+
+TEST(LoadString, ReadsTheCallersTable)
+{
+    CString_E text;
+    EXPECT_TRUE(text.LoadString(101));
+    EXPECT_EQ(text, L"Host");
+
+    const Plugin gizmo("libGizmo.so.2");
+    auto* const load = gizmo.find<BOOL(CString_E*, UINT)>("pluginLoad");
+    struct Row
+    {
+        UINT id;
+        BOOL found;
+        const wchar_t* text;
+    };
+    const Row rows[] = {
+        {101, TRUE, L"Gizmo, ready"},
+        {102, TRUE, L"图层 \"%s\""},
+        {103, TRUE, L"one, two, three"},
+        {105, TRUE, L""},
+        {0, FALSE, L""},
+        {999, FALSE, L""},
+    };
+    for (const Row& row : rows) {
+        text = L"old";
+        EXPECT_EQ(load(&text, row.id), row.found) << row.id;
+        EXPECT_EQ(text, row.text) << row.id;
+    }
+    EXPECT_EQ(gizmo.find<int(CString_E*, UINT)>("pluginFormat")(&text, 104), 17);
+    EXPECT_EQ(text, L"3 of nine4 of ten");
+}
+
+} // namespace

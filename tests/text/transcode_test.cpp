@@ -1,0 +1,125 @@
+#include <VxMFCEmu/text.h>
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <stdexcept>
+
+namespace {
+
+std::string failureOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const std::range_error& error) {
+        return error.what();
+    }
+    return "none";
+}
+
+TEST(Utf8, InvalidTextThrows)
+{
+    const char* const rows[] = {
+        "\x80",
+        "a\xBF",
+        "\xC0\x80",
+        "\xC1\xBF",
+        "\xC3",
+        "\xC3(",
+        "\xE0\x80\x80",
+        "\xE0\x9F\xBF",
+        "\xE4\xB8",
+        "ok \xE4",
+        "\xE4(\xAD",
+        "\xED\xA0\x80",
+        "\xED\xBF\xBF",
+        "\xF0\x80\x80\x80",
+        "\xF0\x8F\xBF\xBF",
+        "\xF0\x9F\x98",
+        "\xFF",
+        "\xF4\x90\x80\x80",
+        "\xF5\x80\x80\x80",
+        "\xF8\x88\x80\x80\x80",
+        "\xE4\xB8\xAD\xE4\xB8",
+    };
+    for (const char* bytes : rows) {
+        EXPECT_EQ(failureOf([=] { CString_E s(bytes); }), "wstring_convert::from_bytes") << bytes;
+        CString_E kept(L"kept");
+        EXPECT_EQ(failureOf([&] { kept = bytes; }), "wstring_convert::from_bytes");
+        EXPECT_EQ(kept, L"kept");
+    }
+}
+
+TEST(Utf8, UnencodableTextThrowsAndKeepsTheEarlierConversion)
+{
+    for (const wchar_t code : {0xD800, 0xDFFF, 0x110000, -1}) {
+        CString_E s(L"0123456789abcdef\u4E2D");
+        const char* const before = s.Utf8Ptr();
+        s += code;
+        EXPECT_EQ(failureOf([&] { s.Utf8Ptr(); }), "wstring_convert::to_bytes") << code;
+        EXPECT_STREQ(before, "0123456789abcdef\u4E2D");
+    }
+}
+
+// Random texts of every width, long enough for the fast paths and their seams.
+TEST(Utf8, RoundTripsAndAgreesWithQt)
+{
+    std::mt19937 random(1);
+    constexpr uint kLimits[] = {0x80, 0x800, 0x10000, 0x110000};
+    for (int round = 0; round < 3000; ++round) {
+        std::wstring text;
+        const auto widest = random() % 4;
+        for (std::size_t n = random() % 90; text.size() < n;) {
+            const uint code =
+                1 + static_cast<uint>(random()) % (kLimits[random() % (widest + 1)] - 1);
+            if (code - 0xD800U >= 0x800U)
+                text.push_back(static_cast<wchar_t>(code));
+        }
+        const CString_E s(text.c_str());
+        const auto expected = QString::fromUcs4(reinterpret_cast<const uint*>(text.data()),
+                                                static_cast<int>(text.size()));
+        EXPECT_EQ(VxQString(s), expected);
+        const bool marked = !text.empty() && text[0] == 0xFEFF; // which Qt swallows
+        EXPECT_EQ(CString_E(expected), s.Mid(marked ? 1 : 0));
+        EXPECT_TRUE(marked || QByteArray(s.Utf8Ptr()) == expected.toUtf8());
+        EXPECT_EQ(CString_E(s.Utf8Ptr()), s);
+    }
+}
+
+TEST(QStringConversion, OddTexts)
+{
+    const ushort lone[] = {0xD83D, 'a', 0xDE00, 0xD83D, 0xDE00, 0xD83D};
+    EXPECT_EQ(CString_E(QString::fromUtf16(lone, 6)), L"\uFFFDa\uFFFD\U0001F600\uFFFD");
+    EXPECT_EQ(CString_E(QString(3, QChar(0))).GetLength(), 3);
+    EXPECT_TRUE(VxQString(static_cast<const wchar_t*>(nullptr)).isEmpty());
+    VxQString q(L"a");
+    q += CString_E(L"\u00E9");
+    q += L"z";
+    EXPECT_EQ(q, QString::fromUtf8("a\u00E9z"));
+    q = L"new";
+    EXPECT_EQ(q, QLatin1String("new"));
+    q = CString_E(L"\U0001F600");
+    EXPECT_EQ(q.size(), 2);
+}
+
+TEST(Locale, ConvertsAndPutsThePresentLocaleBack)
+{
+    std::setlocale(LC_ALL, "C");
+    EXPECT_EQ(WideCharToMultiByte_E(L"\u4E2D!", "C.UTF-8"), "\u4E2D!");
+    EXPECT_EQ(MultiByteToWideChar_E("\u4E2D!", "C.UTF-8"), L"\u4E2D!");
+    EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "C");
+    EXPECT_EQ(WideCharToMultiByte_E(L"\u4E2D", "C"), ""); // no encoding for it
+    EXPECT_EQ(MultiByteToWideChar_E("", "C.UTF-8"), L"");
+    EXPECT_EQ(MultiByteToWideChar_E("\xE4\xB8", "C.UTF-8"), L"");
+    EXPECT_EQ(WideCharToMultiByte_E(std::wstring(L"a\0b", 3), "C"), "a");
+    std::setlocale(LC_ALL, "C.UTF-8");
+    EXPECT_EQ(_W2A(L"\u4E2D"), "\u4E2D"); // "chs" is unknown: the present locale converts
+    EXPECT_EQ(WideCharToMultiByte_E(L"\u4E2D", nullptr), "\u4E2D");
+    std::setlocale(LC_ALL, "C");
+    EXPECT_THROW(_W2A(nullptr), std::logic_error);
+    EXPECT_THROW(_wtof(nullptr), std::logic_error);
+    EXPECT_EQ(_wtof(L" -12.5e1mm"), -125.0);
+    EXPECT_EQ(_wtof(L"mm"), 0.0);
+}
+
+} // namespace
