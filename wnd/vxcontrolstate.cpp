@@ -106,7 +106,7 @@ BOOL CheckRadioButton_E(HWND hDlg, int nIDFirstButton, int nIDLastButton, int nI
     const auto nLast = static_cast<UINT>(nIDLastButton);
     const auto nCheck = static_cast<UINT>(nIDCheckButton);
     // The ids that exist, since the range may be wide.
-    const QMap<UINT, QString> ids = GetResourceIDMap();
+    const QMap<UINT, QString>& ids = GetResourceIDMap();
     for (auto it = ids.lowerBound(static_cast<UINT>(nIDFirstButton));
          it != ids.end() && it.key() <= nLast; ++it) {
         if (it.key() != nCheck && pAlive)

@@ -4,6 +4,9 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMdiArea>
 #include <QtWidgets/QMdiSubWindow>
+#include <QtWidgets/QWidget>
+
+#include <algorithm>
 
 namespace {
 

@@ -2,9 +2,11 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace vx::detail {

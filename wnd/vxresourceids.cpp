@@ -38,10 +38,10 @@ void load(const QString& strResource, ResourceIds& ids)
     }
 }
 
-const ResourceIds& callerIds()
+// The caller's name is found in the functions below themselves: each frame in between costs.
+const ResourceIds& idsOf(const QString& strResource)
 {
     static std::map<QString, ResourceIds> all;
-    const QString strResource = GetMfyResourceName();
     ResourceIds& ids = all[strResource];
     if (ids.names.isEmpty())
         load(strResource, ids);
@@ -50,8 +50,8 @@ const ResourceIds& callerIds()
 
 } // namespace
 
-const QMap<UINT, QString>& GetResourceIDMap() { return callerIds().names; }
+const QMap<UINT, QString>& GetResourceIDMap() { return idsOf(GetMfyResourceName()).names; }
 
-QString ToStringId(UINT nID) { return callerIds().names.value(nID); }
+QString ToStringId(UINT nID) { return idsOf(GetMfyResourceName()).names.value(nID); }
 
-UINT ToCtrlId(const QString& strName) { return callerIds().ids.value(strName); }
+UINT ToCtrlId(const QString& strName) { return idsOf(GetMfyResourceName()).ids.value(strName); }
