@@ -36,7 +36,10 @@ private:
 class CountEvent : public QEvent
 {
 public:
-    explicit CountEvent(UINT message, WPARAM wParam) : QEvent(QEvent::User), message(message), wParam(wParam) {}
+    CountEvent(UINT nMessage, WPARAM nWParam)
+        : QEvent(QEvent::User), message(nMessage), wParam(nWParam)
+    {
+    }
     UINT message;
     WPARAM wParam;
     LRESULT result = 0;
