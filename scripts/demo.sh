@@ -13,12 +13,12 @@ plugin=build/release/lib/libVxDemoPlugin.so
 
 # shellcheck disable=SC2031 # with_display sets them for its command only
 if [ -n "${DISPLAY-}" ] && [ "${QT_QPA_PLATFORM-}" != offscreen ]; then
-  exec "$host" --plugin "$plugin" "$@"
+  exec "$host" --load "$plugin" "$@"
 fi
 
 # Real input needs an X server, whatever platform was asked for.
 unset QT_QPA_PLATFORM
 test_environment
-with_display build/release/bin/vxdemo_driver --host "$host" --plugin "$plugin" \
+with_display build/release/bin/vxdemo_driver --host "$host" --load "$plugin" \
   --report build/demo-report.txt --screenshot build/demo.png
 echo "picture: build/demo.png"

@@ -93,7 +93,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     QCommandLineParser options;
-    for (const char* name : {"host", "plugin", "report", "screenshot"})
+    for (const char* name : {"host", "load", "report", "screenshot"})
         options.addOption({QLatin1String(name), QString(), QStringLiteral("file")});
     options.process(app);
 
@@ -107,7 +107,7 @@ int main(int argc, char** argv)
     QProcess host;
     host.setProcessChannelMode(QProcess::ForwardedChannels);
     host.start(options.value(QStringLiteral("host")),
-               {QStringLiteral("--plugin"), options.value(QStringLiteral("plugin")),
+               {QStringLiteral("--load"), options.value(QStringLiteral("load")),
                 QStringLiteral("--report"), reportPath});
     const bool passed = drive(robot, report, options.value(QStringLiteral("screenshot")));
     const bool ended = host.waitForFinished(kLimitMs) && host.exitStatus() == QProcess::NormalExit &&

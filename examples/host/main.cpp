@@ -49,7 +49,7 @@ int main(int argc, char** argv)
 
     QCommandLineParser options;
     options.addHelpOption();
-    const QCommandLineOption plugin(QStringLiteral("plugin"), QStringLiteral("The plug-in to load."),
+    const QCommandLineOption plugin(QStringLiteral("load"), QStringLiteral("The plug-in to load."),
                                     QStringLiteral("so"));
     const QCommandLineOption report(QStringLiteral("report"),
                                     QStringLiteral("Where the plug-in writes what it handled."),
