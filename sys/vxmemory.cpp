@@ -9,7 +9,8 @@
 
 HGLOBAL GlobalAlloc_E(UINT, SIZE_T nBytes)
 {
-    return nBytes <= PTRDIFF_MAX ? std::calloc(nBytes, 1) : nullptr;
+    // At least one byte, so that an empty block is one of its own with every allocator.
+    return nBytes <= PTRDIFF_MAX ? std::calloc(std::max<SIZE_T>(nBytes, 1), 1) : nullptr;
 }
 
 HLOCAL LocalAlloc_E(UINT uFlags, SIZE_T nBytes) { return GlobalAlloc_E(uFlags, nBytes); }
