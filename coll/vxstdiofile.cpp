@@ -93,7 +93,7 @@ QByteArray CStdioFile_E::ReadLine(qint64 nMaxBytes)
     errno = 0;
     if (file.pos() == 0 && file.peek(byteOrderMark.size()) == byteOrderMark)
         file.seek(byteOrderMark.size());
-    const QByteArray line = file.readLine(nMaxBytes);
+    QByteArray line = file.readLine(nMaxBytes);
     if (line.isEmpty() && file.error() == QFileDevice::ReadError)
         ThrowError(errno != 0 ? errno : EIO);
     return line;
