@@ -24,7 +24,7 @@ vxmfc_sources(FOLDER core
   SOURCES
     vxcreateregistry.cpp
     vxruntimeclass.cpp
-    vxincoming.cpp
+    vxqtinternals.cpp
     vxobject.cpp
     vxcmdtarget.cpp
     vxplex.cpp

@@ -1,6 +1,6 @@
 #include <VxMFCEmu/core/mapptrtoptr.h>
 
-#include "core/vxthrow_p.h"
+#include <VxMFCEmu/core/exceptions.h>
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 #include <VxMFCEmu/core/object.h>
 
-#include "core/vxincoming_p.h"
+#include "core/vxqtinternals_p.h"
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
 #include <VxMFCEmu/wnd/resourceids.h>
@@ -76,6 +76,8 @@ BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
             delete pImp;
         return FALSE;
     }
+    if (pImp == m_pImpQObject)
+        SetObjectFlag(ExternalFlag, true); // bound again, it must not be deleted for being let go
     Detach();
     // A temporary wrapper gives way: it would otherwise handle the events of the same object too.
     if (CObject_E* pOther = GetOwner(pImp); pOther && pOther->IsTemporary())
@@ -165,9 +167,10 @@ CObject_E* CObject_E::GetOwner(QObject* pObject)
 {
     if (!pObject)
         return nullptr;
-    const QVariant owner = pObject->property(kOwnerProperty);
-    return owner.isValid() ? reinterpret_cast<CObject_E*>(static_cast<std::intptr_t>(owner.toLongLong()))
-                           : nullptr;
+    static const QByteArray name = QByteArrayLiteral("owner");
+    const QVariant* const pOwner = vx::detail::dynamicProperty(pObject, name);
+    return pOwner ? reinterpret_cast<CObject_E*>(static_cast<std::intptr_t>(pOwner->toLongLong()))
+                  : nullptr;
 }
 
 QMetaObject::Connection CObject_E::Connect(const QObject* pSender, const char* pszSignal,

@@ -1,6 +1,6 @@
 #include <VxMFCEmu/core/plex.h>
 
-#include "core/vxthrow_p.h"
+#include <VxMFCEmu/core/exceptions.h>
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 #include <VxMFCEmu/core/threadslots.h>
 
-#include "core/vxthrow_p.h"
+#include <VxMFCEmu/core/exceptions.h>
 
 #include <VxMFCEmu/core/memberoffset.h>
 #include <VxMFCEmu/sys/memory.h>

@@ -1,5 +1,5 @@
 // Idle time: who is called, and the temporary objects that it ends.
-#include "core/vxincoming_p.h"
+#include "core/vxqtinternals_p.h"
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
 #include <VxMFCEmu/wnd/hostwindows.h>

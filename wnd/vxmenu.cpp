@@ -60,9 +60,8 @@ CHandleMap_E* afxMapHMENU_E(BOOL bCreate)
 {
     AFX_MODULE_THREAD_STATE_E* const pState = AfxGetModuleThreadState_E();
     if (!pState->m_pmapHMENU && bCreate) {
-        pState->m_pmapHMENU = new CHandleMap_E(
-            RUNTIME_CLASS_E(CMenu_E), &ConstructDestruct_E<CMenu_E>::Construct,
-            &ConstructDestruct_E<CMenu_E>::Destruct, vx::detail::offsetOfMember(&CMenu_E::m_hMenu));
+        pState->m_pmapHMENU =
+            vx::detail::makeHandleMap<CMenu_E>(RUNTIME_CLASS_E(CMenu_E), &CMenu_E::m_hMenu);
     }
     return pState->m_pmapHMENU;
 }

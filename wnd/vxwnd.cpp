@@ -1,7 +1,6 @@
 // Binding a window to its widget, and finding windows and controls again.
 #include <VxMFCEmu/wnd/window.h>
 
-#include "core/vxobjectlayout_p.h"
 #include "wnd/vxseesmessages_p.h"
 
 #include <VxMFCEmu/core/handlemap.h>
@@ -149,9 +148,8 @@ CHandleMap_E* afxMapHWND_E(BOOL bCreate)
 {
     AFX_MODULE_THREAD_STATE_E* const pState = AfxGetModuleThreadState_E();
     if (!pState->m_pmapHWND && bCreate) {
-        pState->m_pmapHWND = new CHandleMap_E(
-            RUNTIME_CLASS_E(CWnd_E), &ConstructDestruct_E<CWnd_E>::Construct,
-            &ConstructDestruct_E<CWnd_E>::Destruct, VxObjectLayout::impQObject(), 1);
+        pState->m_pmapHWND = vx::detail::makeHandleMap<CWnd_E>(RUNTIME_CLASS_E(CWnd_E),
+                                                               &CWnd_E::m_pImpQObject);
     }
     return pState->m_pmapHWND;
 }

@@ -39,7 +39,8 @@ bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
     const QPointer<CWnd_E> self(this);
     const QPointer<QObject> receiver(watched);
     QEvent* const previous = std::exchange(m_pCurrentEvent, e);
-    const bool consumed = isMessage ? DispatchMessage(watched, e, msg) : showMessageBox(watched, e);
+    const bool consumed =
+        isMessage ? DispatchMessage({self, receiver}, e, msg) : showMessageBox(watched, e);
     if (self) {
         ForgetPending(e);
         m_pCurrentEvent = previous;
@@ -47,20 +48,16 @@ bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
     return consumed || !receiver;
 }
 
-bool CWnd_E::DispatchMessage(QObject* watched, QEvent* e, tagMSG& msg)
+bool CWnd_E::DispatchMessage(const Alive& alive, QEvent* e, tagMSG& msg)
 {
-    const QPointer<CWnd_E> self(this);
-    const QPointer<QObject> receiver(watched);
     const bool wasAccepted = e->isAccepted();
     e->setAccepted(true);
     FillIfSeen(msg);
-    if (PreTranslateMessage(&msg))
+    if (PreTranslateMessage(&msg) || !alive.receiver)
         return true;
-    if (!receiver)
-        return true;
-    TranslateMessage(watched, e, &msg);
+    TranslateMessage(alive.receiver, e, &msg);
     LRESULT result = 0;
-    const bool handled = self && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
+    const bool handled = alive.window && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
     // Intended: a close that a handler did not accept goes no further either.
     if (handled && (e->isAccepted() || e->type() == QEvent::Close)) {
         if (e->type() == VxWinMsgEvent::EventType)
@@ -89,11 +86,9 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
 {
     LRESULT result = 0;
     if (message == WM_SETCURSOR && reinterpret_cast<QWidget*>(wParam) == GetSafeHwnd() && wParam != 0) {
-        const QPointer<CWnd_E> self(this);
-        if (OfferSetCursorToAncestors(wParam, lParam, pResult))
-            return TRUE;
-        if (!self)
-            return FALSE;
+        const Offer offer = OfferSetCursorToAncestors(wParam, lParam, pResult);
+        if (offer != Offer::Refused)
+            return offer == Offer::Taken ? TRUE : FALSE;
     }
     const auto it = m_mapMessages.find(message);
     if (it == m_mapMessages.end())
@@ -106,23 +101,27 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
     return TRUE;
 }
 
-bool CWnd_E::OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult) const
+CWnd_E::Offer CWnd_E::OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     std::vector<QPointer<QWidget>> ancestors;
     for (QWidget* pWidget = GetSafeHwnd(); pWidget && !pWidget->isWindow();) {
         pWidget = pWidget->parentWidget();
-        ancestors.emplace_back(pWidget);
+        if (FromHandlePermanent(pWidget))
+            ancestors.emplace_back(pWidget);
     }
+    if (ancestors.empty())
+        return Offer::Refused;
+    const QPointer<CWnd_E> self(this);
     for (auto it = ancestors.rbegin(); it != ancestors.rend(); ++it) {
         CWnd_E* const pWindow = FromHandlePermanent(*it);
         LRESULT result = 0;
         if (pWindow && pWindow->OnWndMsg(WM_SETCURSOR, wParam, lParam, &result) && result != 0) {
             if (pResult)
                 *pResult = result;
-            return true;
+            return Offer::Taken;
         }
     }
-    return false;
+    return self ? Offer::Refused : Offer::WindowGone;
 }
 
 void CWnd_E::AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnE)

@@ -1,6 +1,8 @@
 // What the host calls.
 #include "trackerpanel.h"
 
+#include <QtCore/QCoreApplication>
+
 namespace {
 
 QPointer<CTrackerPanel> g_panel;
@@ -21,4 +23,6 @@ extern "C" Q_DECL_EXPORT void VxDemoUnload()
     if (g_panel)
         g_panel->DestroyWindow();
     ClearTempObjectPool();
+    // Widgets hold texts and functions of this plug-in, so they must be gone before its code is.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

@@ -116,7 +116,6 @@ TEST(RuntimeClass, DerivationFollowsTheMetaObjects)
 
 TEST(Registry, ClimbsToTheNearestRegisteredClass)
 {
-    const auto forBase = record(&QWidget::staticMetaObject, object, makeObject);
     const auto forSlider = record(abstractSlider, object, makeTarget);
     const std::unique_ptr<CObject_E> nearest(
         CObject_E::FromImpMetaObject(&QScrollBar::staticMetaObject));
@@ -124,7 +123,7 @@ TEST(Registry, ClimbsToTheNearestRegisteredClass)
     EXPECT_TRUE(nearest->IsKindOf("CCmdTarget_E"));
     const std::unique_ptr<CObject_E> climbed(CObject_E::FromImpMetaObject(button));
     ASSERT_NE(climbed, nullptr);
-    EXPECT_FALSE(climbed->IsKindOf("CCmdTarget_E"));
+    EXPECT_STREQ(climbed->GetClassName(), "CWnd_E") << "the library's own entry for QWidget";
     EXPECT_EQ(CObject_E::FromImpMetaObject(nullptr), nullptr);
     EXPECT_EQ(CObject_E::FromImpMetaObject(object), nullptr);
     const auto yieldsNothing = record(dial, object, makeNothing);

@@ -229,6 +229,8 @@ public:
     explicit SuicideWnd(int way) : m_way(way) {}
     LRESULT OnEnd(WPARAM, LPARAM)
     {
+        if (!std::exchange(m_armed, false))
+            return 0;
         QWidget* const widget = GetSafeHwnd();
         switch (m_way) {
         case DeleteWindow: delete this; break;
@@ -246,6 +248,9 @@ public:
 
 protected:
     void OnMessageMap() override;
+
+public:
+    bool m_armed = false; // Qt itself cannot bear the death of a widget that it is showing
 
 private:
     int m_way;
@@ -266,7 +271,7 @@ void deliver(int how, QWidget* widget)
     case 1: PostMessage_E(widget, WM_APP); break;
     case 2: SendMessage_E(widget, WM_KEYDOWN, 0x41); break;
     case 3: PostMessage_E(widget, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 4)); break;
-    case 4: widget->resize(widget->width() + 1, 50); break;
+    case 4: SendMessage_E(widget, WM_SIZE, 0, MAKELPARAM(60, 50)); break;
     default: DestroyWindow_E(widget); break;
     }
 }
@@ -278,10 +283,11 @@ TEST(DestroyTest, AWindowMayDieInsideItsOwnHandler)
     for (int way = 0; way < SuicideWnd::WayCount; ++way) {
         for (int how = 0; how < 6; ++how) {
             SCOPED_TRACE(testing::Message() << "way " << way << ", message " << how);
-            const QPointer<CWnd_E> window(new SuicideWnd(way));
+            const QPointer<SuicideWnd> window(new SuicideWnd(way));
             const QPointer<QWidget> widget(new QWidget(&top));
             window->SubclassWindow(widget);
             widget->show();
+            window->m_armed = true;
             deliver(how, widget);
             vxtest::deliverPosted();
             if (how < 4 && way <= SuicideWnd::DeleteBoth) {
@@ -304,9 +310,11 @@ TEST(DestroyTest, RandomEventSequencesNeverCrash)
         std::vector<QPointer<CWnd_E>> windows;
         for (int i = 0; i < 6; ++i) {
             QWidget* const parent = i == 0 || !widgets.back() ? &top : widgets[static_cast<std::size_t>(pick(i))].data();
-            windows.emplace_back(pick(3) ? new CWnd_E : new SuicideWnd(pick(SuicideWnd::WayCount)));
+            auto* const mortal = new SuicideWnd(pick(SuicideWnd::WayCount));
+            windows.emplace_back(mortal);
             windows.back()->AttachDefault(parent ? parent : &top);
             widgets.emplace_back(windows.back()->GetSafeHwnd());
+            mortal->m_armed = pick(2) != 0;
         }
         for (int step = 0; step < 20; ++step) {
             const auto i = static_cast<std::size_t>(pick(6));
@@ -373,8 +381,9 @@ TEST(EdgesTest, AScrollBarTellsItsWindow)
     bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     bar->triggerAction(QAbstractSlider::SliderPageStepSub);
     EXPECT_EQ(window.m_seen, QStringList({QStringLiteral("1 8 1"), QStringLiteral("2 0 1")}));
+    window.ShowWindow(SW_SHOW);
+    top.show();
     window.MoveWindow(0, 0, 200, 150);
-    window.GetSafeHwnd()->show();
     EXPECT_EQ(bar->geometry().right(), 199);
     EXPECT_EQ(bar->geometry().bottom(), 149);
 }

@@ -11,7 +11,7 @@
 #include <VxMFCEmu/core/simplelist.h>
 #include <VxMFCEmu/core/threadlocal.h>
 
-#include <string>
+#include <VxMFCEmu/text/cstring.h>
 
 class CHandleMap_E;
 class CWnd_E;
@@ -40,7 +40,7 @@ public:
     BOOL m_bSystem = FALSE;
     CSimpleList_E m_classList; ///< class records; empty, as records are not linked here
     UINT m_nState = 1;         ///< this and the fields below are only kept
-    std::wstring m_strName;
+    CString_E m_strName;
     CThreadLocalObject_E m_thread;
     UINT m_nReserved1 = 0;
     UINT m_nReserved2 = 0;

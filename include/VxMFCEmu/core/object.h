@@ -17,6 +17,7 @@
 
 class CArchive_E;
 class CDumpContext_E;
+class CHandleMap_E;
 
 class VXMFC_EXPORT CObject_E : public QObject
 {
@@ -96,8 +97,7 @@ public Q_SLOTS:
     void OnImpDestroy();
 
 private:
-    friend class CHandleMap_E;
-    friend struct VxObjectLayout;
+    friend VXMFC_EXPORT CHandleMap_E* afxMapHWND_E(BOOL bCreate); // a window's handle is this pointer
     static constexpr UINT ExternalFlag = 1;
     static constexpr UINT TemporaryFlag = 2;
 

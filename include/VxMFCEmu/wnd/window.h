@@ -410,8 +410,14 @@ private:
     template <typename Result>
     Result PassOn(Result result);
     void PassOn();
-    bool DispatchMessage(QObject* watched, QEvent* e, tagMSG& msg);
-    bool OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult) const;
+    struct Alive
+    {
+        const QPointer<CWnd_E>& window;
+        const QPointer<QObject>& receiver;
+    };
+    bool DispatchMessage(const Alive& alive, QEvent* e, tagMSG& msg);
+    enum class Offer { Taken, Refused, WindowGone };
+    Offer OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     void FillIfSeen(tagMSG& msg) const;
     void ForgetPending(const QEvent* e);
     QScrollBar* OwnScrollBar(int nBar) const;

@@ -1,6 +1,7 @@
-// Not part of the public interface. The connections into an object, which Qt itself does not show.
+// Not part of the public interface. What Qt keeps of an object and does not show, or shows slowly.
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QMetaMethod>
 
 #include <vector>
@@ -23,5 +24,9 @@ std::vector<IncomingConnection> incomingConnections(const QObject* pReceiver);
 /// side: the sender may have thousands of receivers, where Qt::UniqueConnection walks them all.
 bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObject* pReceiver,
                  const QMetaMethod& method);
+
+/// The dynamic property of this name; null when there is none. QObject::property() compares the name
+/// with every property that the object's class declares first, at a dozen times the cost.
+const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name);
 
 } // namespace vx::detail

@@ -1,5 +1,5 @@
 // The one file that reads Qt's private headers.
-#include "core/vxincoming_p.h"
+#include "core/vxqtinternals_p.h"
 
 #include <private/qmetaobject_p.h>
 #include <private/qobject_p.h>
@@ -47,6 +47,15 @@ bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObjec
         return !found;
     });
     return found;
+}
+
+const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name)
+{
+    const auto* pExtra = QObjectPrivate::get(const_cast<QObject*>(pObject))->extraData;
+    if (!pExtra)
+        return nullptr;
+    const int nIndex = pExtra->propertyNames.indexOf(name);
+    return nIndex < 0 ? nullptr : &pExtra->propertyValues.at(nIndex);
 }
 
 } // namespace vx::detail
