@@ -25,6 +25,7 @@ vxmfc_sources(FOLDER core
     vxcreateregistry.cpp
     vxruntimeclass.cpp
     vxqtinternals.cpp
+    vxdispatchguard.cpp
     vxobject.cpp
     vxcmdtarget.cpp
     vxplex.cpp

@@ -1,5 +1,6 @@
 #include <VxMFCEmu/core/object.h>
 
+#include "core/vxdispatchguard_p.h"
 #include "core/vxqtinternals_p.h"
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
@@ -25,6 +26,7 @@ CObject_E::CObject_E() = default;
 
 CObject_E::~CObject_E()
 {
+    vx::detail::DispatchGuard::wrapperDestroyed(this);
     Detach();
 }
 
@@ -99,6 +101,7 @@ void CObject_E::Detach()
     QObject* const pImp = m_pImpQObject;
     if (!pImp)
         return;
+    vx::detail::DispatchGuard::objectReleased(pImp);
     disconnect(pImp, nullptr, this, nullptr);
     pImp->removeEventFilter(this);
     // Another wrapper may have taken the object over meanwhile; its binding stays.
@@ -196,6 +199,7 @@ QMetaObject::Connection CObject_E::Connect(UINT nID, const char* pszSignal, cons
 
 void CObject_E::OnImpDestroy()
 {
+    vx::detail::DispatchGuard::objectDestroyed(m_pImpQObject);
     m_pImpQObject = nullptr;
     SetObjectFlag(ExternalFlag, false);
 }

@@ -1,6 +1,7 @@
 // The road of one event: filter, translation, PreTranslateMessage, follow-up messages, handler.
 #include <VxMFCEmu/wnd/window.h>
 
+#include "core/vxdispatchguard_p.h"
 #include "wnd/vxeventtable_p.h"
 #include "wnd/vxseesmessages_p.h"
 #include "wnd/vxsignatures_p.h"
@@ -36,28 +37,28 @@ bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
         return CCmdTarget_E::eventFilter(watched, e);
     }
     // A handler may delete the window, its widget, or both.
-    const QPointer<CWnd_E> self(this);
-    const QPointer<QObject> receiver(watched);
+    const vx::detail::DispatchGuard guard(this, watched, watched == GetImpQObject());
     QEvent* const previous = std::exchange(m_pCurrentEvent, e);
     const bool consumed =
-        isMessage ? DispatchMessage({self, receiver}, e, msg) : showMessageBox(watched, e);
-    if (self) {
+        isMessage ? DispatchMessage(guard, watched, e, msg) : showMessageBox(watched, e);
+    if (guard.wrapperAlive()) {
         ForgetPending(e);
         m_pCurrentEvent = previous;
     }
-    return consumed || !receiver;
+    return consumed || !guard.objectAlive();
 }
 
-bool CWnd_E::DispatchMessage(const Alive& alive, QEvent* e, tagMSG& msg)
+bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* watched, QEvent* e,
+                             tagMSG& msg)
 {
     const bool wasAccepted = e->isAccepted();
     e->setAccepted(true);
     FillIfSeen(msg);
-    if (PreTranslateMessage(&msg) || !alive.receiver)
+    if (PreTranslateMessage(&msg) || !guard.objectAlive())
         return true;
-    TranslateMessage(alive.receiver, e, &msg);
+    TranslateMessage(watched, e, &msg);
     LRESULT result = 0;
-    const bool handled = alive.window && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
+    const bool handled = guard.wrapperAlive() && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
     // Intended: a close that a handler did not accept goes no further either.
     if (handled && (e->isAccepted() || e->type() == QEvent::Close)) {
         if (e->type() == VxWinMsgEvent::EventType)

@@ -37,6 +37,10 @@ class QScrollBar;
 class QTimer;
 QT_END_NAMESPACE
 
+namespace vx::detail {
+class DispatchGuard;
+}
+
 class CDC_E;
 class CDataExchange_E;
 class CMenu_E;
@@ -410,12 +414,8 @@ private:
     template <typename Result>
     Result PassOn(Result result);
     void PassOn();
-    struct Alive
-    {
-        const QPointer<CWnd_E>& window;
-        const QPointer<QObject>& receiver;
-    };
-    bool DispatchMessage(const Alive& alive, QEvent* e, tagMSG& msg);
+    bool DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* watched, QEvent* e,
+                         tagMSG& msg);
     enum class Offer { Taken, Refused, WindowGone };
     Offer OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     void FillIfSeen(tagMSG& msg) const;
