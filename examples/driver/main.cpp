@@ -82,7 +82,7 @@ bool drive(XRobot& robot, const Report& report, const QString& screenshot)
         step.action();
         passed = report.waitFor(step.expected).hasMatch() && passed;
     }
-    passed = robot.screenshot().copy(0, 0, 880, 590).save(screenshot) && passed;
+    passed = robot.screenshot().copy(0, 0, 900, 580).save(screenshot) && passed;
     passed = robot.closeWindow(kTitle) && passed;
     return report.waitFor(QStringLiteral("WM_DESTROY")).hasMatch() && passed;
 }

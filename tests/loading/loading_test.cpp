@@ -62,6 +62,7 @@ void libraryFirst(const char* libraryPath, const char* pluginPath)
     void* library = load(libraryPath);
     const Registry& registry = *find<Registry>(library, "g_mapCreateMethod");
     const Registry before = registry;
+    require(!before.empty(), "the library's own classes are registered");
 
     for (int round = 0; round < 2; ++round) {
         void* plugin = load(pluginPath);
