@@ -8,6 +8,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -43,26 +44,33 @@ bool QGlobalEventHandler::eventFilter(QObject* watched, QEvent* e)
     tagMSG msg;
     if (!vx::detail::translateEvent(watched, e, &msg))
         return false;
+    const QPointer<QObject> receiver(watched); // any of the functions may delete it
     const bool isKey = e->type() == QEvent::KeyPress || e->type() == QEvent::KeyRelease;
-    if (isKey && !IsRepeatFilterKeyEvent(static_cast<QKeyEvent*>(e)) && CallHooks(msg))
+    if (isKey && !IsRepeatFilterKeyEvent(static_cast<QKeyEvent*>(e)) && CallHooks(receiver, msg))
         return true;
-    return CallMsgFns(&msg);
+    return CallMsgFns(receiver, &msg);
 }
 
-bool QGlobalEventHandler::CallHooks(const tagMSG& msg) const
+// Both walk a copy of their list, since a function may change the list, and call nothing that has
+// been removed meanwhile. An event whose receiver is gone is consumed.
+
+bool QGlobalEventHandler::CallHooks(const QPointer<QObject>& receiver, const tagMSG& msg) const
 {
-    const QList<HOOKPROC> hooks = m_hooks; // a hook may remove itself
-    return std::any_of(hooks.crbegin(), hooks.crend(),
-                       [&msg](HOOKPROC proc) { return proc(0, msg.wParam, msg.lParam) > 0; });
+    const QList<HOOKPROC> hooks = m_hooks;
+    return std::any_of(hooks.crbegin(), hooks.crend(), [&](HOOKPROC proc) {
+        return (m_hooks.contains(proc) && proc(0, msg.wParam, msg.lParam) > 0) || !receiver;
+    });
 }
 
-bool QGlobalEventHandler::CallMsgFns(tagMSG* pMsg) const
+bool QGlobalEventHandler::CallMsgFns(const QPointer<QObject>& receiver, tagMSG* pMsg) const
 {
     const QList<VxWinMsgFn> fns = m_msgFns;
     // Hooks see neither time nor cursor position; without a message function nobody does.
     if (!fns.isEmpty())
         vx::detail::stampMessage(pMsg);
-    return std::any_of(fns.cbegin(), fns.cend(), [pMsg](VxWinMsgFn fn) { return fn(pMsg); });
+    return std::any_of(fns.cbegin(), fns.cend(), [&](VxWinMsgFn fn) {
+        return (m_msgFns.contains(fn) && fn(pMsg)) || !receiver;
+    });
 }
 
 void QGlobalEventHandler::AppendHook(HOOKPROC proc)
@@ -96,9 +104,12 @@ void QGlobalEventHandler::UpdateAppFilter()
     QCoreApplication* const pApp = QCoreApplication::instance();
     if (!pApp)
         return;
-    pApp->removeEventFilter(this);
-    if (!IsEmptyHookChain())
+    // Installing it once more would move it before the filters that came after it.
+    if (IsEmptyHookChain())
+        pApp->removeEventFilter(this);
+    else if (m_pFiltered != pApp)
         pApp->installEventFilter(this);
+    m_pFiltered = IsEmptyHookChain() ? nullptr : pApp;
 }
 
 void AppendWinMsgFn(VxWinMsgFn fn)

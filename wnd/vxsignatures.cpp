@@ -2,6 +2,8 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
+#include "wnd/vxlivewidgets_p.h"
+
 #include <array>
 #include <type_traits>
 
@@ -79,7 +81,8 @@ template <QWidget* (*Get)(const Message&)>
 struct WithWindows<Arg<QWidget*, Get>>
 {
     using Type = CWnd_E*;
-    static CWnd_E* get(const Message& m) { return CWnd_E::FromHandle(Get(m)); }
+    // A posted message may outlive the window that it names.
+    static CWnd_E* get(const Message& m) { return CWnd_E::FromHandle(liveWidgetAt(Get(m))); }
 };
 
 // What becomes of a handler's value: Type, and store(), which gives FALSE for "not handled".

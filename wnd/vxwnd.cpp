@@ -23,6 +23,7 @@ CWnd_E::CWnd_E()
 
 CWnd_E::~CWnd_E()
 {
+    Detach(); // before anything else: the handlers of the derived classes are gone already
     OnDestroy();
 }
 
@@ -35,6 +36,7 @@ QWidget* CWnd_E::GetSafeHwnd() const
 BOOL CWnd_E::OnAttach()
 {
     m_pendingEvents.clear();
+    CWnd_E::OnDestroy(); // what lies along the edges of an earlier widget
     tagCREATESTRUCTW create{};
     create.style = m_dwStyle;
     // Intended: anything but 0 stops creation, not only -1.

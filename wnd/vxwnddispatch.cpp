@@ -105,11 +105,13 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
 CWnd_E::Offer CWnd_E::OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     std::vector<QPointer<QWidget>> ancestors;
-    for (QWidget* pWidget = GetSafeHwnd(); pWidget && !pWidget->isWindow();) {
+    // Intended: a window of its own begins with its parent too, and so asks the window that owns it.
+    QWidget* pWidget = GetSafeHwnd();
+    do {
         pWidget = pWidget->parentWidget();
         if (FromHandlePermanent(pWidget))
             ancestors.emplace_back(pWidget);
-    }
+    } while (pWidget && !pWidget->isWindow());
     if (ancestors.empty())
         return Offer::Refused;
     const QPointer<CWnd_E> self(this);

@@ -7,6 +7,46 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QScrollBar>
 
+namespace {
+
+// A window's destruction, while it lasts. A handler that destroys the same window again, or one
+// around it, would otherwise never come back.
+class Destruction
+{
+public:
+    explicit Destruction(QWidget* pWidget)
+        : m_widget(pWidget), m_pOuter(std::exchange(s_pInnermost, this))
+    {
+    }
+    ~Destruction() { s_pInnermost = m_pOuter; }
+    Destruction(const Destruction&) = delete;
+    Destruction& operator=(const Destruction&) = delete;
+
+    bool IsNested() const
+    {
+        const Destruction* pOther = m_pOuter;
+        while (pOther && pOther->m_widget != m_widget)
+            pOther = pOther->m_pOuter;
+        return pOther != nullptr;
+    }
+
+private:
+    const QPointer<QWidget> m_widget;
+    Destruction* const m_pOuter;
+    static inline Destruction* s_pInnermost = nullptr;
+};
+
+// Not at once: a handler may run inside a signal of the bar itself.
+template <typename Bar>
+void deleteBar(QPointer<Bar>& bar)
+{
+    if (bar)
+        bar->deleteLater();
+    bar = nullptr;
+}
+
+} // namespace
+
 BOOL CWnd_E::AttachDefault(QWidget* pParent)
 {
     auto* const pWidget = new QWidget(pParent);
@@ -43,11 +83,12 @@ BOOL CWnd_E::Create(UINT dwStyle, const tagRECT& rect, QWidget* pParent)
 
 void CWnd_E::ShowAsStyled()
 {
+    const QPointer<CWnd_E> self(this); // showing runs handlers
     if (m_dwStyle & WS_VISIBLE)
         ShowWindow(SW_SHOW);
-    if (m_dwStyle & WS_VSCROLL)
+    if (self && m_dwStyle & WS_VSCROLL)
         ShowScrollBar(SB_VERT, TRUE);
-    if (m_dwStyle & WS_HSCROLL)
+    if (self && m_dwStyle & WS_HSCROLL)
         ShowScrollBar(SB_HORZ, TRUE);
 }
 
@@ -68,9 +109,9 @@ void CWnd_E::OnClose()
 
 void CWnd_E::OnDestroy()
 {
-    delete m_pHScrollBar;
-    delete m_pVScrollBar;
-    delete m_pMenuBar;
+    deleteBar(m_pHScrollBar);
+    deleteBar(m_pVScrollBar);
+    deleteBar(m_pMenuBar);
 }
 
 void CWnd_E::OnNcDestroy()
@@ -85,6 +126,9 @@ BOOL DestroyWindow_E(QWidget* pWidget)
 {
     if (!pWidget)
         return FALSE;
+    const Destruction destruction(pWidget);
+    if (destruction.IsNested())
+        return TRUE;
     // Handlers may delete the window, the widget or any child.
     const QPointer<QWidget> widget(pWidget);
     widget->hide();

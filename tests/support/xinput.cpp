@@ -68,4 +68,23 @@ void typeKey(unsigned long keysym)
     setKey(keysym, false);
 }
 
+void resizeWindow(QWidget* window, QSize size)
+{
+    XResizeWindow(display(), window->winId(), static_cast<unsigned>(size.width()),
+                  static_cast<unsigned>(size.height()));
+    XSync(display(), False);
+}
+
+void closeWindow(QWidget* window)
+{
+    XEvent e{};
+    e.xclient.type = ClientMessage;
+    e.xclient.window = window->winId();
+    e.xclient.message_type = XInternAtom(display(), "WM_PROTOCOLS", False);
+    e.xclient.format = 32;
+    e.xclient.data.l[0] = static_cast<long>(XInternAtom(display(), "WM_DELETE_WINDOW", False));
+    XSendEvent(display(), window->winId(), False, NoEventMask, &e);
+    XSync(display(), False);
+}
+
 } // namespace vxtest

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtCore/QPoint>
+#include <QtCore/QSize>
 
 class QWidget;
 
@@ -21,6 +22,11 @@ void click(QWidget* widget, QPoint local, unsigned button = 1);
 /// Presses or releases the key that makes @p keysym.
 void setKey(unsigned long keysym, bool down);
 void typeKey(unsigned long keysym);
+
+/// Gives @p window another size from outside, as a window manager does.
+void resizeWindow(QWidget* window, QSize size);
+/// Asks @p window to close, as a window manager does.
+void closeWindow(QWidget* window);
 
 } // namespace vxtest
 

@@ -287,4 +287,16 @@ TEST(SetCursorTest, TheOutermostWindowThatWantsTheCursorWins)
     }
 }
 
+TEST(SetCursorTest, AWindowOfItsOwnAsksTheWindowThatOwnsIt)
+{
+    QStringList trace;
+    QWidget ownerWidget;
+    QWidget dialogWidget(&ownerWidget, Qt::Dialog);
+    CursorWnd owner(trace, "owner", 4), dialog(trace, "dialog", 3);
+    owner.SubclassWindow(&ownerWidget);
+    dialog.SubclassWindow(&dialogWidget);
+    EXPECT_EQ(dialog.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(dialog.GetSafeHwnd())), 4);
+    EXPECT_EQ(trace, QStringList(QStringLiteral("owner")));
+}
+
 } // namespace

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 
 namespace {
@@ -99,6 +100,7 @@ TEST(BindingTest, StyleWordsPlaceShowAndScroll)
     EXPECT_FALSE(window.GetSafeHwnd()->isHidden());
     EXPECT_EQ(window.GetSafeHwnd()->findChildren<QScrollBar*>().size(), 2);
     window.SendMessage(WM_DESTROY);
+    vxtest::deliverPosted();
     EXPECT_TRUE(window.GetSafeHwnd()->findChildren<QScrollBar*>().isEmpty());
 }
 
@@ -219,6 +221,71 @@ TEST(DestroyTest, ParentsHearFirstAndEndLast)
     EXPECT_FALSE(DestroyWindow_E(nullptr));
     vxtest::deliverPosted();
     EXPECT_FALSE(widget);
+}
+
+/// Does one thing when it is destroyed, shown or scrolled.
+class ActingWnd : public CWnd_E
+{
+public:
+    explicit ActingWnd(std::function<void()> act) : m_act(std::move(act)) {}
+    void OnDestroy()
+    {
+        ++m_destroyed;
+        CWnd_E::OnDestroy();
+        m_act();
+    }
+    void OnShowWindow(BOOL, UINT) { m_act(); }
+    void OnVScroll(UINT, UINT, QAbstractSlider*) { m_act(); }
+    int m_destroyed = 0;
+
+protected:
+    void OnMessageMap() override;
+
+private:
+    std::function<void()> m_act;
+};
+
+BEGIN_MESSAGE_MAP_E(ActingWnd, CWnd_E)
+    ON_WM_DESTROY_E()
+    ON_WM_SHOWWINDOW_E()
+    ON_WM_VSCROLL_E()
+END_MESSAGE_MAP_E()
+
+TEST(DestroyTest, DestroyingAWindowAgainInItsOwnDestructionEnds)
+{
+    QWidget top;
+    CWnd_E parent;
+    parent.Create(&top);
+    ActingWnd child([&parent] { parent.DestroyWindow(); });
+    child.Create(parent.GetSafeHwnd());
+    EXPECT_TRUE(parent.DestroyWindow());
+    EXPECT_EQ(child.m_destroyed, 1);
+    EXPECT_EQ(parent.GetSafeHwnd(), nullptr);
+}
+
+TEST(DestroyTest, AWindowMayDieWhileItIsCreated)
+{
+    QWidget top;
+    top.show();
+    QPointer<ActingWnd> window;
+    window = new ActingWnd([&window] { delete window; });
+    EXPECT_TRUE(window->Create(WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, &top));
+    EXPECT_FALSE(window);
+}
+
+TEST(DestroyTest, AWindowMayBeDestroyedByItsOwnScrollBar)
+{
+    QWidget top;
+    for (const bool bDelete : {false, true}) {
+        QPointer<ActingWnd> window;
+        window = new ActingWnd([&] { bDelete ? delete window : void(DestroyWindow_E(window->GetSafeHwnd())); });
+        window->Create(WS_VSCROLL, CRect_E(0, 0, 100, 80), &top);
+        const QPointer<QScrollBar> bar(window->GetSafeHwnd()->findChild<QScrollBar*>());
+        bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        vxtest::deliverPosted();
+        EXPECT_FALSE(bar);
+        delete window;
+    }
 }
 
 /// Ends the window in one of several ways from inside a handler.
@@ -386,6 +453,16 @@ TEST(EdgesTest, AScrollBarTellsItsWindow)
     window.MoveWindow(0, 0, 200, 150);
     EXPECT_EQ(bar->geometry().right(), 199);
     EXPECT_EQ(bar->geometry().bottom(), 149);
+}
+
+TEST(EdgesTest, AWindowBoundAgainGetsScrollBarsOfItsOwn)
+{
+    QWidget top;
+    CWnd_E window;
+    for (int i = 0; i < 2; ++i)
+        window.Create(WS_VSCROLL, CRect_E(0, 0, 100, 80), &top);
+    vxtest::deliverPosted();
+    EXPECT_EQ(window.GetSafeHwnd()->findChildren<QScrollBar*>().size(), 1);
 }
 
 TEST(EdgesTest, AMenuBarShowsTheMenusEntries)

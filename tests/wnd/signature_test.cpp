@@ -189,4 +189,15 @@ TEST_F(SignatureTest, ANullResultPointerIsLeftAlone)
     EXPECT_FALSE(m_window.OnWndMsg(WM_APP + 1, 0, 0, nullptr));
 }
 
+TEST_F(SignatureTest, AWindowThatIsGoneIsNullForTheFormWithWindowObjects)
+{
+    auto widget = std::make_unique<QWidget>();
+    const auto address = reinterpret_cast<WPARAM>(widget.get());
+    widget.reset();
+    m_window.AddMsgMapEntry(WM_APP, 36, nullptr, Taker<void(CWnd_E*)>::pmf());
+    LRESULT result = kUnhandled;
+    EXPECT_TRUE(dispatch(address, 0, result));
+    EXPECT_EQ(m_window.m_calls, QStringList(QStringLiteral("E:null")));
+}
+
 } // namespace

@@ -49,13 +49,14 @@ public Q_SLOTS:
 
 private:
     void UpdateAppFilter();
-    bool CallHooks(const tagMSG& msg) const;
-    bool CallMsgFns(tagMSG* pMsg) const;
+    bool CallHooks(const QPointer<QObject>& receiver, const tagMSG& msg) const;
+    bool CallMsgFns(const QPointer<QObject>& receiver, tagMSG* pMsg) const;
 
     QList<HOOKPROC> m_hooks;
     QList<VxWinMsgFn> m_msgFns;
     QList<QPointer<QObject>> m_tempObjects;
     std::map<int, QTimer*> m_timers; // of timers without a window
+    QPointer<QObject> m_pFiltered;   // the application object while it is filtered
 };
 
 /// The one handler of the process, made on first use.

@@ -229,7 +229,7 @@ public:
     // on to the widget; call them to have a message handled in the widget's own way.
 
     // Life of the window
-    /// Deletes the scroll bars and the menu bar.
+    /// Takes away the scroll bars and the menu bar, which the event loop deletes.
     void OnDestroy();
     /// Detaches the widget and calls PostNcDestroy().
     void OnNcDestroy();
@@ -441,5 +441,6 @@ VXMFC_EXPORT class CHandleMap_E* afxMapHWND_E(BOOL bCreate);
 
 /// Hides a window and tells it and its children, from the top down, that it ends: each permanent
 /// CWnd_E gets WM_DESTROY before its children and WM_NCDESTROY after them. The widget itself is deleted
-/// later, and only when its CWnd_E owns it. FALSE for null.
+/// later, and only when its CWnd_E owns it. FALSE for null; nothing for a window that is just being
+/// destroyed.
 VXMFC_EXPORT BOOL DestroyWindow_E(QWidget* pWidget);

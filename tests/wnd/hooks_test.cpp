@@ -1,0 +1,236 @@
+// Message functions and keyboard hooks, which see the events of the host's main windows.
+#include <VxMFCEmu/VxMFCEmu.h>
+
+#include "support/waiting.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QWidget>
+
+#include <gtest/gtest.h>
+
+// The host's windows are told by the names of their classes.
+class CTolmView : public QWidget
+{
+    Q_OBJECT
+};
+class CTolmMainFrame : public QWidget
+{
+    Q_OBJECT
+};
+class VxQtCommandBar : public QWidget
+{
+    Q_OBJECT
+};
+class CTolmViewChild : public CTolmView
+{
+    Q_OBJECT
+};
+
+namespace {
+
+QStringList g_calls;
+QWidget* g_victim; // what a procedure deletes
+tagMSG g_last;
+
+LRESULT note(const char* name, WPARAM wParam, LPARAM lParam, LRESULT result)
+{
+    g_calls << QStringLiteral("%1 %2 %3")
+                   .arg(QLatin1String(name))
+                   .arg(wParam, 0, 16)
+                   .arg(lParam, 0, 16);
+    return result;
+}
+LRESULT hookA(int, WPARAM wParam, LPARAM lParam) { return note("A", wParam, lParam, 0); }
+LRESULT hookB(int, WPARAM wParam, LPARAM lParam) { return note("B", wParam, lParam, -1); }
+LRESULT hookTaking(int nCode, WPARAM wParam, LPARAM lParam)
+{
+    return note("taking", wParam, lParam, nCode + 1);
+}
+LRESULT hookRemoving(int, WPARAM wParam, LPARAM lParam)
+{
+    UnhookWindowsHookEx_E(&hookRemoving);
+    UnhookWindowsHookEx_E(&hookA);
+    return note("removing", wParam, lParam, 0);
+}
+LRESULT hookDeleting(int, WPARAM wParam, LPARAM lParam)
+{
+    delete g_victim;
+    return note("deleting", wParam, lParam, 0);
+}
+bool fnSees(tagMSG* pMsg)
+{
+    g_last = *pMsg;
+    g_calls << QStringLiteral("sees %1").arg(pMsg->message, 0, 16);
+    return false;
+}
+bool fnTakes(tagMSG* pMsg)
+{
+    g_calls << QStringLiteral("takes %1").arg(pMsg->message, 0, 16);
+    return true;
+}
+bool fnRemoves(tagMSG*)
+{
+    g_calls << QStringLiteral("removes");
+    RemoveWinMsgFn(&fnSees);
+    return false;
+}
+bool fnDeletes(tagMSG*)
+{
+    g_calls << QStringLiteral("deletes");
+    delete g_victim;
+    return false;
+}
+
+class HooksTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        g_calls.clear();
+        send(m_other, QEvent::KeyRelease, Qt::Key_unknown); // never a repeat of what the tests send
+        QKeyEvent reset(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier);
+        IsRepeatFilterKeyEvent(&reset);
+    }
+    void TearDown() override
+    {
+        for (const HOOKPROC proc : {&hookA, &hookB, &hookTaking, &hookRemoving, &hookDeleting})
+            UnhookWindowsHookEx_E(proc);
+        for (const VxWinMsgFn fn : {&fnSees, &fnTakes, &fnRemoves, &fnDeletes})
+            RemoveWinMsgFn(fn);
+        EXPECT_TRUE(GetGlobalEventHandler()->IsEmptyHookChain());
+    }
+
+    /// Sends a key; whether the widget itself did not get it.
+    static bool send(QWidget& widget, QEvent::Type type, int key,
+                     Qt::KeyboardModifiers modifiers = {})
+    {
+        QKeyEvent e(type, key, modifiers);
+        return QCoreApplication::sendEvent(&widget, &e) && e.isAccepted();
+    }
+    static QString take() { return std::exchange(g_calls, {}).join(QLatin1String(", ")); }
+
+    CTolmView m_view;
+    QWidget m_other;
+};
+
+TEST_F(HooksTest, HooksAreCalledFromTheLastToTheFirstBeforeTheMessageFunctions)
+{
+    AppendWinMsgFn(&fnSees);
+    AppendWinMsgFn(&fnTakes);
+    EXPECT_EQ(SetWindowsHookEx_E(WH_KEYBOARD, &hookA), &hookA);
+    EXPECT_EQ(SetWindowsHookEx_E(WH_KEYBOARD, &hookB), &hookB);
+    EXPECT_TRUE(send(m_view, QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier));
+    EXPECT_EQ(take(), QStringLiteral("B 41 40001, A 41 40001, sees 100, takes 100"));
+    EXPECT_EQ(g_last.hwnd, &m_view);
+    EXPECT_GT(g_last.time, 1600000000U);
+    SetWindowsHookEx_E(WH_KEYBOARD, &hookTaking);
+    EXPECT_TRUE(send(m_view, QEvent::KeyRelease, Qt::Key_A));
+    EXPECT_EQ(take(), QStringLiteral("taking 41 80000001"));
+    EXPECT_TRUE(UnhookWindowsHookEx_E(&hookTaking));
+    EXPECT_FALSE(UnhookWindowsHookEx_E(&hookTaking));
+    EXPECT_EQ(CallNextHookEx_E(&hookA, 0, 1, 1), 0);
+}
+
+TEST_F(HooksTest, AHeldKeyReachesTheHooksOnceAndTheMessageFunctionsAlways)
+{
+    AppendWinMsgFn(&fnSees);
+    SetWindowsHookEx_E(WH_KEYBOARD, &hookA);
+    for (int i = 0; i < 3; ++i)
+        send(m_view, QEvent::KeyPress, Qt::Key_B);
+    EXPECT_EQ(take(), QStringLiteral("A 42 1, sees 100, sees 100, sees 100"));
+    send(m_view, QEvent::KeyRelease, Qt::Key_B);
+    send(m_view, QEvent::KeyPress, Qt::Key_B);
+    EXPECT_EQ(take(), QStringLiteral("A 42 80000001, sees 101, A 42 1, sees 100"));
+}
+
+TEST_F(HooksTest, OnlyTheHostsOwnClassesCount)
+{
+    AppendWinMsgFn(&fnTakes);
+    CTolmMainFrame frame;
+    VxQtCommandBar bar;
+    CTolmViewChild derived;
+    const struct
+    {
+        QWidget& widget;
+        bool seen;
+    } rows[] = {{m_view, true}, {frame, true}, {bar, true}, {derived, false}, {m_other, false}};
+    for (const auto& row : rows)
+        EXPECT_EQ(send(row.widget, QEvent::KeyPress, Qt::Key_C), row.seen)
+            << row.widget.metaObject()->className();
+}
+
+TEST_F(HooksTest, EventsThatSayNothingToTheHostAreIgnored)
+{
+    AppendWinMsgFn(&fnTakes);
+    for (const int type : {11, 12, 14, 24, 25, 26, 103, 104, 127, 128}) {
+        QEvent e(static_cast<QEvent::Type>(type));
+        EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &e)) << type;
+    }
+    VxWinMsgEvent message(WM_APP, 0, 0);
+    EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &message));
+    QEvent untranslated(QEvent::User);
+    EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &untranslated));
+    EXPECT_EQ(take(), QString());
+    QEvent close(QEvent::Close);
+    EXPECT_TRUE(GetGlobalEventHandler()->eventFilter(&m_view, &close));
+    EXPECT_EQ(take(), QStringLiteral("takes 10"));
+}
+
+TEST_F(HooksTest, OnlyKeyboardHooksAreKnown)
+{
+    for (const int id : {WH_MOUSE, WH_GETMESSAGE, WH_CALLWNDPROC, WH_CBT, 0, -1})
+        EXPECT_EQ(SetWindowsHookEx_E(id, &hookTaking), nullptr) << id;
+    EXPECT_EQ(SetWindowsHookEx_E(WH_KEYBOARD, nullptr), nullptr);
+    AppendWinMsgFn(nullptr);
+    EXPECT_FALSE(UnhookWindowsHookEx_E(nullptr));
+    EXPECT_TRUE(GetGlobalEventHandler()->IsEmptyHookChain());
+    EXPECT_FALSE(send(m_view, QEvent::KeyPress, Qt::Key_D));
+    EXPECT_EQ(take(), QString());
+}
+
+TEST_F(HooksTest, WhatIsRemovedInACallIsNotCalledAnyMore)
+{
+    SetWindowsHookEx_E(WH_KEYBOARD, &hookA);
+    SetWindowsHookEx_E(WH_KEYBOARD, &hookRemoving);
+    AppendWinMsgFn(&fnRemoves);
+    AppendWinMsgFn(&fnSees);
+    send(m_view, QEvent::KeyPress, Qt::Key_E);
+    EXPECT_EQ(take(), QStringLiteral("removing 45 1, removes"));
+}
+
+TEST_F(HooksTest, AWindowDeletedInACallGetsNothingMore)
+{
+    for (const bool inHook : {true, false}) {
+        auto* const view = new CTolmView;
+        g_victim = view;
+        if (inHook)
+            SetWindowsHookEx_E(WH_KEYBOARD, &hookDeleting);
+        else
+            AppendWinMsgFn(&fnDeletes);
+        AppendWinMsgFn(&fnSees);
+        send(*view, QEvent::KeyPress, Qt::Key_F);
+        EXPECT_EQ(take(), inHook ? QStringLiteral("deleting 46 1") : QStringLiteral("deletes"));
+        TearDown();
+        SetUp();
+    }
+}
+
+/// Takes every key before a filter that was installed earlier sees it.
+class KeyEater : public QObject
+{
+    bool eventFilter(QObject*, QEvent* e) override { return e->type() == QEvent::KeyPress; }
+};
+
+TEST_F(HooksTest, OneMoreFunctionDoesNotMoveTheFilterBeforeThoseOfOthers)
+{
+    AppendWinMsgFn(&fnSees);
+    KeyEater eater;
+    qApp->installEventFilter(&eater);
+    AppendWinMsgFn(&fnTakes);
+    EXPECT_TRUE(send(m_view, QEvent::KeyPress, Qt::Key_G));
+    EXPECT_EQ(take(), QString());
+}
+
+} // namespace
+
+#include "hooks_test.moc"
