@@ -23,20 +23,14 @@ QVariant addressOf(const QObject* pObject)
 
 CObject_E::CObject_E() = default;
 
-CObject_E::~CObject_E()
-{
-    Detach();
-}
+CObject_E::~CObject_E() { Detach(); }
 
 BOOL CObject_E::AttachDefault(QObject* pParent)
 {
     return Attach(new QObject(pParent), pParent, false);
 }
 
-BOOL CObject_E::OnAttach()
-{
-    return TRUE;
-}
+BOOL CObject_E::OnAttach() { return TRUE; }
 
 void CObject_E::OnDetach() {}
 
@@ -55,17 +49,11 @@ void CObject_E::ConnectSlotsFrom(QObject* pFrom, bool bKeepOld)
     }
 }
 
-CRuntimeClass_E* CObject_E::GetRuntimeClass() const
-{
-    return &s_classInfo;
-}
+CRuntimeClass_E* CObject_E::GetRuntimeClass() const { return &s_classInfo; }
 
 void CObject_E::Serialize(CArchive_E&) {}
 
-QObject* CObject_E::SetImpQObject(QObject* pImp)
-{
-    return std::exchange(m_pImpQObject, pImp);
-}
+QObject* CObject_E::SetImpQObject(QObject* pImp) { return std::exchange(m_pImpQObject, pImp); }
 
 BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
 {
@@ -144,15 +132,9 @@ BOOL CObject_E::FindSlotMethod(const QString& strName, QMetaMethod& method) cons
     return FALSE;
 }
 
-const QMetaObject* CObject_E::GetImpMetaObject()
-{
-    return &QObject::staticMetaObject;
-}
+const QMetaObject* CObject_E::GetImpMetaObject() { return &QObject::staticMetaObject; }
 
-QList<const QMetaObject*>* CObject_E::GetImpMetaList()
-{
-    return nullptr;
-}
+QList<const QMetaObject*>* CObject_E::GetImpMetaList() { return nullptr; }
 
 CObject_E* CObject_E::FromImpMetaObject(const QMetaObject* pMeta)
 {
@@ -183,15 +165,16 @@ QMetaObject::Connection CObject_E::Connect(const QObject* pSender, const char* p
     return connect(pSender, pszSignal, pReceiver, pszMethod, type);
 }
 
-QMetaObject::Connection CObject_E::Connect(UINT nID, const char* pszSignal, const QObject* pReceiver,
-                                           const char* pszMethod, const QObject* pParent,
-                                           Qt::ConnectionType type)
+QMetaObject::Connection CObject_E::Connect(UINT nID, const char* pszSignal,
+                                           const QObject* pReceiver, const char* pszMethod,
+                                           const QObject* pParent, Qt::ConnectionType type)
 {
     const QString strName = ToStringId(nID);
     // Qt's search takes an empty name for any child.
     if (!pParent || strName.isEmpty())
         return {};
-    return Connect(pParent->findChild<QObject*>(strName), pszSignal, pReceiver, pszMethod, nullptr, type);
+    return Connect(pParent->findChild<QObject*>(strName), pszSignal, pReceiver, pszMethod, nullptr,
+                   type);
 }
 
 void CObject_E::OnImpDestroy()

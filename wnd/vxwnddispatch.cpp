@@ -68,8 +68,9 @@ bool CWnd_E::DispatchMessage(const Alive& alive, QEvent* e, tagMSG& msg)
     return false;
 }
 
-// Only an override of PreTranslateMessage() ever looks at the time and the cursor position: handlers
-// get wParam and lParam. The position costs a trip to the X server, so it is not fetched for nobody.
+// Only an override of PreTranslateMessage() ever looks at the time and the cursor position:
+// handlers get wParam and lParam. The position costs a trip to the X server, so it is not fetched
+// for nobody.
 void CWnd_E::FillIfSeen(tagMSG& msg) const
 {
     if (!vx::detail::seesMessages(*this))
@@ -77,15 +78,13 @@ void CWnd_E::FillIfSeen(tagMSG& msg) const
     vx::detail::stampMessage(&msg);
 }
 
-BOOL CWnd_E::PreTranslateMessage(tagMSG*)
-{
-    return FALSE;
-}
+BOOL CWnd_E::PreTranslateMessage(tagMSG*) { return FALSE; }
 
 BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT result = 0;
-    if (message == WM_SETCURSOR && reinterpret_cast<QWidget*>(wParam) == GetSafeHwnd() && wParam != 0) {
+    if (message == WM_SETCURSOR && reinterpret_cast<QWidget*>(wParam) == GetSafeHwnd() &&
+        wParam != 0) {
         const Offer offer = OfferSetCursorToAncestors(wParam, lParam, pResult);
         if (offer != Offer::Refused)
             return offer == Offer::Taken ? TRUE : FALSE;
@@ -158,7 +157,9 @@ BOOL CWnd_E::PostEvent(QEvent* e, int nPriority, bool bCompress)
     if (!e || !GetSafeHwnd())
         return FALSE;
     if (bCompress) {
-        const auto sameType = [e](const PendingEvent& pending) { return pending.type == e->type(); };
+        const auto sameType = [e](const PendingEvent& pending) {
+            return pending.type == e->type();
+        };
         if (std::any_of(m_pendingEvents.cbegin(), m_pendingEvents.cend(), sameType))
             return FALSE;
         m_pendingEvents.append({e, e->type()});

@@ -8,12 +8,13 @@
 
 namespace {
 
-// Lays a window's edges out again when its widget changes size. A filter of its own, since a window's
-// OnSize() handler may consume the event.
+// Lays a window's edges out again when its widget changes size. A filter of its own, since a
+// window's OnSize() handler may consume the event.
 class EdgeLayout : public QObject
 {
 public:
-    EdgeLayout(QWidget* pEdge, QWidget* pWidget, CWnd_E* pWindow) : QObject(pEdge), m_window(pWindow)
+    EdgeLayout(QWidget* pEdge, QWidget* pWidget, CWnd_E* pWindow)
+        : QObject(pEdge), m_window(pWindow)
     {
         pWidget->installEventFilter(this);
     }
@@ -60,7 +61,9 @@ void sendScroll(CWnd_E* pWindow, UINT message, int nCode, QScrollBar* pBar)
 
 QScrollBar* CWnd_E::OwnScrollBar(int nBar) const
 {
-    return nBar == SB_HORZ ? m_pHScrollBar.data() : nBar == SB_VERT ? m_pVScrollBar.data() : nullptr;
+    return nBar == SB_HORZ   ? m_pHScrollBar.data()
+           : nBar == SB_VERT ? m_pVScrollBar.data()
+                             : nullptr;
 }
 
 QScrollBar* CWnd_E::MakeScrollBar(int nBar)
@@ -111,15 +114,14 @@ void CWnd_E::RecalcLayout()
     const int nHeight = bH ? m_pHScrollBar->sizeHint().height() : 0;
     const int nWidth = bV ? m_pVScrollBar->sizeHint().width() : 0;
     if (bH)
-        m_pHScrollBar->setGeometry(area.left(), area.bottom() + 1 - nHeight, area.width() - nWidth, nHeight);
+        m_pHScrollBar->setGeometry(area.left(), area.bottom() + 1 - nHeight, area.width() - nWidth,
+                                   nHeight);
     if (bV)
-        m_pVScrollBar->setGeometry(area.right() + 1 - nWidth, area.top(), nWidth, area.height() - nHeight);
+        m_pVScrollBar->setGeometry(area.right() + 1 - nWidth, area.top(), nWidth,
+                                   area.height() - nHeight);
 }
 
-CScrollBar_E* CWnd_E::GetScrollBarCtrl(int) const
-{
-    return nullptr;
-}
+CScrollBar_E* CWnd_E::GetScrollBarCtrl(int) const { return nullptr; }
 
 BOOL CWnd_E::EnableScrollBar(int nBar, UINT nArrowFlags)
 {

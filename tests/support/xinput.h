@@ -24,6 +24,6 @@ void typeKey(unsigned long keysym);
 
 } // namespace vxtest
 
-#define VXTEST_NEEDS_X11()                                                                           \
-    if (!vxtest::onX11())                                                                            \
+#define VXTEST_NEEDS_X11()                                                                         \
+    if (!vxtest::onX11())                                                                          \
     GTEST_SKIP() << "needs an X display"
