@@ -99,7 +99,8 @@ void CObject_E::Detach()
         SetObjectFlag(ExternalFlag, false);
     else
         pImp->deleteLater();
-    OnDetach();
+    // The destructor means the base's own.
+    OnDetach(); // NOLINT(clang-analyzer-optin.cplusplus.VirtualCall)
 }
 
 void CObject_E::SetTemporary()
