@@ -2,7 +2,10 @@
 /// Message maps: which member of a window class handles which message.
 ///
 /// @code
-/// class CCanvas : public CWnd_E { ... void OnLButtonDown(UINT, CPoint_E); DECLARE_MESSAGE_MAP_E()
+/// class CCanvas : public CWnd_E {
+///     void OnLButtonDown(UINT, CPoint_E);
+///     LRESULT OnResult(WPARAM, LPARAM);
+///     DECLARE_MESSAGE_MAP_E()
 /// };
 ///
 /// BEGIN_MESSAGE_MAP_E(CCanvas, CWnd_E)
