@@ -6,6 +6,8 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QScrollBar>
 
+#include <utility>
+
 namespace {
 
 // Lays a window's edges out again when its widget changes size. A filter of its own, since a
@@ -186,7 +188,7 @@ BOOL CWnd_E::SetMenu(CMenu_E* pMenu)
     if (!GetSafeHwnd())
         return FALSE;
     if (!pMenu || !pMenu->GetSafeHmenu()) {
-        delete m_pMenuBar;
+        delete std::exchange(m_pMenuBar, nullptr);
     } else {
         QMenuBar* const pBar = MakeMenuBar();
         pBar->addActions(pMenu->GetSafeHmenu()->actions());
@@ -201,7 +203,7 @@ BOOL CWnd_E::SetMenu(QList<CMenu_E*> menus)
     if (!GetSafeHwnd())
         return FALSE;
     if (menus.isEmpty()) {
-        delete m_pMenuBar;
+        delete std::exchange(m_pMenuBar, nullptr);
     } else {
         QMenuBar* const pBar = MakeMenuBar();
         for (const CMenu_E* pMenu : qAsConst(menus)) {

@@ -3,6 +3,7 @@
 
 #include <VxMFCEmu/wnd/windowfunctions.h>
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
