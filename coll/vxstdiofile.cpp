@@ -49,7 +49,8 @@ wchar_t* CStdioFile_E::ReadString(wchar_t* lpsz, UINT nMax)
     if (!lpsz || nMax == 0)
         return nullptr;
     const UINT room = nMax - 1;
-    // More, to see the "\n" of an "\r\n" whose "\r" is the last that fits; Qt reads no less than two.
+    // More, to see the "\n" of an "\r\n" whose "\r" is the last that fits; Qt reads no less than
+    // two.
     QByteArray line = ReadLine(room * kLongestSequence + 2);
     if (line.isEmpty())
         return nullptr;

@@ -15,10 +15,7 @@ DispatchGuard::DispatchGuard(const CObject_E* pWrapper, QObject* pObject, bool b
     t_innermost = this;
 }
 
-DispatchGuard::~DispatchGuard()
-{
-    t_innermost = m_pOuter;
-}
+DispatchGuard::~DispatchGuard() { t_innermost = m_pOuter; }
 
 void DispatchGuard::wrapperDestroyed(const CObject_E* pWrapper)
 {

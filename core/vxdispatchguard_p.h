@@ -1,5 +1,5 @@
-// Not part of the public interface. Whether a wrapper and its object outlive a call into code that may
-// delete either.
+// Not part of the public interface. Whether a wrapper and its object outlive a call into code that
+// may delete either.
 #pragma once
 
 #include <QtCore/QPointer>
@@ -9,8 +9,8 @@ class CObject_E;
 namespace vx::detail {
 
 /// Watches a wrapper and the object whose event it handles, for the time of one call. The wrapper
-/// reports what becomes of them, which costs nothing until it happens; a QPointer for each would cost
-/// every event of every window two pairs of locked instructions.
+/// reports what becomes of them, which costs nothing until it happens; a QPointer for each would
+/// cost every event of every window two pairs of locked instructions.
 class DispatchGuard
 {
 public:

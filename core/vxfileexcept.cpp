@@ -43,7 +43,8 @@ int CFileException_E::ErrnoToException(int nErrno)
 
 int CFileException_E::OsErrorToException(LONG lOsError)
 {
-    const auto index = static_cast<std::size_t>(lOsError); // a negative number lies beyond the table
+    const auto index =
+        static_cast<std::size_t>(lOsError); // a negative number lies beyond the table
     if (index >= vx::detail::kCauseOfOsError.size())
         return genericException;
     return vx::detail::kCauseOfOsError[index];

@@ -128,6 +128,7 @@ CMapPtrToPtr_E::Assoc* CMapPtrToPtr_E::FirstFrom(UINT nBucket) const
 
 void CMapPtrToPtr_E::MakeTable(UINT nSize)
 {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers.
     auto** const pTable = static_cast<Assoc**>(std::calloc(nSize, sizeof(Assoc*)));
     if (!pTable)
         AfxThrowMemoryException_E();

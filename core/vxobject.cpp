@@ -35,10 +35,7 @@ BOOL CObject_E::AttachDefault(QObject* pParent)
     return Attach(new QObject(pParent), pParent, false);
 }
 
-BOOL CObject_E::OnAttach()
-{
-    return TRUE;
-}
+BOOL CObject_E::OnAttach() { return TRUE; }
 
 void CObject_E::OnDetach() {}
 
@@ -57,17 +54,11 @@ void CObject_E::ConnectSlotsFrom(QObject* pFrom, bool bKeepOld)
     }
 }
 
-CRuntimeClass_E* CObject_E::GetRuntimeClass() const
-{
-    return &s_classInfo;
-}
+CRuntimeClass_E* CObject_E::GetRuntimeClass() const { return &s_classInfo; }
 
 void CObject_E::Serialize(CArchive_E&) {}
 
-QObject* CObject_E::SetImpQObject(QObject* pImp)
-{
-    return std::exchange(m_pImpQObject, pImp);
-}
+QObject* CObject_E::SetImpQObject(QObject* pImp) { return std::exchange(m_pImpQObject, pImp); }
 
 BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
 {
@@ -114,7 +105,8 @@ void CObject_E::Detach()
         SetObjectFlag(ExternalFlag, false);
     else
         pImp->deleteLater();
-    OnDetach();
+    // The destructor means the base's own.
+    OnDetach(); // NOLINT(clang-analyzer-optin.cplusplus.VirtualCall)
 }
 
 void CObject_E::SetTemporary()
@@ -147,15 +139,9 @@ BOOL CObject_E::FindSlotMethod(const QString& strName, QMetaMethod& method) cons
     return FALSE;
 }
 
-const QMetaObject* CObject_E::GetImpMetaObject()
-{
-    return &QObject::staticMetaObject;
-}
+const QMetaObject* CObject_E::GetImpMetaObject() { return &QObject::staticMetaObject; }
 
-QList<const QMetaObject*>* CObject_E::GetImpMetaList()
-{
-    return nullptr;
-}
+QList<const QMetaObject*>* CObject_E::GetImpMetaList() { return nullptr; }
 
 CObject_E* CObject_E::FromImpMetaObject(const QMetaObject* pMeta)
 {
@@ -186,15 +172,16 @@ QMetaObject::Connection CObject_E::Connect(const QObject* pSender, const char* p
     return connect(pSender, pszSignal, pReceiver, pszMethod, type);
 }
 
-QMetaObject::Connection CObject_E::Connect(UINT nID, const char* pszSignal, const QObject* pReceiver,
-                                           const char* pszMethod, const QObject* pParent,
-                                           Qt::ConnectionType type)
+QMetaObject::Connection CObject_E::Connect(UINT nID, const char* pszSignal,
+                                           const QObject* pReceiver, const char* pszMethod,
+                                           const QObject* pParent, Qt::ConnectionType type)
 {
     const QString strName = ToStringId(nID);
     // Qt's search takes an empty name for any child.
     if (!pParent || strName.isEmpty())
         return {};
-    return Connect(pParent->findChild<QObject*>(strName), pszSignal, pReceiver, pszMethod, nullptr, type);
+    return Connect(pParent->findChild<QObject*>(strName), pszSignal, pReceiver, pszMethod, nullptr,
+                   type);
 }
 
 void CObject_E::OnImpDestroy()

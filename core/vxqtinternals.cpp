@@ -11,7 +11,8 @@ template <typename Visitor>
 void visitSlotConnections(const QObject* pReceiver, Visitor visit)
 {
     // GUI thread only, like everything that connects to a wrapper; Qt's lock is not reachable here.
-    const auto* pData = QObjectPrivate::get(const_cast<QObject*>(pReceiver))->connections.loadRelaxed();
+    const auto* pData =
+        QObjectPrivate::get(const_cast<QObject*>(pReceiver))->connections.loadRelaxed();
     if (!pData)
         return;
     for (const auto* pConnection = pData->senders; pConnection; pConnection = pConnection->next) {

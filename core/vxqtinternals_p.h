@@ -16,17 +16,18 @@ struct IncomingConnection
     Qt::ConnectionType type;
 };
 
-/// The connections whose receiver is @p pReceiver, in the order of its sender list, without those to
-/// functors and pointers to member. Read once, so that the caller may change them while walking.
+/// The connections whose receiver is @p pReceiver, in the order of its sender list, without those
+/// to functors and pointers to member. Read once, so that the caller may change them while walking.
 std::vector<IncomingConnection> incomingConnections(const QObject* pReceiver);
 
-/// Whether @p signal of @p pSender is connected to @p method of @p pReceiver. Looks at the receiver's
-/// side: the sender may have thousands of receivers, where Qt::UniqueConnection walks them all.
+/// Whether @p signal of @p pSender is connected to @p method of @p pReceiver. Looks at the
+/// receiver's side: the sender may have thousands of receivers, where Qt::UniqueConnection walks
+/// them all.
 bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObject* pReceiver,
                  const QMetaMethod& method);
 
-/// The dynamic property of this name; null when there is none. QObject::property() compares the name
-/// with every property that the object's class declares first, at a dozen times the cost.
+/// The dynamic property of this name; null when there is none. QObject::property() compares the
+/// name with every property that the object's class declares first, at a dozen times the cost.
 const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name);
 
 } // namespace vx::detail

@@ -6,8 +6,11 @@ CRuntimeClass_E::CRuntimeClass_E(const QMetaObject* pMetaObject, const QMetaObje
                                  const QMetaObject* pBaseImpMetaObject,
                                  VxCreateObjectFn pfnCreateObject,
                                  QList<const QMetaObject*>* pImpMetaList, int nObjectSize)
-    : m_pMetaObject(pMetaObject), m_pImpMetaObject(pImpMetaObject), m_pImpMetaList(pImpMetaList),
-      m_pfnCreateObject(pfnCreateObject), m_nObjectSize(nObjectSize)
+    : m_pMetaObject(pMetaObject),
+      m_pImpMetaObject(pImpMetaObject),
+      m_pImpMetaList(pImpMetaList),
+      m_pfnCreateObject(pfnCreateObject),
+      m_nObjectSize(nObjectSize)
 {
     const auto registerUnlessBase = [&](const QMetaObject* pMeta) {
         if (pMeta != pBaseImpMetaObject)

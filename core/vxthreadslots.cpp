@@ -7,6 +7,7 @@
 #include <VxMFCEmu/sys/tls.h>
 
 #include <climits>
+#include <memory>
 
 struct CSlotData_E
 {

@@ -27,8 +27,8 @@ class Q_DECL_EXPORT VxCUISpinBox : public QSpinBox
 {
     Q_OBJECT
 public:
-    using QSpinBox::QSpinBox;
     using QSpinBox::lineEdit;
+    using QSpinBox::QSpinBox;
     using QSpinBox::setLineEdit;
 };
 

@@ -136,30 +136,18 @@ CString_E& CString_E::TrimRight(const wchar_t* set)
     return *this;
 }
 
-CString_E CString_E::ToWinReturn() const
+namespace {
+
+template <typename Text>
+CString_E replaced(CString_E text, Text from, Text to)
 {
-    CString_E copy(*this);
-    copy.Replace(L"\n", L"\r\n");
-    return copy;
+    text.Replace(from, to);
+    return text;
 }
 
-CString_E CString_E::ToUnixReturn() const
-{
-    CString_E copy(*this);
-    copy.Replace(L"\r\n", L"\n");
-    return copy;
-}
+} // namespace
 
-CString_E CString_E::ToWinSeperator() const
-{
-    CString_E copy(*this);
-    copy.Replace(L'/', L'\\');
-    return copy;
-}
-
-CString_E CString_E::ToUnixSeperator() const
-{
-    CString_E copy(*this);
-    copy.Replace(L'\\', L'/');
-    return copy;
-}
+CString_E CString_E::ToWinReturn() const { return replaced(*this, L"\n", L"\r\n"); }
+CString_E CString_E::ToUnixReturn() const { return replaced(*this, L"\r\n", L"\n"); }
+CString_E CString_E::ToWinSeperator() const { return replaced(*this, L'/', L'\\'); }
+CString_E CString_E::ToUnixSeperator() const { return replaced(*this, L'\\', L'/'); }

@@ -118,10 +118,7 @@ void AppendWinMsgFn(VxWinMsgFn fn)
         GetGlobalEventHandler()->AppendMsgFn(fn);
 }
 
-void RemoveWinMsgFn(VxWinMsgFn fn)
-{
-    GetGlobalEventHandler()->RemoveMsgFn(fn);
-}
+void RemoveWinMsgFn(VxWinMsgFn fn) { GetGlobalEventHandler()->RemoveMsgFn(fn); }
 
 HHOOK SetWindowsHookEx_E(int idHook, HOOKPROC proc)
 {
@@ -136,7 +133,4 @@ BOOL UnhookWindowsHookEx_E(HHOOK hHook)
     return GetGlobalEventHandler()->RemoveHook(hHook) ? TRUE : FALSE;
 }
 
-LRESULT CallNextHookEx_E(HHOOK, int, WPARAM, LPARAM)
-{
-    return 0;
-}
+LRESULT CallNextHookEx_E(HHOOK, int, WPARAM, LPARAM) { return 0; }

@@ -12,7 +12,8 @@ namespace {
 
 const QMetaMethod& aboutToBlock()
 {
-    static const QMetaMethod signal = QMetaMethod::fromSignal(&QAbstractEventDispatcher::aboutToBlock);
+    static const QMetaMethod signal =
+        QMetaMethod::fromSignal(&QAbstractEventDispatcher::aboutToBlock);
     return signal;
 }
 
@@ -85,7 +86,4 @@ void AppendTempObjectPool(QObject* pObject)
         GetGlobalEventHandler()->AppendTempObject(pObject);
 }
 
-void ClearTempObjectPool()
-{
-    GetGlobalEventHandler()->RemoveTempObject();
-}
+void ClearTempObjectPool() { GetGlobalEventHandler()->RemoveTempObject(); }

@@ -7,10 +7,7 @@ IMPLEMENT_DYNAMIC_E(CMenu_E, CObject_E, QMenu)
 
 CMenu_E::CMenu_E(QWidget* pParent) : m_pParent(pParent) {}
 
-CMenu_E::~CMenu_E()
-{
-    DestroyMenu();
-}
+CMenu_E::~CMenu_E() { DestroyMenu(); }
 
 BOOL CMenu_E::AttachDefault(QObject* pParent)
 {
@@ -32,10 +29,7 @@ void CMenu_E::OnDetach()
     m_hMenu = nullptr;
 }
 
-BOOL CMenu_E::CreatePopupMenu()
-{
-    return AttachDefault(m_pParent.data());
-}
+BOOL CMenu_E::CreatePopupMenu() { return AttachDefault(m_pParent.data()); }
 
 BOOL CMenu_E::DestroyMenu()
 {

@@ -7,9 +7,9 @@
 namespace vx::detail {
 namespace {
 
-// The function a virtual call of PreTranslateMessage() would reach, read from the virtual table as the
-// Itanium C++ ABI lays it out; null on machines whose member pointers look different. Reading it is
-// what makes the question cheap enough to be asked for every event.
+// The function a virtual call of PreTranslateMessage() would reach, read from the virtual table as
+// the Itanium C++ ABI lays it out; null on machines whose member pointers look different. Reading
+// it is what makes the question cheap enough to be asked for every event.
 const void* preTranslateOf(const CWnd_E& window)
 {
 #if defined(__x86_64__)

@@ -119,7 +119,8 @@ bool ifZero(int value) { return value == 0; }
 using Int = Value<int, always<int>>;
 using U32 = Value<UINT, always<UINT>>;
 using I64 = Value<LRESULT, always<LRESULT>>;
-// Intended: a wheel handler that gives FALSE, and the reverse for signature 70, leave the event to the widget.
+// Intended: a wheel handler that gives FALSE, and the reverse for signature 70, leave the event to
+// the widget.
 using IntUnlessZero = Value<int, ifNonZero>;
 using IntUnlessSet = Value<int, ifZero>;
 

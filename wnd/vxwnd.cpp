@@ -16,10 +16,7 @@
 
 IMPLEMENT_DYNCREATE_E(CWnd_E, CCmdTarget_E, QWidget)
 
-CWnd_E::CWnd_E()
-{
-    vx::detail::notePlainWindow(*this);
-}
+CWnd_E::CWnd_E() { vx::detail::notePlainWindow(*this); }
 
 CWnd_E::~CWnd_E()
 {
@@ -55,7 +52,8 @@ void CWnd_E::OnMessageMap()
     AddMsgMapEntry(WM_NCDESTROY, 19, static_cast<AFX_PMSG_E>(&CWnd_E::OnNcDestroy), nullptr);
     AddMsgMapEntry(WM_DESTROY, 19, static_cast<AFX_PMSG_E>(&CWnd_E::OnDestroy), nullptr);
     AddMsgMapEntry(WM_SIZE, 26,
-                   vx::detail::eraseHandler<CWnd_E, void(UINT, int, int)>(&CWnd_E::OnSize), nullptr);
+                   vx::detail::eraseHandler<CWnd_E, void(UINT, int, int)>(&CWnd_E::OnSize),
+                   nullptr);
     ConnectIdleSlot(this);
 }
 
@@ -113,15 +111,9 @@ CWnd_E* CWnd_E::GetDlgItem(const char* pszName) const
     return FromHandle(GetChildWidget(pszName));
 }
 
-CWnd_E* CWnd_E::GetDlgItem(QWidget* pWidget) const
-{
-    return FromHandle(pWidget);
-}
+CWnd_E* CWnd_E::GetDlgItem(QWidget* pWidget) const { return FromHandle(pWidget); }
 
-CWnd_E* CWnd_E::GetDlgItem(int nID) const
-{
-    return FromHandle(GetDlgItem(nID, nullptr));
-}
+CWnd_E* CWnd_E::GetDlgItem(int nID) const { return FromHandle(GetDlgItem(nID, nullptr)); }
 
 QWidget* CWnd_E::GetDlgItem(int nID, QWidget** ppWidget) const
 {
@@ -131,10 +123,7 @@ QWidget* CWnd_E::GetDlgItem(int nID, QWidget** ppWidget) const
     return pItem;
 }
 
-int CWnd_E::GetDlgCtrlID() const
-{
-    return GetDlgCtrlID_E(GetSafeHwnd());
-}
+int CWnd_E::GetDlgCtrlID() const { return GetDlgCtrlID_E(GetSafeHwnd()); }
 
 int CWnd_E::SetDlgCtrlID(int nID)
 {
@@ -150,8 +139,8 @@ CHandleMap_E* afxMapHWND_E(BOOL bCreate)
 {
     AFX_MODULE_THREAD_STATE_E* const pState = AfxGetModuleThreadState_E();
     if (!pState->m_pmapHWND && bCreate) {
-        pState->m_pmapHWND = vx::detail::makeHandleMap<CWnd_E>(RUNTIME_CLASS_E(CWnd_E),
-                                                               &CWnd_E::m_pImpQObject);
+        pState->m_pmapHWND =
+            vx::detail::makeHandleMap<CWnd_E>(RUNTIME_CLASS_E(CWnd_E), &CWnd_E::m_pImpQObject);
     }
     return pState->m_pmapHWND;
 }
@@ -162,9 +151,6 @@ void CWnd_E::DeleteTempMap()
         pMap->DeleteTemp();
 }
 
-void CWnd_E::OnEnterIdle()
-{
-    Q_EMIT updateCmdUi();
-}
+void CWnd_E::OnEnterIdle() { Q_EMIT updateCmdUi(); }
 
 void CWnd_E::DoDataExchange(CDataExchange_E*) {}

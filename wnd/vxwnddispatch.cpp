@@ -58,7 +58,8 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
         return true;
     TranslateMessage(watched, e, &msg);
     LRESULT result = 0;
-    const bool handled = guard.wrapperAlive() && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
+    const bool handled =
+        guard.wrapperAlive() && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
     // Intended: a close that a handler did not accept goes no further either.
     if (handled && (e->isAccepted() || e->type() == QEvent::Close)) {
         if (e->type() == VxWinMsgEvent::EventType)
@@ -69,8 +70,9 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
     return false;
 }
 
-// Only an override of PreTranslateMessage() ever looks at the time and the cursor position: handlers
-// get wParam and lParam. The position costs a trip to the X server, so it is not fetched for nobody.
+// Only an override of PreTranslateMessage() ever looks at the time and the cursor position:
+// handlers get wParam and lParam. The position costs a trip to the X server, so it is not fetched
+// for nobody.
 void CWnd_E::FillIfSeen(tagMSG& msg) const
 {
     if (!vx::detail::seesMessages(*this))
@@ -78,15 +80,13 @@ void CWnd_E::FillIfSeen(tagMSG& msg) const
     vx::detail::stampMessage(&msg);
 }
 
-BOOL CWnd_E::PreTranslateMessage(tagMSG*)
-{
-    return FALSE;
-}
+BOOL CWnd_E::PreTranslateMessage(tagMSG*) { return FALSE; }
 
 BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT result = 0;
-    if (message == WM_SETCURSOR && reinterpret_cast<QWidget*>(wParam) == GetSafeHwnd() && wParam != 0) {
+    if (message == WM_SETCURSOR && reinterpret_cast<QWidget*>(wParam) == GetSafeHwnd() &&
+        wParam != 0) {
         const Offer offer = OfferSetCursorToAncestors(wParam, lParam, pResult);
         if (offer != Offer::Refused)
             return offer == Offer::Taken ? TRUE : FALSE;
@@ -105,7 +105,8 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
 CWnd_E::Offer CWnd_E::OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     std::vector<QPointer<QWidget>> ancestors;
-    // Intended: a window of its own begins with its parent too, and so asks the window that owns it.
+    // Intended: a window of its own begins with its parent too, and so asks the window that owns
+    // it.
     QWidget* pWidget = GetSafeHwnd();
     do {
         pWidget = pWidget->parentWidget();
@@ -161,7 +162,9 @@ BOOL CWnd_E::PostEvent(QEvent* e, int nPriority, bool bCompress)
     if (!e || !GetSafeHwnd())
         return FALSE;
     if (bCompress) {
-        const auto sameType = [e](const PendingEvent& pending) { return pending.type == e->type(); };
+        const auto sameType = [e](const PendingEvent& pending) {
+            return pending.type == e->type();
+        };
         if (std::any_of(m_pendingEvents.cbegin(), m_pendingEvents.cend(), sameType))
             return FALSE;
         m_pendingEvents.append({e, e->type()});

@@ -6,14 +6,17 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QScrollBar>
 
+#include <utility>
+
 namespace {
 
-// Lays a window's edges out again when its widget changes size. A filter of its own, since a window's
-// OnSize() handler may consume the event.
+// Lays a window's edges out again when its widget changes size. A filter of its own, since a
+// window's OnSize() handler may consume the event.
 class EdgeLayout : public QObject
 {
 public:
-    EdgeLayout(QWidget* pEdge, QWidget* pWidget, CWnd_E* pWindow) : QObject(pEdge), m_window(pWindow)
+    EdgeLayout(QWidget* pEdge, QWidget* pWidget, CWnd_E* pWindow)
+        : QObject(pEdge), m_window(pWindow)
     {
         pWidget->installEventFilter(this);
     }
@@ -60,7 +63,9 @@ void sendScroll(CWnd_E* pWindow, UINT message, int nCode, QScrollBar* pBar)
 
 QScrollBar* CWnd_E::OwnScrollBar(int nBar) const
 {
-    return nBar == SB_HORZ ? m_pHScrollBar.data() : nBar == SB_VERT ? m_pVScrollBar.data() : nullptr;
+    return nBar == SB_HORZ   ? m_pHScrollBar.data()
+           : nBar == SB_VERT ? m_pVScrollBar.data()
+                             : nullptr;
 }
 
 QScrollBar* CWnd_E::MakeScrollBar(int nBar)
@@ -111,15 +116,14 @@ void CWnd_E::RecalcLayout()
     const int nHeight = bH ? m_pHScrollBar->sizeHint().height() : 0;
     const int nWidth = bV ? m_pVScrollBar->sizeHint().width() : 0;
     if (bH)
-        m_pHScrollBar->setGeometry(area.left(), area.bottom() + 1 - nHeight, area.width() - nWidth, nHeight);
+        m_pHScrollBar->setGeometry(area.left(), area.bottom() + 1 - nHeight, area.width() - nWidth,
+                                   nHeight);
     if (bV)
-        m_pVScrollBar->setGeometry(area.right() + 1 - nWidth, area.top(), nWidth, area.height() - nHeight);
+        m_pVScrollBar->setGeometry(area.right() + 1 - nWidth, area.top(), nWidth,
+                                   area.height() - nHeight);
 }
 
-CScrollBar_E* CWnd_E::GetScrollBarCtrl(int) const
-{
-    return nullptr;
-}
+CScrollBar_E* CWnd_E::GetScrollBarCtrl(int) const { return nullptr; }
 
 BOOL CWnd_E::EnableScrollBar(int nBar, UINT nArrowFlags)
 {
@@ -184,7 +188,7 @@ BOOL CWnd_E::SetMenu(CMenu_E* pMenu)
     if (!GetSafeHwnd())
         return FALSE;
     if (!pMenu || !pMenu->GetSafeHmenu()) {
-        delete m_pMenuBar;
+        delete std::exchange(m_pMenuBar, nullptr);
     } else {
         QMenuBar* const pBar = MakeMenuBar();
         pBar->addActions(pMenu->GetSafeHmenu()->actions());
@@ -199,7 +203,7 @@ BOOL CWnd_E::SetMenu(QList<CMenu_E*> menus)
     if (!GetSafeHwnd())
         return FALSE;
     if (menus.isEmpty()) {
-        delete m_pMenuBar;
+        delete std::exchange(m_pMenuBar, nullptr);
     } else {
         QMenuBar* const pBar = MakeMenuBar();
         for (const CMenu_E* pMenu : qAsConst(menus)) {

@@ -3,15 +3,13 @@
 
 #include <VxMFCEmu/wnd/windowfunctions.h>
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
 namespace {
 
-HWND handleOf(const CWnd_E* pWindow)
-{
-    return pWindow ? pWindow->GetSafeHwnd() : nullptr;
-}
+HWND handleOf(const CWnd_E* pWindow) { return pWindow ? pWindow->GetSafeHwnd() : nullptr; }
 
 QRect centreAreaOf(const QWidget* pOther, const QWidget* pWindow)
 {
@@ -73,10 +71,7 @@ CWnd_E* CWnd_E::GetDesktopWindow() { return FromHandle(GetDesktopWindow_E()); }
 CWnd_E* CWnd_E::WindowFromPoint(tagPOINT point) { return FromHandle(WindowFromPoint_E(point)); }
 // clang-format on
 
-void CWnd_E::Invalidate(BOOL bErase)
-{
-    InvalidateRect(nullptr, bErase);
-}
+void CWnd_E::Invalidate(BOOL bErase) { InvalidateRect(nullptr, bErase); }
 
 void CWnd_E::InvalidateRect(const tagRECT* pRect, BOOL)
 {
@@ -84,7 +79,8 @@ void CWnd_E::InvalidateRect(const tagRECT* pRect, BOOL)
     if (!pWidget)
         return;
     if (pRect)
-        pWidget->update(pRect->left, pRect->top, pRect->right - pRect->left, pRect->bottom - pRect->top);
+        pWidget->update(pRect->left, pRect->top, pRect->right - pRect->left,
+                        pRect->bottom - pRect->top);
     else
         pWidget->update();
 }

@@ -92,20 +92,11 @@ void CWnd_E::ShowAsStyled()
         ShowScrollBar(SB_HORZ, TRUE);
 }
 
-int CWnd_E::OnCreate(tagCREATESTRUCTW*)
-{
-    return 0;
-}
+int CWnd_E::OnCreate(tagCREATESTRUCTW*) { return 0; }
 
-BOOL CWnd_E::DestroyWindow()
-{
-    return DestroyWindow_E(GetSafeHwnd());
-}
+BOOL CWnd_E::DestroyWindow() { return DestroyWindow_E(GetSafeHwnd()); }
 
-void CWnd_E::OnClose()
-{
-    DestroyWindow();
-}
+void CWnd_E::OnClose() { DestroyWindow(); }
 
 void CWnd_E::OnDestroy()
 {

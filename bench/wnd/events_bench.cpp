@@ -20,7 +20,7 @@ struct KeyPress
 struct MouseMove
 {
     QMouseEvent event{QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), QPointF(10, 10),
-                      Qt::NoButton, Qt::NoButton, Qt::NoModifier};
+                      Qt::NoButton,      Qt::NoButton,    Qt::NoModifier};
 };
 
 // A window as the library makes it, in a window of its own.

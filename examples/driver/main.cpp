@@ -55,8 +55,10 @@ QRect rectOf(const QRegularExpressionMatch& match)
 
 bool drive(XRobot& robot, const Report& report, const QString& screenshot)
 {
-    const QRect tracker = rectOf(report.waitFor(QStringLiteral("geometry tracker (\\d+) (\\d+) (\\d+) (\\d+)")));
-    const QRect post = rectOf(report.waitFor(QStringLiteral("geometry post (\\d+) (\\d+) (\\d+) (\\d+)")));
+    const QRect tracker =
+        rectOf(report.waitFor(QStringLiteral("geometry tracker (\\d+) (\\d+) (\\d+) (\\d+)")));
+    const QRect post =
+        rectOf(report.waitFor(QStringLiteral("geometry post (\\d+) (\\d+) (\\d+) (\\d+)")));
     if (!report.waitFor(QStringLiteral("ready")).hasMatch())
         return false;
 
@@ -65,16 +67,22 @@ bool drive(XRobot& robot, const Report& report, const QString& screenshot)
         std::function<void()> action;
         QString expected;
     } steps[] = {
-        {[&] { robot.move(tracker.topLeft() + QPoint(20, 25)); }, QStringLiteral("WM_MOUSEMOVE 20,25")},
+        {[&] { robot.move(tracker.topLeft() + QPoint(20, 25)); },
+         QStringLiteral("WM_MOUSEMOVE 20,25")},
         {[] {}, QStringLiteral("WM_SETCURSOR for the tracker")},
-        {[&] { robot.click(tracker.topLeft() + QPoint(30, 40)); }, QStringLiteral("WM_LBUTTONDOWN 30,40 flags 1")},
+        {[&] { robot.click(tracker.topLeft() + QPoint(30, 40)); },
+         QStringLiteral("WM_LBUTTONDOWN 30,40 flags 1")},
         {[&] { robot.type(XK_a); }, QStringLiteral("WM_KEYDOWN 0x41")},
         {[] {}, QStringLiteral("WM_CHAR 'a'")},
         {[&] { robot.type(XK_F5); }, QStringLiteral("WM_KEYDOWN 0x74")},
-        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 3); }, QStringLiteral("WM_RBUTTONDOWN 50,60 flags 2")},
-        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 4); }, QStringLiteral("WM_MOUSEWHEEL 120")},
+        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 3); },
+         QStringLiteral("WM_RBUTTONDOWN 50,60 flags 2")},
+        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 4); },
+         QStringLiteral("WM_MOUSEWHEEL 120")},
         {[&] { robot.click(post.center()); }, QStringLiteral("WM_TRACKER_PING 1")},
-        {[&] { robot.resizeWindow(kTitle, {900, 580}); },
+        {[&] {
+             robot.resizeWindow(kTitle, {900, 580});
+         },
          QStringLiteral("WM_SIZE \\d+,%1").arg(tracker.height() + 20)},
     };
     bool passed = true;
@@ -110,8 +118,8 @@ int main(int argc, char** argv)
                {QStringLiteral("--load"), options.value(QStringLiteral("load")),
                 QStringLiteral("--report"), reportPath});
     const bool passed = drive(robot, report, options.value(QStringLiteral("screenshot")));
-    const bool ended = host.waitForFinished(kLimitMs) && host.exitStatus() == QProcess::NormalExit &&
-                       host.exitCode() == 0;
+    const bool ended = host.waitForFinished(kLimitMs) &&
+                       host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
     std::printf("%s  host ended\n", ended ? "ok     " : "FAILED ");
     if (!ended)
         host.kill();

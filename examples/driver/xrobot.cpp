@@ -37,7 +37,8 @@ unsigned long XRobot::findWindow(const char* title)
     Window* children = nullptr;
     unsigned count = 0;
     unsigned long found = 0;
-    if (!XQueryTree(m_display.get(), DefaultRootWindow(m_display.get()), &root, &parent, &children, &count))
+    if (!XQueryTree(m_display.get(), DefaultRootWindow(m_display.get()), &root, &parent, &children,
+                    &count))
         return 0;
     for (unsigned i = 0; i < count && !found; ++i) {
         char* name = nullptr;
@@ -72,7 +73,8 @@ bool XRobot::closeWindow(const char* title)
     event.xclient.window = window;
     event.xclient.message_type = XInternAtom(m_display.get(), "WM_PROTOCOLS", False);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = static_cast<long>(XInternAtom(m_display.get(), "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[0] =
+        static_cast<long>(XInternAtom(m_display.get(), "WM_DELETE_WINDOW", False));
     event.xclient.data.l[1] = CurrentTime;
     XSendEvent(m_display.get(), window, False, NoEventMask, &event);
     XSync(m_display.get(), False);
@@ -84,12 +86,13 @@ QImage XRobot::screenshot()
     const int screen = DefaultScreen(m_display.get());
     const int width = DisplayWidth(m_display.get(), screen);
     const int height = DisplayHeight(m_display.get(), screen);
-    XImage* const grab = XGetImage(m_display.get(), DefaultRootWindow(m_display.get()), 0, 0,
-                                   static_cast<unsigned>(width), static_cast<unsigned>(height), AllPlanes, ZPixmap);
+    XImage* const grab =
+        XGetImage(m_display.get(), DefaultRootWindow(m_display.get()), 0, 0,
+                  static_cast<unsigned>(width), static_cast<unsigned>(height), AllPlanes, ZPixmap);
     if (!grab)
         return {};
-    const QImage view(reinterpret_cast<const uchar*>(grab->data), width, height, grab->bytes_per_line,
-                      QImage::Format_RGB32);
+    const QImage view(reinterpret_cast<const uchar*>(grab->data), width, height,
+                      grab->bytes_per_line, QImage::Format_RGB32);
     QImage copy = view.copy();
     XDestroyImage(grab);
     return copy;

@@ -8,10 +8,7 @@
 
 namespace {
 
-bool isCommandRunning()
-{
-    return false;
-}
+bool isCommandRunning() { return false; }
 
 } // namespace
 

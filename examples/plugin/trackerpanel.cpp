@@ -11,7 +11,7 @@
 IMPLEMENT_DYNAMIC_E(CDrawingWnd, CWnd_E, QWidget)
 
 BEGIN_MESSAGE_MAP_E(CDrawingWnd, CWnd_E)
-    ON_WM_SIZE_E()
+ON_WM_SIZE_E()
 END_MESSAGE_MAP_E()
 
 void CDrawingWnd::OnSize(UINT nType, int cx, int cy)
@@ -23,10 +23,10 @@ void CDrawingWnd::OnSize(UINT nType, int cx, int cy)
 IMPLEMENT_DYNAMIC_E(CTrackerPanel, CWnd_E, QWidget)
 
 BEGIN_MESSAGE_MAP_E(CTrackerPanel, CWnd_E)
-    ON_WM_DESTROY_E()
-    ON_MESSAGE_E(WM_TRACKER_REPORT, &CTrackerPanel::OnReport)
-    CObject_E::Connect(IDC_POST, SIGNAL(clicked()), this, SLOT(OnPost()), GetSafeHwnd());
-    CObject_E::Connect(IDC_CLEAR, SIGNAL(clicked()), this, SLOT(OnClear()), GetSafeHwnd());
+ON_WM_DESTROY_E()
+ON_MESSAGE_E(WM_TRACKER_REPORT, &CTrackerPanel::OnReport)
+CObject_E::Connect(IDC_POST, SIGNAL(clicked()), this, SLOT(OnPost()), GetSafeHwnd());
+CObject_E::Connect(IDC_CLEAR, SIGNAL(clicked()), this, SLOT(OnClear()), GetSafeHwnd());
 END_MESSAGE_MAP_E()
 
 CTrackerPanel::CTrackerPanel(const CString_E& strReportPath)
@@ -124,10 +124,7 @@ void CTrackerPanel::OnDestroy()
     CWnd_E::OnDestroy();
 }
 
-void CTrackerPanel::PostNcDestroy()
-{
-    delete this;
-}
+void CTrackerPanel::PostNcDestroy() { delete this; }
 
 // Tells a driver where to click: name and global rectangle of what it needs.
 void CTrackerPanel::ReportReady()
@@ -142,7 +139,8 @@ void CTrackerPanel::WriteGeometry(const wchar_t* lpszName, QWidget* pWidget) con
     CRect_E rect;
     GetWindowRect_E(pWidget, &rect);
     CString_E strLine;
-    strLine.Format(L"geometry %s %d %d %d %d", lpszName, rect.left, rect.top, rect.Width(), rect.Height());
+    strLine.Format(L"geometry %s %d %d %d %d", lpszName, rect.left, rect.top, rect.Width(),
+                   rect.Height());
     WriteReport(strLine);
 }
 
@@ -151,7 +149,8 @@ void CTrackerPanel::WriteReport(const CString_E& strLine) const
     if (m_strReportPath.IsEmpty())
         return;
     CStdioFile_E file;
-    if (!file.Open(m_strReportPath, CFile_E::modeWrite | CFile_E::modeCreate | CFile_E::modeNoTruncate))
+    if (!file.Open(m_strReportPath,
+                   CFile_E::modeWrite | CFile_E::modeCreate | CFile_E::modeNoTruncate))
         return;
     file.SeekToEnd();
     file.WriteString(strLine + L"\n");

@@ -5,15 +5,15 @@
 IMPLEMENT_DYNAMIC_E(CTrackerWnd, CWnd_E, QWidget)
 
 BEGIN_MESSAGE_MAP_E(CTrackerWnd, CWnd_E)
-    ON_WM_MOUSEMOVE_E()
-    ON_WM_LBUTTONDOWN_E()
-    ON_WM_RBUTTONDOWN_E()
-    ON_WM_MOUSEWHEEL_E()
-    ON_WM_KEYDOWN_E()
-    ON_WM_CHAR_E()
-    ON_WM_SIZE_E()
-    ON_WM_SETCURSOR_E()
-    ON_MESSAGE_E(WM_TRACKER_PING, &CTrackerWnd::OnPing)
+ON_WM_MOUSEMOVE_E()
+ON_WM_LBUTTONDOWN_E()
+ON_WM_RBUTTONDOWN_E()
+ON_WM_MOUSEWHEEL_E()
+ON_WM_KEYDOWN_E()
+ON_WM_CHAR_E()
+ON_WM_SIZE_E()
+ON_WM_SETCURSOR_E()
+ON_MESSAGE_E(WM_TRACKER_PING, &CTrackerWnd::OnPing)
 END_MESSAGE_MAP_E()
 
 void CTrackerWnd::OnMouseMove(UINT nFlags, CPoint_E point)
@@ -39,15 +39,9 @@ BOOL CTrackerWnd::OnMouseWheel(UINT, short zDelta, CPoint_E)
     return TRUE;
 }
 
-void CTrackerWnd::OnKeyDown(UINT nChar, UINT, UINT)
-{
-    Report(L"WM_KEYDOWN 0x%02X", nChar);
-}
+void CTrackerWnd::OnKeyDown(UINT nChar, UINT, UINT) { Report(L"WM_KEYDOWN 0x%02X", nChar); }
 
-void CTrackerWnd::OnChar(UINT nChar, UINT, UINT)
-{
-    Report(L"WM_CHAR '%c'", nChar);
-}
+void CTrackerWnd::OnChar(UINT nChar, UINT, UINT) { Report(L"WM_CHAR '%c'", nChar); }
 
 void CTrackerWnd::OnSize(UINT nType, int cx, int cy)
 {

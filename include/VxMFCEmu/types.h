@@ -1,8 +1,8 @@
 /// @file types.h
 /// The Win32 types that every subsystem shares.
 ///
-/// Differs from Win32: a window handle is a `QWidget*`; text is `wchar_t` of 32 bits (UTF-32), so one
-/// character is one code point; `WPARAM` and `LPARAM` are 64 bits wide.
+/// Differs from Win32: a window handle is a `QWidget*`; text is `wchar_t` of 32 bits (UTF-32), so
+/// one character is one code point; `WPARAM` and `LPARAM` are 64 bits wide.
 #pragma once
 
 #include <VxMFCEmu/export.h>
@@ -127,12 +127,12 @@ using LPCRECT = const tagRECT*;
 /// One window message, as message functions and `PreTranslateMessage` see it.
 struct tagMSG
 {
-    HWND hwnd;        ///< the window the message is for
-    UINT message;     ///< message number
-    WPARAM wParam;    ///< meaning depends on the message
-    LPARAM lParam;    ///< meaning depends on the message
-    DWORD time;       ///< seconds since 1970 (differs from Win32, which counts milliseconds)
-    tagPOINT pt;      ///< cursor position in screen coordinates
+    HWND hwnd;     ///< the window the message is for
+    UINT message;  ///< message number
+    WPARAM wParam; ///< meaning depends on the message
+    LPARAM lParam; ///< meaning depends on the message
+    DWORD time;    ///< seconds since 1970 (differs from Win32, which counts milliseconds)
+    tagPOINT pt;   ///< cursor position in screen coordinates
 };
 using MSG = tagMSG;
 using LPMSG = tagMSG*;
@@ -158,9 +158,15 @@ using CREATESTRUCTW = tagCREATESTRUCTW;
 using LPCREATESTRUCT = tagCREATESTRUCTW*;
 
 constexpr WORD LOWORD(std::uint64_t value) noexcept { return static_cast<WORD>(value & 0xFFFFU); }
-constexpr WORD HIWORD(std::uint64_t value) noexcept { return static_cast<WORD>((value >> 16) & 0xFFFFU); }
+constexpr WORD HIWORD(std::uint64_t value) noexcept
+{
+    return static_cast<WORD>((value >> 16) & 0xFFFFU);
+}
 constexpr BYTE LOBYTE(std::uint64_t value) noexcept { return static_cast<BYTE>(value & 0xFFU); }
-constexpr BYTE HIBYTE(std::uint64_t value) noexcept { return static_cast<BYTE>((value >> 8) & 0xFFU); }
+constexpr BYTE HIBYTE(std::uint64_t value) noexcept
+{
+    return static_cast<BYTE>((value >> 8) & 0xFFU);
+}
 
 /// Packs two 16-bit halves into 32 bits, @p low in the low half.
 template <typename Low, typename High>
@@ -170,12 +176,27 @@ constexpr DWORD MAKELONG(Low low, High high) noexcept
            (static_cast<DWORD>(static_cast<WORD>(high)) << 16);
 }
 template <typename Low, typename High>
-constexpr WPARAM MAKEWPARAM(Low low, High high) noexcept { return MAKELONG(low, high); }
+constexpr WPARAM MAKEWPARAM(Low low, High high) noexcept
+{
+    return MAKELONG(low, high);
+}
 template <typename Low, typename High>
-constexpr LPARAM MAKELPARAM(Low low, High high) noexcept { return MAKELONG(low, high); }
+constexpr LPARAM MAKELPARAM(Low low, High high) noexcept
+{
+    return MAKELONG(low, high);
+}
 template <typename Low, typename High>
-constexpr LRESULT MAKELRESULT(Low low, High high) noexcept { return MAKELONG(low, high); }
+constexpr LRESULT MAKELRESULT(Low low, High high) noexcept
+{
+    return MAKELONG(low, high);
+}
 
 /// Signed coordinates packed in an `LPARAM`.
-constexpr int GET_X_LPARAM(LPARAM value) noexcept { return static_cast<short>(LOWORD(static_cast<std::uint64_t>(value))); }
-constexpr int GET_Y_LPARAM(LPARAM value) noexcept { return static_cast<short>(HIWORD(static_cast<std::uint64_t>(value))); }
+constexpr int GET_X_LPARAM(LPARAM value) noexcept
+{
+    return static_cast<short>(LOWORD(static_cast<std::uint64_t>(value)));
+}
+constexpr int GET_Y_LPARAM(LPARAM value) noexcept
+{
+    return static_cast<short>(HIWORD(static_cast<std::uint64_t>(value)));
+}

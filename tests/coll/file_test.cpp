@@ -248,19 +248,8 @@ TEST_F(FileTest, TextLines)
         {__LINE__, "ab\r\nc", CFile_E::typeBinary, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
         {__LINE__, "ab\r\ncde\n", 0, {L"ab", L"cde"}, 3, {L"ab", L"\n", L"cd", L"e\n"}},
         {__LINE__, "ab\r\nc", 0, {L"ab", L"c"}, 4, {L"ab\n", L"c"}},
-        {__LINE__,
-         "\u00e4\u4e2d\U0001F600\nx",
-         0,
-         {L"\u00e4\u4e2d\U0001F600", L"x"},
-         3,
-         {L"\u00e4\u4e2d", L"\U0001F600\n", L"x"}},
-        {__LINE__,
-         "\xEF\xBB\xBF"
-         "a\n",
-         0,
-         {L"a"},
-         8,
-         {L"a\n"}},
+        {__LINE__, "ä中😀\nx", 0, {L"ä中😀", L"x"}, 3, {L"ä中", L"😀\n", L"x"}},
+        {__LINE__, "\uFEFFa\n", 0, {L"a"}, 8, {L"a\n"}},
         {__LINE__, "a\xFF\n", 0, {L"a\uFFFD"}, 8, {L"a\uFFFD\n"}},
     };
     for (const auto& row : rows) {

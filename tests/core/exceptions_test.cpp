@@ -141,33 +141,16 @@ TEST(FileException, CausesOfErrnoNumbers)
 
 TEST(FileException, CausesOfOsErrors)
 {
-    const std::map<int, std::vector<int>> byCause = {
-        {0, {0}},
-        {2, {2, 6, 18, 107}},
-        {3,
-         {3, 15, 17, 34, 52, 53, 55, 67, 70, 85, 111, 123, 124, 125, 144, 154, 161, 206, 208, 267}},
-        {4, {4, 36, 68, 113}},
-        {5, {5, 12, 19, 29, 54, 58, 64, 65, 71, 80, 82, 86, 170, 183, 999}},
-        {6, {11, 26, 60, 66, 114, 182, 191, 193}},
-        {7, {16, 145}},
-        {8, {62}},
-        {9, {24, 25, 27, 30, 131, 132}},
-        {10, {20, 21, 22, 23, 57, 59, 88, 117, 995, 996, 997}},
-        {11, {32}},
-        {12, {33, 108, 167}},
-        {13, {39, 112}},
-        {14, {38}}};
-    std::map<int, int> expected;
-    for (const auto& [cause, numbers] : byCause) {
-        for (const int number : numbers)
-            expected[number] = cause;
-    }
-    for (const int n : {INT_MIN, -1, 1000, INT_MAX})
-        expected[n] = 1;
-    for (int n = 0; n < 1010; ++n)
-        expected.emplace(n, 1);
-    for (const auto& [number, cause] : expected)
+    const std::map<int, int> some = {{0, 0},   {18, 2},   {267, 3},  {113, 4},     {999, 5},
+                                     {193, 6}, {145, 7},  {62, 8},   {132, 9},     {997, 10},
+                                     {32, 11}, {167, 12}, {112, 13}, {38, 14},     {1, 1},
+                                     {998, 1}, {1000, 1}, {-1, 1},   {INT_MIN, 1}, {INT_MAX, 1}};
+    for (const auto& [number, cause] : some)
         EXPECT_EQ(CFileException_E::OsErrorToException(number), cause) << number;
+    int special = 0;
+    for (int n = 0; n < 1010; ++n)
+        special += CFileException_E::OsErrorToException(n) != CFileException_E::genericException;
+    EXPECT_EQ(special, 79);
 }
 
 TEST(FileException, ThrowsFromErrorNumbers)

@@ -23,10 +23,7 @@ Display* display()
 
 } // namespace
 
-bool onX11()
-{
-    return QGuiApplication::platformName() == QLatin1String("xcb") && display();
-}
+bool onX11() { return QGuiApplication::platformName() == QLatin1String("xcb") && display(); }
 
 bool showAndActivate(QWidget* window)
 {
@@ -58,7 +55,8 @@ void click(QWidget* widget, QPoint local, unsigned button)
 
 void setKey(unsigned long keysym, bool down)
 {
-    XTestFakeKeyEvent(display(), XKeysymToKeycode(display(), keysym), down ? True : False, CurrentTime);
+    XTestFakeKeyEvent(display(), XKeysymToKeycode(display(), keysym), down ? True : False,
+                      CurrentTime);
     XSync(display(), False);
 }
 

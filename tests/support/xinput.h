@@ -30,6 +30,6 @@ void closeWindow(QWidget* window);
 
 } // namespace vxtest
 
-#define VXTEST_NEEDS_X11()                                                                           \
-    if (!vxtest::onX11())                                                                            \
+#define VXTEST_NEEDS_X11()                                                                         \
+    if (!vxtest::onX11())                                                                          \
     GTEST_SKIP() << "needs an X display"

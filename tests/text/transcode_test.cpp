@@ -19,30 +19,13 @@ std::string failureOf(const std::function<void()>& action)
 
 TEST(Utf8, InvalidTextThrows)
 {
-    const char* const rows[] = {
-        "\x80",
-        "a\xBF",
-        "\xC0\x80",
-        "\xC1\xBF",
-        "\xC3",
-        "\xC3(",
-        "\xE0\x80\x80",
-        "\xE0\x9F\xBF",
-        "\xE4\xB8",
-        "ok \xE4",
-        "\xE4(\xAD",
-        "\xED\xA0\x80",
-        "\xED\xBF\xBF",
-        "\xF0\x80\x80\x80",
-        "\xF0\x8F\xBF\xBF",
-        "\xF0\x9F\x98",
-        "\xFF",
-        "\xF4\x90\x80\x80",
-        "\xF5\x80\x80\x80",
-        "\xF8\x88\x80\x80\x80",
-        "\xE4\xB8\xAD\xE4\xB8",
-    };
-    for (const char* bytes : rows) {
+    const QByteArray rows("\x80|a\xBF|\xC0\x80|\xC1\xBF|\xC3|\xC3(|\xE0\x80\x80|"
+                          "\xE0\x9F\xBF|\xE4\xB8|ok \xE4|\xE4(\xAD|\xED\xA0\x80|"
+                          "\xED\xBF\xBF|\xF0\x80\x80\x80|\xF0\x8F\xBF\xBF|\xF0\x9F\x98|\xFF|"
+                          "\xF4\x90\x80\x80|\xF5\x80\x80\x80|\xF8\x88\x80\x80\x80|"
+                          "\xE4\xB8\xAD\xE4\xB8");
+    for (const QByteArray& row : rows.split('|')) {
+        const char* const bytes = row.constData();
         EXPECT_EQ(failureOf([=] { CString_E s(bytes); }), "wstring_convert::from_bytes") << bytes;
         CString_E kept(L"kept");
         EXPECT_EQ(failureOf([&] { kept = bytes; }), "wstring_convert::from_bytes");

@@ -16,12 +16,16 @@ namespace {
 class TraceWidget : public QWidget
 {
 public:
-    explicit TraceWidget(QStringList& trace, QWidget* parent = nullptr) : QWidget(parent), m_trace(trace) {}
+    explicit TraceWidget(QStringList& trace, QWidget* parent = nullptr)
+        : QWidget(parent), m_trace(trace)
+    {
+    }
 
 protected:
     void keyPressEvent(QKeyEvent* e) override
     {
-        m_trace << (e->isAccepted() ? QStringLiteral("widget key") : QStringLiteral("widget ignored key"));
+        m_trace << (e->isAccepted() ? QStringLiteral("widget key")
+                                    : QStringLiteral("widget ignored key"));
     }
     void closeEvent(QCloseEvent*) override { m_trace << QStringLiteral("widget close"); }
     void wheelEvent(QWheelEvent*) override { m_trace << QStringLiteral("widget wheel"); }
@@ -77,11 +81,11 @@ private:
 };
 
 BEGIN_MESSAGE_MAP_E(TraceWnd, CWnd_E)
-    ON_WM_KEYDOWN_E()
-    ON_WM_CHAR_E()
-    ON_WM_CLOSE_E()
-    ON_WM_MOUSEWHEEL_E()
-    ON_MESSAGE_E(WM_APP + 1, &TraceWnd::OnSum)
+ON_WM_KEYDOWN_E()
+ON_WM_CHAR_E()
+ON_WM_CLOSE_E()
+ON_WM_MOUSEWHEEL_E()
+ON_MESSAGE_E(WM_APP + 1, &TraceWnd::OnSum)
 END_MESSAGE_MAP_E()
 
 class DispatchTest : public testing::Test
@@ -278,11 +282,13 @@ TEST(SetCursorTest, TheOutermostWindowThatWantsTheCursorWins)
         QWidget topWidget;
         auto* const middleWidget = new QWidget(&topWidget);
         auto* const childWidget = new QWidget(middleWidget);
-        CursorWnd top(trace, "top", row.top), middle(trace, "middle", row.middle), child(trace, "child", 3);
+        CursorWnd top(trace, "top", row.top), middle(trace, "middle", row.middle),
+            child(trace, "child", 3);
         top.SubclassWindow(&topWidget);
         middle.SubclassWindow(middleWidget);
         child.SubclassWindow(childWidget);
-        EXPECT_EQ(child.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(childWidget)), row.result);
+        EXPECT_EQ(child.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(childWidget)),
+                  row.result);
         EXPECT_EQ(trace.join(QLatin1Char(' ')), QLatin1String(row.calls));
     }
 }

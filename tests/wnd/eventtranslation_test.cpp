@@ -141,12 +141,10 @@ TEST_F(Translation, RefusesNullArguments)
 {
     tagMSG msg{};
     QCloseEvent close;
-    EXPECT_FALSE(vxQEventToMsg(nullptr, &close, &msg));
-    EXPECT_FALSE(vxQEventToMsg(&w, nullptr, &msg));
-    EXPECT_FALSE(vxQEventToMsg(&w, &close, nullptr));
-    EXPECT_FALSE(TranslateMessage(nullptr, &close, &msg));
-    EXPECT_FALSE(TranslateMessage(&w, nullptr, &msg));
-    EXPECT_FALSE(TranslateMessage(&w, &close, nullptr));
+    EXPECT_FALSE(vxQEventToMsg(nullptr, &close, &msg) || vxQEventToMsg(&w, nullptr, &msg) ||
+                 vxQEventToMsg(&w, &close, nullptr));
+    EXPECT_FALSE(TranslateMessage(nullptr, &close, &msg) || TranslateMessage(&w, nullptr, &msg) ||
+                 TranslateMessage(&w, &close, nullptr));
 }
 
 TEST_F(Translation, StampsTimeAndCursor)
@@ -298,37 +296,21 @@ TEST_F(Translation, MakesResizeEvents)
 
 TEST_F(Translation, CarriesOtherMessagesAsTheyAre)
 {
-    const struct
-    {
-        UINT message;
-        WPARAM wParam;
-    } rows[] = {{0, 1},
-                {6, 1},
-                {0xF, 0},
-                {0x10, 0},
-                {0x103, 65},
-                {0x105, 65},
-                {0x106, 65},
-                {0x1FF, 0},
-                {0x20A, 0},
-                {0x400, 7},
-                {0xFFFFFFFF, 0},
-                {0x100, 0},
-                {0x100, 0x6B},
-                {0x100, 0x100041},
-                {0x100, ~0UL},
-                {0x100, 0xFFFFFFFF},
-                {0x100, 0x100000041}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.message << ", " << row.wParam);
-        const EventPtr e(vxMsgToQEvent(&w, row.message, row.wParam, -9));
+    const auto check = [this](UINT message, WPARAM wParam) {
+        SCOPED_TRACE(testing::Message() << message << ", " << wParam);
+        const EventPtr e(vxMsgToQEvent(&w, message, wParam, -9));
         ASSERT_EQ(int(e->type()), 1128);
         const auto& event = static_cast<const VxWinMsgEvent&>(*e);
-        EXPECT_EQ(event.message, row.message);
-        EXPECT_EQ(event.wParam, row.wParam);
+        EXPECT_EQ(event.message, message);
+        EXPECT_EQ(event.wParam, wParam);
         EXPECT_EQ(event.lParam, -9);
         EXPECT_EQ(event.result, 0);
-    }
+    };
+    for (UINT message :
+         {0x0U, 0x6U, 0xFU, 0x10U, 0x103U, 0x105U, 0x106U, 0x1FFU, 0x20AU, 0x400U, ~0U})
+        check(message, 65);
+    for (WPARAM key : {0x0UL, 0x6BUL, 0x100041UL, ~0UL, 0xFFFFFFFFUL, 0x100000041UL})
+        check(0x100, key);
 }
 
 TEST_F(Translation, LeavesTheMessageBoxEventAlone)

@@ -7,6 +7,7 @@
 #include <climits>
 #include <cstdlib>
 #include <map>
+#include <set>
 
 namespace {
 
@@ -76,9 +77,6 @@ TEST(KeyTable, GivesEveryVirtualKeyTheLowestOfItsKeys)
     EXPECT_EQ(ansi_vk_to_qt_key(INT_MIN), -1);
     EXPECT_EQ(ansi_vk_to_qt_key(INT_MAX), -1);
     EXPECT_EQ(ansi_vk_to_qt_key(0x30), 0x29); // ")", not "0"
-    EXPECT_EQ(ansi_vk_to_qt_key(0x31), 0x21);
-    EXPECT_EQ(ansi_vk_to_qt_key(0x0D), Qt::Key_Return);
-    EXPECT_EQ(ansi_vk_to_qt_key(0xBB), Qt::Key_Plus);
 }
 
 TEST(KeyFlags, KeepWhatMessagesCanSay)
@@ -104,14 +102,12 @@ TEST(KeyFlags, KeepWhatMessagesCanSay)
 
 TEST(MapVirtualKey, IsTheCharacterItselfForPrintableCodes)
 {
-    int mapped = 0;
-    for (UINT code = 0; code < 1000; ++code)
-        mapped += MapVirtualKey_E(code, code % 5) == code && code != 0;
-    EXPECT_EQ(mapped, 4 + 95);
-    for (UINT code : {0x08U, 0x09U, 0x0AU, 0x0DU, 0x20U, 0x41U, 0x7EU})
-        EXPECT_EQ(MapVirtualKey_E(code, 2), code);
-    for (UINT code : {0x00U, 0x0BU, 0x1BU, 0x1FU, 0x7FU, 128U, 200U, 0xFFFFFFFFU})
-        EXPECT_EQ(MapVirtualKey_E(code, 0), 0U) << code;
+    const std::set<UINT> controls = {0x08, 0x09, 0x0A, 0x0D};
+    for (UINT code = 0; code < 1000; ++code) {
+        const bool printable = (code >= 0x20 && code < 0x7F) || controls.count(code);
+        EXPECT_EQ(MapVirtualKey_E(code, code % 5), printable ? code : 0U) << code;
+    }
+    EXPECT_EQ(MapVirtualKey_E(0xFFFFFFFFU, 0), 0U);
 }
 
 TEST(VkKeyScan, IsTheUpperCaseForm)

@@ -3,8 +3,8 @@
 
 #include "support/waiting.h"
 
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QScrollBar>
@@ -95,7 +95,8 @@ TEST(BindingTest, StyleWordsPlaceShowAndScroll)
 {
     QWidget parent;
     CWnd_E window;
-    ASSERT_TRUE(window.Create(WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, CRect_E(10, 20, 110, 100), &parent));
+    ASSERT_TRUE(
+        window.Create(WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, CRect_E(10, 20, 110, 100), &parent));
     EXPECT_EQ(window.GetSafeHwnd()->geometry(), QRect(10, 20, 100, 80));
     EXPECT_FALSE(window.GetSafeHwnd()->isHidden());
     EXPECT_EQ(window.GetSafeHwnd()->findChildren<QScrollBar*>().size(), 2);
@@ -152,7 +153,8 @@ TEST(FromHandleTest, IdleTimeClearsThePoolUnlessAHostCommandRuns)
     bool (*const isRunning)() = [] { return running; };
     QMainWindow frame;
     frame.setObjectName(QStringLiteral("CTolmMainFrame"));
-    frame.setProperty("IsTolmCmdActive", static_cast<qulonglong>(reinterpret_cast<quintptr>(isRunning)));
+    frame.setProperty("IsTolmCmdActive",
+                      static_cast<qulonglong>(reinterpret_cast<quintptr>(isRunning)));
     QWidget widget;
     const QPointer<CWnd_E> window(CWnd_E::FromHandle(&widget));
     int idles = 0;
@@ -205,7 +207,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP_E(DyingWnd, CWnd_E)
-    ON_WM_DESTROY_E()
+ON_WM_DESTROY_E()
 END_MESSAGE_MAP_E()
 
 TEST(DestroyTest, ParentsHearFirstAndEndLast)
@@ -217,7 +219,8 @@ TEST(DestroyTest, ParentsHearFirstAndEndLast)
     child->Create(parent->GetSafeHwnd());
     const QPointer<QWidget> widget(parent->GetSafeHwnd());
     EXPECT_TRUE(parent->DestroyWindow());
-    EXPECT_EQ(trace.join(QLatin1String(", ")), QStringLiteral("parent destroy, child destroy, child gone, parent gone"));
+    EXPECT_EQ(trace.join(QLatin1String(", ")),
+              QStringLiteral("parent destroy, child destroy, child gone, parent gone"));
     EXPECT_FALSE(DestroyWindow_E(nullptr));
     vxtest::deliverPosted();
     EXPECT_FALSE(widget);
@@ -246,9 +249,9 @@ private:
 };
 
 BEGIN_MESSAGE_MAP_E(ActingWnd, CWnd_E)
-    ON_WM_DESTROY_E()
-    ON_WM_SHOWWINDOW_E()
-    ON_WM_VSCROLL_E()
+ON_WM_DESTROY_E()
+ON_WM_SHOWWINDOW_E()
+ON_WM_VSCROLL_E()
 END_MESSAGE_MAP_E()
 
 TEST(DestroyTest, DestroyingAWindowAgainInItsOwnDestructionEnds)
@@ -278,7 +281,8 @@ TEST(DestroyTest, AWindowMayBeDestroyedByItsOwnScrollBar)
     QWidget top;
     for (const bool bDelete : {false, true}) {
         QPointer<ActingWnd> window;
-        window = new ActingWnd([&] { bDelete ? delete window : void(DestroyWindow_E(window->GetSafeHwnd())); });
+        window = new ActingWnd(
+            [&] { bDelete ? delete window : void(DestroyWindow_E(window->GetSafeHwnd())); });
         window->Create(WS_VSCROLL, CRect_E(0, 0, 100, 80), &top);
         const QPointer<QScrollBar> bar(window->GetSafeHwnd()->findChild<QScrollBar*>());
         bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
@@ -292,7 +296,16 @@ TEST(DestroyTest, AWindowMayBeDestroyedByItsOwnScrollBar)
 class SuicideWnd : public CWnd_E
 {
 public:
-    enum Way { DeleteWindow, DeleteWidget, DeleteBoth, DetachOnly, Destroy, Rebind, WayCount };
+    enum Way
+    {
+        DeleteWindow,
+        DeleteWidget,
+        DeleteBoth,
+        DetachOnly,
+        Destroy,
+        Rebind,
+        WayCount
+    };
     explicit SuicideWnd(int way) : m_way(way) {}
     LRESULT OnEnd(WPARAM, LPARAM)
     {
@@ -300,12 +313,25 @@ public:
             return 0;
         QWidget* const widget = GetSafeHwnd();
         switch (m_way) {
-        case DeleteWindow: delete this; break;
-        case DeleteWidget: delete widget; break;
-        case DeleteBoth: delete widget; delete this; break;
-        case DetachOnly: Detach(); break;
-        case Destroy: DestroyWindow(); break;
-        default: SubclassWindow(&m_other); break;
+        case DeleteWindow:
+            delete this;
+            break;
+        case DeleteWidget:
+            delete widget;
+            break;
+        case DeleteBoth:
+            delete widget;
+            delete this;
+            break;
+        case DetachOnly:
+            Detach();
+            break;
+        case Destroy:
+            DestroyWindow();
+            break;
+        default:
+            SubclassWindow(&m_other);
+            break;
         }
         return 1;
     }
@@ -325,21 +351,33 @@ private:
 };
 
 BEGIN_MESSAGE_MAP_E(SuicideWnd, CWnd_E)
-    ON_MESSAGE_E(WM_APP, &SuicideWnd::OnEnd)
-    ON_WM_KEYDOWN_E()
-    ON_WM_LBUTTONDOWN_E()
-    ON_WM_SIZE_E()
+ON_MESSAGE_E(WM_APP, &SuicideWnd::OnEnd)
+ON_WM_KEYDOWN_E()
+ON_WM_LBUTTONDOWN_E()
+ON_WM_SIZE_E()
 END_MESSAGE_MAP_E()
 
 void deliver(int how, QWidget* widget)
 {
     switch (how) {
-    case 0: SendMessage_E(widget, WM_APP); break;
-    case 1: PostMessage_E(widget, WM_APP); break;
-    case 2: SendMessage_E(widget, WM_KEYDOWN, 0x41); break;
-    case 3: PostMessage_E(widget, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 4)); break;
-    case 4: SendMessage_E(widget, WM_SIZE, 0, MAKELPARAM(60, 50)); break;
-    default: DestroyWindow_E(widget); break;
+    case 0:
+        SendMessage_E(widget, WM_APP);
+        break;
+    case 1:
+        PostMessage_E(widget, WM_APP);
+        break;
+    case 2:
+        SendMessage_E(widget, WM_KEYDOWN, 0x41);
+        break;
+    case 3:
+        PostMessage_E(widget, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 4));
+        break;
+    case 4:
+        SendMessage_E(widget, WM_SIZE, 0, MAKELPARAM(60, 50));
+        break;
+    default:
+        DestroyWindow_E(widget);
+        break;
     }
 }
 
@@ -370,13 +408,17 @@ TEST(DestroyTest, AWindowMayDieInsideItsOwnHandler)
 TEST(DestroyTest, RandomEventSequencesNeverCrash)
 {
     std::mt19937 random(20240229);
-    const auto pick = [&random](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    const auto pick = [&random](int n) {
+        return static_cast<int>(random() % static_cast<unsigned>(n));
+    };
     for (int round = 0; round < 200; ++round) {
         QWidget top;
         std::vector<QPointer<QWidget>> widgets;
         std::vector<QPointer<CWnd_E>> windows;
         for (int i = 0; i < 6; ++i) {
-            QWidget* const parent = i == 0 || !widgets.back() ? &top : widgets[static_cast<std::size_t>(pick(i))].data();
+            QWidget* const parent = i == 0 || !widgets.back()
+                                        ? &top
+                                        : widgets[static_cast<std::size_t>(pick(i))].data();
             auto* const mortal = new SuicideWnd(pick(SuicideWnd::WayCount));
             windows.emplace_back(mortal);
             windows.back()->AttachDefault(parent ? parent : &top);
@@ -388,7 +430,8 @@ TEST(DestroyTest, RandomEventSequencesNeverCrash)
             if (widgets[i])
                 deliver(pick(6), widgets[i]);
             if (windows[i] && pick(8) == 0)
-                windows[i]->PostEvent(new VxWinMsgEvent(WM_APP, 0, 0), Qt::NormalEventPriority, true);
+                windows[i]->PostEvent(new VxWinMsgEvent(WM_APP, 0, 0), Qt::NormalEventPriority,
+                                      true);
             if (pick(10) == 0)
                 delete widgets[i];
             if (pick(4) == 0)

@@ -34,7 +34,8 @@ struct Taker<Result(Args...)>
 {
     static AFX_PMSG_E pmf()
     {
-        return vx::detail::eraseHandler<Recorder, Result(Args...)>(&Recorder::Take<Result, Args...>);
+        return vx::detail::eraseHandler<Recorder, Result(Args...)>(
+            &Recorder::Take<Result, Args...>);
     }
 };
 
@@ -133,7 +134,8 @@ protected:
     bool dispatch(WPARAM wParam, LPARAM lParam, LRESULT& result)
     {
         return m_window.OnWndMsg(WM_APP, wParam == kWindow ? address() : wParam,
-                                 lParam == kWindow ? static_cast<LPARAM>(address()) : lParam, &result);
+                                 lParam == kWindow ? static_cast<LPARAM>(address()) : lParam,
+                                 &result);
     }
 
     Recorder m_window;
@@ -143,7 +145,8 @@ TEST_F(SignatureTest, UnpacksArgumentsAndPacksResults)
 {
     for (const Row& row : rows()) {
         for (const unsigned long signature : row.signatures) {
-            SCOPED_TRACE(testing::Message() << "row of line " << row.line << ", signature " << signature);
+            SCOPED_TRACE(testing::Message()
+                         << "row of line " << row.line << ", signature " << signature);
             m_window.AddMsgMapEntry(WM_APP, signature, row.pmf, nullptr);
             m_window.m_calls.clear();
             m_window.m_nGive = row.give;
@@ -179,7 +182,8 @@ TEST_F(SignatureTest, TheFormWithWindowObjectsIsCalledLastAndItsResultCounts)
     LRESULT result = 0;
     EXPECT_TRUE(dispatch(kWindow, kL, result));
     EXPECT_EQ(result, -3);
-    EXPECT_EQ(m_window.m_calls, QStringList({QStringLiteral("w fffd 8002"), QStringLiteral("E:w fffd 8002")}));
+    EXPECT_EQ(m_window.m_calls,
+              QStringList({QStringLiteral("w fffd 8002"), QStringLiteral("E:w fffd 8002")}));
 }
 
 TEST_F(SignatureTest, ANullResultPointerIsLeftAlone)

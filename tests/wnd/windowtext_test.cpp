@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 
 namespace {
@@ -24,39 +23,28 @@ Widget* named(QWidget* pParent, const char* name)
 
 TEST(WindowText, WhatTheTextIs)
 {
+    const auto pCombo = std::make_shared<QComboBox>();
+    pCombo->setEditable(true);
     struct
     {
         int line;
-        std::function<QWidget*()> make;
-        std::function<QString(QWidget*)> shown;
+        std::shared_ptr<QWidget> pWidget;
+        const char* property;
     } const rows[] = {
-        {__LINE__, [] { return new QWidget; }, [](QWidget* p) { return p->windowTitle(); }},
-        {__LINE__, [] { return new QDialog; }, [](QWidget* p) { return p->windowTitle(); }},
-        {__LINE__, [] { return new QPushButton; },
-         [](QWidget* p) { return static_cast<QPushButton*>(p)->text(); }},
-        {__LINE__, [] { return new QLineEdit; },
-         [](QWidget* p) { return static_cast<QLineEdit*>(p)->text(); }},
-        {__LINE__, [] { return new QLabel; },
-         [](QWidget* p) { return static_cast<QLabel*>(p)->text(); }},
-        {__LINE__, [] { return new QGroupBox; },
-         [](QWidget* p) { return static_cast<QGroupBox*>(p)->title(); }},
-        {__LINE__, [] { return new QTextEdit; },
-         [](QWidget* p) { return static_cast<QTextEdit*>(p)->toPlainText(); }},
-        {__LINE__, [] { return new QPlainTextEdit; },
-         [](QWidget* p) { return static_cast<QPlainTextEdit*>(p)->toPlainText(); }},
-        {__LINE__,
-         [] {
-             auto* const pCombo = new QComboBox;
-             pCombo->setEditable(true);
-             return pCombo;
-         },
-         [](QWidget* p) { return static_cast<QComboBox*>(p)->currentText(); }},
+        {__LINE__, std::make_shared<QWidget>(), "windowTitle"},
+        {__LINE__, std::make_shared<QDialog>(), "windowTitle"},
+        {__LINE__, std::make_shared<QPushButton>(), "text"},
+        {__LINE__, std::make_shared<QLineEdit>(), "text"},
+        {__LINE__, std::make_shared<QLabel>(), "text"},
+        {__LINE__, std::make_shared<QGroupBox>(), "title"},
+        {__LINE__, std::make_shared<QTextEdit>(), "plainText"},
+        {__LINE__, std::make_shared<QPlainTextEdit>(), "plainText"},
+        {__LINE__, pCombo, "currentText"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        const std::unique_ptr<QWidget> pWidget(row.make());
+    for (const auto& [line, pWidget, property] : rows) {
+        SCOPED_TRACE(line);
         EXPECT_TRUE(SetWindowText_E(pWidget.get(), L"<b>&x\x1F600"));
-        EXPECT_EQ(row.shown(pWidget.get()), QString::fromUtf8("<b>&x\xF0\x9F\x98\x80"));
+        EXPECT_EQ(pWidget->property(property), QString::fromUtf8("<b>&x\xF0\x9F\x98\x80"));
         EXPECT_EQ(GetWindowTextLength_E(pWidget.get()), 6);
         CString_E strText;
         EXPECT_EQ(GetWindowText_E(pWidget.get(), strText), 6);

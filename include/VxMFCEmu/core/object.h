@@ -1,12 +1,12 @@
 /// @file object.h
 /// The root of every emulated class: a `QObject` that wraps the Qt object doing the work.
 ///
-/// The wrapped object is the *implementation object*. It carries two dynamic properties: "owner", the
-/// address of its wrapper, and "parent", the address of the parent it was attached with.
+/// The wrapped object is the *implementation object*. It carries two dynamic properties: "owner",
+/// the address of its wrapper, and "parent", the address of the parent it was attached with.
 ///
 /// Ownership has three kinds. *Owned*: the wrapper schedules the implementation object for deletion
-/// when it lets go of it. *External*: it never deletes it. *Temporary*: the wrapper itself belongs to
-/// the temporary-object pool and goes at the next idle time.
+/// when it lets go of it. *External*: it never deletes it. *Temporary*: the wrapper itself belongs
+/// to the temporary-object pool and goes at the next idle time.
 ///
 /// Threads: GUI thread only.
 #pragma once
@@ -37,8 +37,8 @@ public:
     /// Called when the implementation object has been let go.
     virtual void OnDetach();
     /// Takes over the connections into @p pFrom: each one whose receiving method has a slot of the
-    /// same name and fitting arguments here is made to this object, and unless @p bKeepOld is set the
-    /// old one is removed. Connections to functors and to pointers to member are left alone.
+    /// same name and fitting arguments here is made to this object, and unless @p bKeepOld is set
+    /// the old one is removed. Connections to functors and to pointers to member are left alone.
     virtual void ConnectSlotsFrom(QObject* pFrom, bool bKeepOld);
     /// The record of this object's class.
     virtual CRuntimeClass_E* GetRuntimeClass() const;
@@ -51,9 +51,9 @@ public:
     QObject* GetImpQObject() const { return m_pImpQObject; }
     /// Stores @p pImp without any of Attach()'s work and returns the previous one.
     QObject* SetImpQObject(QObject* pImp);
-    /// Binds @p pImp with @p pParent as its "parent"; an earlier one is detached first. FALSE for null,
-    /// for an object of a Qt class that cannot implement this class (deleted unless @p bExternal) and
-    /// when OnAttach() refuses.
+    /// Binds @p pImp with @p pParent as its "parent"; an earlier one is detached first. FALSE for
+    /// null, for an object of a Qt class that cannot implement this class (deleted unless @p
+    /// bExternal) and when OnAttach() refuses.
     BOOL Attach(QObject* pImp, QObject* pParent, bool bExternal);
     /// Lets go of the implementation object; an owned one is deleted later by the event loop.
     void Detach();
@@ -69,13 +69,14 @@ public:
     bool IsKindOf(const char* pszClassName) const;
     /// Name of the class that the meta object gives.
     const char* GetClassName() const { return metaObject()->className(); }
-    /// Finds the first slot named exactly @p strName; FALSE, leaving @p method alone, if there is none.
+    /// Finds the first slot named exactly @p strName; FALSE, leaving @p method alone, if there is
+    /// none.
     BOOL FindSlotMethod(const QString& strName, QMetaMethod& method) const;
 
     static const QMetaObject* GetImpMetaObject();
     static QList<const QMetaObject*>* GetImpMetaList();
-    /// A new wrapper, owned by the caller, for the nearest registered class of @p pMeta's chain; null
-    /// when none is registered.
+    /// A new wrapper, owned by the caller, for the nearest registered class of @p pMeta's chain;
+    /// null when none is registered.
     static CObject_E* FromImpMetaObject(const QMetaObject* pMeta);
     /// The wrapper that @p pObject is bound to; null for null and for an unbound object.
     static CObject_E* GetOwner(QObject* pObject);
@@ -86,10 +87,11 @@ public:
                                            const QObject* pReceiver, const char* pszMethod,
                                            const QObject* pIgnored = nullptr,
                                            Qt::ConnectionType type = Qt::AutoConnection);
-    /// The same with the descendant of @p pParent that has the control id @p nID as sender; an invalid
-    /// connection when there is none.
-    static QMetaObject::Connection Connect(UINT nID, const char* pszSignal, const QObject* pReceiver,
-                                           const char* pszMethod, const QObject* pParent,
+    /// The same with the descendant of @p pParent that has the control id @p nID as sender; an
+    /// invalid connection when there is none.
+    static QMetaObject::Connection Connect(UINT nID, const char* pszSignal,
+                                           const QObject* pReceiver, const char* pszMethod,
+                                           const QObject* pParent,
                                            Qt::ConnectionType type = Qt::AutoConnection);
 
 public Q_SLOTS:
@@ -97,7 +99,8 @@ public Q_SLOTS:
     void OnImpDestroy();
 
 private:
-    friend VXMFC_EXPORT CHandleMap_E* afxMapHWND_E(BOOL bCreate); // a window's handle is this pointer
+    // A window's handle is this pointer.
+    friend VXMFC_EXPORT CHandleMap_E* afxMapHWND_E(BOOL bCreate);
     static constexpr UINT ExternalFlag = 1;
     static constexpr UINT TemporaryFlag = 2;
 

@@ -1,9 +1,9 @@
 /// @file runtimeclass.h
 /// Class records and the dynamic-creation registry.
 ///
-/// The identity of a class is its `QMetaObject`. A class record pairs it with the Qt class that does
-/// the work and, for classes that can be made at run time, a factory. The registry maps Qt classes to
-/// factories, so that a wrapper can be made for a Qt object that came from elsewhere.
+/// The identity of a class is its `QMetaObject`. A class record pairs it with the Qt class that
+/// does the work and, for classes that can be made at run time, a factory. The registry maps Qt
+/// classes to factories, so that a wrapper can be made for a Qt object that came from elsewhere.
 ///
 /// A class gets its record from two macros, the same for this library and for applications:
 /// @code
@@ -11,8 +11,8 @@
 /// IMPLEMENT_DYNCREATE_E(CGauge, CWnd_E, QProgressBar)                          // source
 /// @endcode
 ///
-/// Differs from Win32: a class without `Q_OBJECT` has its nearest base's meta object, and `IsKindOf`
-/// cannot tell it from that base. This is intended.
+/// Differs from Win32: a class without `Q_OBJECT` has its nearest base's meta object, and
+/// `IsKindOf` cannot tell it from that base. This is intended.
 ///
 /// Threads: GUI thread only; records are built and destroyed by static initialisers.
 #pragma once
@@ -36,8 +36,8 @@ extern VXMFC_EXPORT std::map<const QMetaObject*, VxCreateObjectFn, std::less<>> 
 class VXMFC_EXPORT CRuntimeClass_E
 {
 public:
-    /// Stores the record and registers @p pfnCreateObject for @p pImpMetaObject, or for each entry of
-    /// @p pImpMetaList when there is one; a Qt class equal to @p pBaseImpMetaObject is left out.
+    /// Stores the record and registers @p pfnCreateObject for @p pImpMetaObject, or for each entry
+    /// of @p pImpMetaList when there is one; a Qt class equal to @p pBaseImpMetaObject is left out.
     /// Takes ownership of the list. @p nObjectSize is the size of one instance in bytes.
     CRuntimeClass_E(const QMetaObject* pMetaObject, const QMetaObject* pImpMetaObject,
                     const QMetaObject* pBaseImpMetaObject, VxCreateObjectFn pfnCreateObject,
@@ -63,11 +63,13 @@ public:
     /// Whether an object of Qt class @p pMeta can implement this class; false for null.
     bool IsMyImpMeta(const QMetaObject* pMeta) const;
 
-    /// A new list, owned by the caller, of every argument up to the first null one, which must be there.
+    /// A new list, owned by the caller, of every argument up to the first null one, which must be
+    /// there.
     static QList<const QMetaObject*>* CreateMetaList(const QMetaObject* pFirst, ...);
-    /// Enters a factory for a Qt class. Returns false, changing nothing, for a null factory and for a
-    /// class that has one already: the first registration wins.
-    static bool RegisterCreateObjectMethod(const QMetaObject* pMeta, VxCreateObjectFn pfnCreateObject);
+    /// Enters a factory for a Qt class. Returns false, changing nothing, for a null factory and for
+    /// a class that has one already: the first registration wins.
+    static bool RegisterCreateObjectMethod(const QMetaObject* pMeta,
+                                           VxCreateObjectFn pfnCreateObject);
 
 private:
     void UnregisterFrom(const QMetaObject* pMeta) const;
@@ -83,55 +85,44 @@ private:
 #define RUNTIME_CLASS_E(theClass) (&theClass::s_classInfo)
 
 /// In a class body: the members every class with a record has. Leaves the access at `public`.
-#define DECLARE_DYNAMIC_E(theClass)                                                                  \
-public:                                                                                              \
-    static CRuntimeClass_E s_classInfo;                                                              \
-    CRuntimeClass_E* GetRuntimeClass() const override;                                               \
-    static const QMetaObject* GetImpMetaObject();                                                    \
+#define DECLARE_DYNAMIC_E(theClass)                                                                \
+public:                                                                                            \
+    static CRuntimeClass_E s_classInfo;                                                            \
+    CRuntimeClass_E* GetRuntimeClass() const override;                                             \
+    static const QMetaObject* GetImpMetaObject();                                                  \
     static QList<const QMetaObject*>* GetImpMetaList();
 
 /// As DECLARE_DYNAMIC_E, for a class with a default constructor that can be made at run time.
-#define DECLARE_DYNCREATE_E(theClass)                                                                \
-    DECLARE_DYNAMIC_E(theClass)                                                                      \
+#define DECLARE_DYNCREATE_E(theClass)                                                              \
+    DECLARE_DYNAMIC_E(theClass)                                                                    \
     static CObject_E* CreateObject();
 
-#define VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, pBaseImp, qtClass, pfnCreate, pList)                 \
-    CRuntimeClass_E* theClass::GetRuntimeClass() const                                               \
-    {                                                                                                \
-        return &theClass::s_classInfo;                                                               \
-    }                                                                                                \
-    const QMetaObject* theClass::GetImpMetaObject()                                                  \
-    {                                                                                                \
-        return &qtClass::staticMetaObject;                                                           \
-    }                                                                                                \
-    QList<const QMetaObject*>* theClass::GetImpMetaList()                                            \
-    {                                                                                                \
-        return pList;                                                                                \
-    }                                                                                                \
-    CRuntimeClass_E theClass::s_classInfo(&theClass::staticMetaObject, theClass::GetImpMetaObject(), \
-                                          pBaseImp, pfnCreate, theClass::GetImpMetaList(),           \
-                                          static_cast<int>(sizeof(theClass)));
+#define VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, pBaseImp, qtClass, pfnCreate, pList)               \
+    CRuntimeClass_E* theClass::GetRuntimeClass() const { return &theClass::s_classInfo; }          \
+    const QMetaObject* theClass::GetImpMetaObject() { return &qtClass::staticMetaObject; }         \
+    QList<const QMetaObject*>* theClass::GetImpMetaList() { return pList; }                        \
+    CRuntimeClass_E theClass::s_classInfo(                                                         \
+        &theClass::staticMetaObject, theClass::GetImpMetaObject(), pBaseImp, pfnCreate,            \
+        theClass::GetImpMetaList(), static_cast<int>(sizeof(theClass)));
 
-#define VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                      \
-    CObject_E* theClass::CreateObject()                                                              \
-    {                                                                                                \
-        return new theClass;                                                                         \
-    }
+#define VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                    \
+    CObject_E* theClass::CreateObject() { return new theClass; }
 
 /// In a source file: the record of a class that cannot be made at run time.
-#define IMPLEMENT_DYNAMIC_E(theClass, baseClass, qtClass)                                            \
-    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(), qtClass, nullptr, nullptr)
+#define IMPLEMENT_DYNAMIC_E(theClass, baseClass, qtClass)                                          \
+    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(), qtClass, nullptr,       \
+                                  nullptr)
 
 /// In a source file: the record and the factory of a class over one Qt class.
-#define IMPLEMENT_DYNCREATE_E(theClass, baseClass, qtClass)                                          \
-    VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                          \
-    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(), qtClass,                  \
+#define IMPLEMENT_DYNCREATE_E(theClass, baseClass, qtClass)                                        \
+    VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                        \
+    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(), qtClass,                \
                                   &theClass::CreateObject, nullptr)
 
 /// As IMPLEMENT_DYNCREATE_E, for a class that several Qt classes can implement: the meta objects
 /// follow @p qtClass, which is the one that GetImpMetaObject() names.
-#define IMPLEMENT_DYNCREATE_LIST_E(theClass, baseClass, qtClass, ...)                                \
-    VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                          \
-    VXMFC_IMPLEMENT_RUNTIME_CLASS(                                                                   \
-        theClass, baseClass::GetImpMetaObject(), qtClass, &theClass::CreateObject,                   \
+#define IMPLEMENT_DYNCREATE_LIST_E(theClass, baseClass, qtClass, ...)                              \
+    VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                        \
+    VXMFC_IMPLEMENT_RUNTIME_CLASS(                                                                 \
+        theClass, baseClass::GetImpMetaObject(), qtClass, &theClass::CreateObject,                 \
         CRuntimeClass_E::CreateMetaList(__VA_ARGS__, static_cast<const QMetaObject*>(nullptr)))

@@ -2,7 +2,11 @@
 /// Message maps: which member of a window class handles which message.
 ///
 /// @code
-/// class CCanvas : public CWnd_E { ... void OnLButtonDown(UINT, CPoint_E); DECLARE_MESSAGE_MAP_E() };
+/// class CCanvas : public CWnd_E {
+///     void OnLButtonDown(UINT, CPoint_E);
+///     LRESULT OnResult(WPARAM, LPARAM);
+///     DECLARE_MESSAGE_MAP_E()
+/// };
 ///
 /// BEGIN_MESSAGE_MAP_E(CCanvas, CWnd_E)
 ///     ON_WM_LBUTTONDOWN_E()
@@ -11,8 +15,9 @@
 /// @endcode
 ///
 /// A handler has exactly the signature that MFC documents for it; another one does not compile. A
-/// handler that takes a window comes in two forms: `OnSetFocus(QWidget*)` and `OnSetFocus_E(CWnd_E*)`.
-/// A class writes the one it likes, or both; the second form is called last and its result counts.
+/// handler that takes a window comes in two forms: `OnSetFocus(QWidget*)` and
+/// `OnSetFocus_E(CWnd_E*)`. A class writes the one it likes, or both; the second form is called
+/// last and its result counts.
 ///
 /// Differs from MFC: a number has one entry per window, the last one registered; there is no way to
 /// the base class's handler but calling it; the maps are filled when the window is attached.
@@ -30,9 +35,9 @@ using AFX_PMSG_E = void (CWnd_E::*)();
 /// One entry of a window's message map.
 struct AFX_MSGMAP_ENTRY_E
 {
-    unsigned long nSig = 0;      ///< number of the signature, which says how arguments are unpacked
-    AFX_PMSG_E pfn = nullptr;    ///< takes `QWidget*` for windows, or has no windows at all
-    AFX_PMSG_E pfnE = nullptr;   ///< takes `CWnd_E*` for windows; null when there is none
+    unsigned long nSig = 0;    ///< number of the signature, which says how arguments are unpacked
+    AFX_PMSG_E pfn = nullptr;  ///< takes `QWidget*` for windows, or has no windows at all
+    AFX_PMSG_E pfnE = nullptr; ///< takes `CWnd_E*` for windows; null when there is none
 };
 
 namespace vx::detail {
@@ -45,8 +50,8 @@ struct Member<Class, Result(Args...)>
     using Type = Result (Class::*)(Args...);
 };
 
-/// A handler under another signature. GCC warns of the plain cast between pointers to member, and an
-/// application's message map is compiled with the application's warnings.
+/// A handler under another signature. GCC warns of the plain cast between pointers to member, and
+/// an application's message map is compiled with the application's warnings.
 template <typename To, typename From>
 To castHandler(From pfn)
 {
@@ -63,8 +68,8 @@ AFX_PMSG_E eraseHandler(typename Member<Class, Fn>::Type pfn)
     return castHandler<AFX_PMSG_E>(static_cast<typename Member<CWnd_E, Fn>::Type>(pfn));
 }
 
-/// The entry of a handler with two forms. A form that is still CWnd_E's own default is left out when
-/// the class wrote the other one: the default would pass the event on although it was handled.
+/// The entry of a handler with two forms. A form that is still CWnd_E's own default is left out
+/// when the class wrote the other one: the default would pass the event on although it was handled.
 inline AFX_MSGMAP_ENTRY_E pairEntry(unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnDefault,
                                     AFX_PMSG_E pfnE, AFX_PMSG_E pfnDefaultE)
 {
@@ -76,38 +81,41 @@ inline AFX_MSGMAP_ENTRY_E pairEntry(unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG
 } // namespace vx::detail
 
 /// In a class body: declares the message map. Leaves the access at `protected`.
-#define DECLARE_MESSAGE_MAP_E()                                                                      \
-protected:                                                                                           \
+#define DECLARE_MESSAGE_MAP_E()                                                                    \
+protected:                                                                                         \
     void OnMessageMap() override;
 
 /// In a source file: begins the message map of @p theClass, which continues that of @p baseClass.
-#define BEGIN_MESSAGE_MAP_E(theClass, baseClass)                                                     \
-    void theClass::OnMessageMap()                                                                    \
-    {                                                                                                \
-        using ThisClass_E [[maybe_unused]] = theClass;                                               \
+#define BEGIN_MESSAGE_MAP_E(theClass, baseClass)                                                   \
+    void theClass::OnMessageMap()                                                                  \
+    {                                                                                              \
+        using ThisClass_E [[maybe_unused]] = theClass;                                             \
         baseClass::OnMessageMap();
 
 /// Ends the message map.
 #define END_MESSAGE_MAP_E() }
 
 /// Any message, to `LRESULT handler(WPARAM, LPARAM)`.
-#define ON_MESSAGE_E(message, memberFn)                                                              \
-    this->AddMsgMapEntry(                                                                            \
-        message, 14, vx::detail::eraseHandler<ThisClass_E, LRESULT(WPARAM, LPARAM)>(memberFn), nullptr);
+#define ON_MESSAGE_E(message, memberFn)                                                            \
+    this->AddMsgMapEntry(message, 14,                                                              \
+                         vx::detail::eraseHandler<ThisClass_E, LRESULT(WPARAM, LPARAM)>(memberFn), \
+                         nullptr);
 /// A message whose number is known at run time only, held in @p variable.
 #define ON_REGISTERED_MESSAGE_E(variable, memberFn) ON_MESSAGE_E(variable, memberFn)
 
-#define VXMFC_ON_WM(message, nSig, handler, ...)                                                     \
-    this->AddMsgMapEntry(                                                                            \
-        message, nSig,                                                                               \
-        vx::detail::eraseHandler<ThisClass_E, __VA_ARGS__>(&ThisClass_E::handler), nullptr);
+#define VXMFC_ON_WM(message, nSig, handler, ...)                                                   \
+    this->AddMsgMapEntry(                                                                          \
+        message, nSig, vx::detail::eraseHandler<ThisClass_E, __VA_ARGS__>(&ThisClass_E::handler),  \
+        nullptr);
 
-#define VXMFC_ON_WM_PAIR(message, nSig, handler, fn, fnE)                                            \
-    this->AddMsgMapEntry(message, vx::detail::pairEntry(                                             \
-        nSig, vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fn>(&ThisClass_E::handler),         \
-        vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fn>(&CWnd_E::handler),                         \
-        vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fnE>(&ThisClass_E::handler##_E),          \
-        vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fnE>(&CWnd_E::handler##_E)));
+#define VXMFC_ON_WM_PAIR(message, nSig, handler, fn, fnE)                                          \
+    this->AddMsgMapEntry(                                                                          \
+        message,                                                                                   \
+        vx::detail::pairEntry(                                                                     \
+            nSig, vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fn>(&ThisClass_E::handler),   \
+            vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fn>(&CWnd_E::handler),                   \
+            vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fnE>(&ThisClass_E::handler##_E),    \
+            vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fnE>(&CWnd_E::handler##_E)));
 #define VXMFC_UNPACK(...) __VA_ARGS__
 
 // clang-format off

@@ -2,7 +2,8 @@
 /// Control ids and control names: the id map of the calling plug-in.
 ///
 /// A plug-in carries the map as the INI-format Qt resource ":/R/RIDs", where R is its resource base
-/// name (see GetMfyResourceName()). Each key is a decimal id, each value a Qt object name, in UTF-8.
+/// name (see GetMfyResourceName()). Each key is a decimal id, each value a Qt object name, in
+/// UTF-8.
 ///
 /// Threads: GUI thread only.
 #pragma once

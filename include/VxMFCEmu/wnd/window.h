@@ -1,17 +1,18 @@
 /// @file window.h
 /// CWnd_E: the MFC window interface over a widget.
 ///
-/// A CWnd_E is bound to one widget and is neither its parent nor its child. It owns the widget when it
-/// made it (Create, AttachDefault) and lets it live when it was given it (SubclassWindow, FromHandle).
-/// The widget's events pass through the window's event filter, which turns them into messages for the
-/// handlers of its message map (see messagemap.h) before the widget itself sees them.
+/// A CWnd_E is bound to one widget and is neither its parent nor its child. It owns the widget when
+/// it made it (Create, AttachDefault) and lets it live when it was given it (SubclassWindow,
+/// FromHandle). The widget's events pass through the window's event filter, which turns them into
+/// messages for the handlers of its message map (see messagemap.h) before the widget itself sees
+/// them.
 ///
-/// Differs from MFC: DestroyWindow() hides the widget, and an owned one is deleted later by the event
-/// loop; a non-zero result of OnCreate(), not only -1, makes creation fail; binding a window to a
-/// widget changes nothing in how the widget works until a handler is written.
+/// Differs from MFC: DestroyWindow() hides the widget, and an owned one is deleted later by the
+/// event loop; a non-zero result of OnCreate(), not only -1, makes creation fail; binding a window
+/// to a widget changes nothing in how the widget works until a handler is written.
 ///
-/// Members that have a free function of the same name behave as it does, for the bound widget; unbound
-/// windows give the result for a null handle.
+/// Members that have a free function of the same name behave as it does, for the bound widget;
+/// unbound windows give the result for a null handle.
 ///
 /// Threads: GUI thread only.
 #pragma once
@@ -56,8 +57,8 @@ class VXMFC_EXPORT CWnd_E : public CCmdTarget_E
 
     // Binding
 
-    /// Hands the window to OnCreate(), takes over the widget's incoming connections, fills the message
-    /// map. FALSE when OnCreate() gives anything but 0.
+    /// Hands the window to OnCreate(), takes over the widget's incoming connections, fills the
+    /// message map. FALSE when OnCreate() gives anything but 0.
     BOOL OnAttach() override;
     using CCmdTarget_E::AttachDefault;
 
@@ -72,14 +73,16 @@ public:
     virtual void SetupUI();
     /// Lays out what lies along the window's edges: its menu bar and scroll bars.
     virtual void RecalcLayout();
-    /// Makes the window's widget below @p pParent, or below the host's main frame when that is null.
+    /// Makes the window's widget below @p pParent, or below the host's main frame when that is
+    /// null.
     virtual BOOL Create(QWidget* pParent);
-    /// The same with a WS_* style word: WS_VISIBLE shows, WS_VSCROLL and WS_HSCROLL add scroll bars.
+    /// The same with a WS_* style word: WS_VISIBLE shows, WS_VSCROLL and WS_HSCROLL add scroll
+    /// bars.
     BOOL Create(UINT dwStyle, QWidget* pParent);
     /// The same, placed at @p rect, in the parent's coordinates.
     BOOL Create(UINT dwStyle, const tagRECT& rect, QWidget* pParent);
-    /// Hides the window and sends it and its children WM_DESTROY and WM_NCDESTROY. The window may be
-    /// gone afterwards (`delete this` in PostNcDestroy()).
+    /// Hides the window and sends it and its children WM_DESTROY and WM_NCDESTROY. The window may
+    /// be gone afterwards (`delete this` in PostNcDestroy()).
     virtual BOOL DestroyWindow();
     /// Called as the last thing of a window's life; empty here.
     virtual void PostNcDestroy();
@@ -89,8 +92,8 @@ public:
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// Moves data between members and controls; empty here.
     virtual void DoDataExchange(CDataExchange_E* pDX);
-    /// Shows the entries of one menu in the window's menu bar, which the window owns; the menu stays
-    /// its owner's. Null takes the menu bar away. FALSE without a widget.
+    /// Shows the entries of one menu in the window's menu bar, which the window owns; the menu
+    /// stays its owner's. Null takes the menu bar away. FALSE without a widget.
     virtual BOOL SetMenu(CMenu_E* pMenu);
     /// Shows each menu under its own title; an empty list takes the menu bar away.
     virtual BOOL SetMenu(QList<CMenu_E*> menus);
@@ -129,11 +132,12 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
     BOOL SendEvent(QEvent* e);
-    /// Posts @p e, which is owned by the event loop from then on, also on failure. With @p bCompress it
-    /// is dropped, giving FALSE, while one of its type posted this way has not been dispatched yet.
+    /// Posts @p e, which is owned by the event loop from then on, also on failure. With @p
+    /// bCompress it is dropped, giving FALSE, while one of its type posted this way has not been
+    /// dispatched yet.
     BOOL PostEvent(QEvent* e, int nPriority, bool bCompress);
-    /// Sets the accepted flag of the event being dispatched to this window; a handler that clears it
-    /// lets the event go on to the widget.
+    /// Sets the accepted flag of the event being dispatched to this window; a handler that clears
+    /// it lets the event go on to the widget.
     void SetCurrentEventAccepted(bool bAccepted);
     bool eventFilter(QObject* watched, QEvent* e) override;
 
@@ -146,7 +150,8 @@ public:
     CWnd_E* GetDlgItem(int nID) const;
     QWidget* GetDlgItem(int nID, QWidget** ppWidget) const;
     int GetDlgCtrlID() const;
-    /// Renames the widget to the name of @p nID and returns the id it had; an unknown id clears the name.
+    /// Renames the widget to the name of @p nID and returns the id it had; an unknown id clears the
+    /// name.
     int SetDlgCtrlID(int nID);
     BOOL SetDlgItemText(int nID, const wchar_t* lpszString);
     BOOL SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
@@ -203,8 +208,8 @@ public:
     static CWnd_E* GetDesktopWindow();
     static CWnd_E* WindowFromPoint(tagPOINT point);
 
-    // Scroll bars: made by ShowScrollBar(), owned by the window, along its right and bottom edges. Each
-    // use of one sends the window WM_HSCROLL or WM_VSCROLL.
+    // Scroll bars: made by ShowScrollBar(), owned by the window, along its right and bottom edges.
+    // Each use of one sends the window WM_HSCROLL or WM_VSCROLL.
 
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
     BOOL EnableScrollBar(int nBar, UINT nArrowFlags = 0);
@@ -225,8 +230,8 @@ public Q_SLOTS:
     void OnEnterIdle();
 
 public:
-    // Message handlers. These defaults clear the current event's accepted flag, so that the event goes
-    // on to the widget; call them to have a message handled in the widget's own way.
+    // Message handlers. These defaults clear the current event's accepted flag, so that the event
+    // goes on to the widget; call them to have a message handled in the widget's own way.
 
     // Life of the window
     /// Takes away the scroll bars and the menu bar, which the event loop deletes.
@@ -408,7 +413,8 @@ private:
     struct PendingEvent
     {
         QEvent* event;
-        QEvent::Type type; // of its own: an event that others consumed or dropped is not touched again
+        QEvent::Type
+            type; // of its own: an event that others consumed or dropped is not touched again
     };
 
     template <typename Result>
@@ -416,7 +422,12 @@ private:
     void PassOn();
     bool DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* watched, QEvent* e,
                          tagMSG& msg);
-    enum class Offer { Taken, Refused, WindowGone };
+    enum class Offer
+    {
+        Taken,
+        Refused,
+        WindowGone
+    };
     Offer OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     void FillIfSeen(tagMSG& msg) const;
     void ForgetPending(const QEvent* e);
@@ -440,7 +451,7 @@ private:
 VXMFC_EXPORT class CHandleMap_E* afxMapHWND_E(BOOL bCreate);
 
 /// Hides a window and tells it and its children, from the top down, that it ends: each permanent
-/// CWnd_E gets WM_DESTROY before its children and WM_NCDESTROY after them. The widget itself is deleted
-/// later, and only when its CWnd_E owns it. FALSE for null; nothing for a window that is just being
-/// destroyed.
+/// CWnd_E gets WM_DESTROY before its children and WM_NCDESTROY after them. The widget itself is
+/// deleted later, and only when its CWnd_E owns it. FALSE for null; nothing for a window that is
+/// just being destroyed.
 VXMFC_EXPORT BOOL DestroyWindow_E(QWidget* pWidget);
