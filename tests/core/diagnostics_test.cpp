@@ -169,6 +169,14 @@ TEST_F(LogTest, FoldersLieAroundTheExecutable)
     EXPECT_EQ(Run({QStringLiteral("folders")}), root + "/bin\n" + root + "\n");
 }
 
+TEST_F(LogTest, StaticObjectsLogWhileTheyDie)
+{
+    Run({QStringLiteral("exit")});
+    const QString log = Log();
+    EXPECT_EQ(log.count(u'\n'), 2);
+    EXPECT_TRUE(log.endsWith(QStringLiteral("] last\n"))) << log.toStdString();
+}
+
 TEST_F(LogTest, AppendsTimedLinesAndKeepsTextAsItIs)
 {
     const QString odd = QStringLiteral("%1 %2 %s \u00e9\u4e2d\U0001F600");
