@@ -84,7 +84,8 @@ int openDescriptor(const QString& name, UINT nOpenFlags)
 
 CFile_E::CFile_E() = default;
 
-CFile_E::CFile_E(const wchar_t* lpszFileName, UINT nOpenFlags)
+// Through the other constructor, so that the destructor runs when opening throws.
+CFile_E::CFile_E(const wchar_t* lpszFileName, UINT nOpenFlags) : CFile_E()
 {
     if (!OpenFile(lpszFileName, nOpenFlags, nullptr, QIODevice::Unbuffered))
         throwErrno(lastErrno(), lpszFileName);

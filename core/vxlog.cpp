@@ -14,23 +14,18 @@
 
 namespace {
 
-QString readExecutableLink()
-{
-    std::array<char, 1024> path{};
-    if (::readlink("/proc/self/exe", path.data(), path.size() - 1) < 0)
-        return {};
-    return QString::fromLatin1(
-        path.data()); // Intended: Latin-1, whatever the file system's encoding.
-}
+using LinkText = std::array<char, 1024>;
 
-const CString_E& applicationDirectory()
+/// Read once. A plain array, which is still there when the destructors of static objects log.
+const LinkText& executableLink()
 {
-    static const CString_E directory = [] {
-        CString_E path(readExecutableLink());
-        const int slash = path.ReverseFind(L'/');
-        return slash < 0 ? path : path.Left(slash);
+    static const LinkText link = [] {
+        LinkText path{};
+        if (::readlink("/proc/self/exe", path.data(), path.size() - 1) < 0)
+            path.front() = '\0';
+        return path;
     }();
-    return directory;
+    return link;
 }
 
 /// Appends in as few writes as the system takes, normally one.
@@ -55,13 +50,19 @@ void appendToFile(const char* path, const QByteArray& bytes)
 
 } // namespace
 
-CString_E GetApplicationDirectory(void*) { return applicationDirectory(); }
+CString_E GetApplicationDirectory(void*)
+{
+    // Intended: Latin-1, whatever the file system's encoding.
+    const CString_E path(QString::fromLatin1(executableLink().data()));
+    const int slash = path.ReverseFind(L'/');
+    return slash < 0 ? path : path.Left(slash);
+}
 
 CString_E GetMainDirectory()
 {
     // Intended: a character is dropped before the search, so that a trailing separator does not
     // count.
-    CString_E directory = applicationDirectory();
+    CString_E directory = GetApplicationDirectory(nullptr);
     directory = directory.Left(directory.GetLength() - 1).ToUnixSeperator();
     return directory.Left(directory.ReverseFind(L'/'));
 }
@@ -74,7 +75,7 @@ void vxLogPrintf(const wchar_t* lpszFormat, ...)
     message.FormatV(lpszFormat, args);
     va_end(args);
 
-    static const QByteArray path =
+    const QByteArray path =
         QFile::encodeName(VxQString(GetMainDirectory()) + QLatin1String("/Common/Plok.log"));
     static std::mutex mutex;
     const std::lock_guard lock(mutex);

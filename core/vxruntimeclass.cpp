@@ -1,6 +1,10 @@
 #include <VxMFCEmu/core/object.h>
 
+#include "core/vxcreateregistry_p.h"
+
 #include <cstdarg>
+
+using vx::detail::g_mapRegistrants;
 
 CRuntimeClass_E::CRuntimeClass_E(const QMetaObject* pMetaObject, const QMetaObject* pImpMetaObject,
                                  const QMetaObject* pBaseImpMetaObject,
@@ -13,8 +17,8 @@ CRuntimeClass_E::CRuntimeClass_E(const QMetaObject* pMetaObject, const QMetaObje
       m_nObjectSize(nObjectSize)
 {
     const auto registerUnlessBase = [&](const QMetaObject* pMeta) {
-        if (pMeta != pBaseImpMetaObject)
-            RegisterCreateObjectMethod(pMeta, pfnCreateObject);
+        if (pMeta != pBaseImpMetaObject && RegisterCreateObjectMethod(pMeta, pfnCreateObject))
+            g_mapRegistrants[pMeta] = this;
     };
     if (!pImpMetaList) {
         registerUnlessBase(pImpMetaObject);
@@ -26,10 +30,16 @@ CRuntimeClass_E::CRuntimeClass_E(const QMetaObject* pMetaObject, const QMetaObje
 
 CRuntimeClass_E::~CRuntimeClass_E()
 {
-    UnregisterFrom(m_pImpMetaObject);
-    if (m_pImpMetaList) {
-        for (const QMetaObject* pMeta : *m_pImpMetaList)
-            UnregisterFrom(pMeta);
+    for (auto it = g_mapRegistrants.begin(); it != g_mapRegistrants.end();) {
+        if (it->second != this) {
+            ++it;
+            continue;
+        }
+        // Somebody may have put another factory in its place.
+        const auto entry = g_mapCreateMethod.find(it->first);
+        if (entry != g_mapCreateMethod.end() && entry->second == m_pfnCreateObject)
+            g_mapCreateMethod.erase(entry);
+        it = g_mapRegistrants.erase(it);
     }
     delete m_pImpMetaList;
 }
@@ -69,11 +79,4 @@ bool CRuntimeClass_E::RegisterCreateObjectMethod(const QMetaObject* pMeta,
                                                  VxCreateObjectFn pfnCreateObject)
 {
     return pfnCreateObject && g_mapCreateMethod.emplace(pMeta, pfnCreateObject).second;
-}
-
-void CRuntimeClass_E::UnregisterFrom(const QMetaObject* pMeta) const
-{
-    const auto it = g_mapCreateMethod.find(pMeta);
-    if (it != g_mapCreateMethod.end() && it->second == m_pfnCreateObject)
-        g_mapCreateMethod.erase(it);
 }

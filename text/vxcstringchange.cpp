@@ -123,16 +123,16 @@ int CString_E::Delete(int nIndex, int nCount)
     return GetLength();
 }
 
-CString_E& CString_E::TrimLeft(const wchar_t* set)
+CString_E& CString_E::TrimLeftOf(std::wstring_view set)
 {
-    m_text.erase(0, std::min(m_text.find_first_not_of(orEmpty(set)), m_text.size()));
+    m_text.erase(0, std::min(m_text.find_first_not_of(set), m_text.size()));
     return *this;
 }
 
-CString_E& CString_E::TrimRight(const wchar_t* set)
+CString_E& CString_E::TrimRightOf(std::wstring_view set)
 {
     // Without any character to keep, npos + 1 is 0.
-    m_text.resize(m_text.find_last_not_of(orEmpty(set)) + 1);
+    m_text.resize(m_text.find_last_not_of(set) + 1);
     return *this;
 }
 

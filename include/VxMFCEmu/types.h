@@ -86,12 +86,13 @@ using HIMAGELIST = void*;
 using HDROP = void*;
 using HKEY = void*;
 
-/// Wide text literal, as Win32 sources write it.
+#define VXMFC_WIDE(x) L##x
+/// Wide text literal, as Win32 sources write it; of a macro such as __FILE__ too.
 #ifndef _T
-#    define _T(x) L##x
+#    define _T(x) VXMFC_WIDE(x)
 #endif
 #ifndef TEXT
-#    define TEXT(x) L##x
+#    define TEXT(x) VXMFC_WIDE(x)
 #endif
 
 /// A point in pixels.

@@ -51,7 +51,7 @@ TEST(DumpContext, WritesValues)
         {__LINE__, dumped([](auto& dc) { dc << static_cast<WORD>(65535); }), L"65535"},
         {__LINE__, dumped([](auto& dc) { dc << 4000000000U; }), L"4000000000"},
         {__LINE__, dumped([](auto& dc) { dc << -7; }), L"-7"},
-        {__LINE__, dumped([](auto& dc) { dc << LLONG_MIN; }), L"-9223372036854775808"},
+        {__LINE__, dumped([](auto& dc) { dc << INT_PTR(LONG_MIN); }), L"-9223372036854775808"},
         {__LINE__, dumped([](auto& dc) { dc << ULLONG_MAX; }), L"18446744073709551615"},
         {__LINE__, dumped([](auto& dc) { dc << 0.5F; }), L"0.500000"},
         {__LINE__, dumped([](auto& dc) { dc << -0.25; }), L"-0.250000000000000"},
@@ -60,7 +60,7 @@ TEST(DumpContext, WritesValues)
         {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(-1); }), L"0xffffffff"},
         {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(0xABCU); }), L"0x00000abc"},
         {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(-2LL); }), L"0xfffffffffffffffe"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(0x1FULL); }), L"0x000000000000001f"},
+        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(UINT_PTR(0x1F)); }), L"0x000000000000001f"},
         {__LINE__, dumped([&](auto& dc) { dc << static_cast<const void*>(&object); }),
          address(&object)},
         {__LINE__, dumped([&](auto& dc) { dc << &object; }),
@@ -167,6 +167,14 @@ TEST_F(LogTest, FoldersLieAroundTheExecutable)
 {
     const QByteArray root = m_root.toUtf8();
     EXPECT_EQ(Run({QStringLiteral("folders")}), root + "/bin\n" + root + "\n");
+}
+
+TEST_F(LogTest, StaticObjectsLogWhileTheyDie)
+{
+    Run({QStringLiteral("exit")});
+    const QString log = Log();
+    EXPECT_EQ(log.count(u'\n'), 2);
+    EXPECT_TRUE(log.endsWith(QStringLiteral("] last\n"))) << log.toStdString();
 }
 
 TEST_F(LogTest, AppendsTimedLinesAndKeepsTextAsItIs)

@@ -1,4 +1,4 @@
-// Logs as its arguments say: folders | text TEXT | rotate LOG | threads COUNT LINES.
+// Logs as its arguments say: folders | text TEXT | rotate LOG | threads COUNT LINES | exit.
 #include <VxMFCEmu/core/log.h>
 
 #include <cstdio>
@@ -31,6 +31,17 @@ void logAcrossRotation(const std::string& log)
     vxLogPrintf(L"two");
 }
 
+/// Outlives everything that main() made the library keep.
+struct LastWords
+{
+    ~LastWords()
+    {
+        if (wanted)
+            vxLogPrintf(L"last");
+    }
+    bool wanted = false;
+} g_lastWords;
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -45,7 +56,10 @@ int main(int argc, char** argv)
         logAcrossRotation(argv[2]);
     else if (what == "threads" && argc > 3)
         logFromThreads(std::atoi(argv[2]), std::atoi(argv[3]));
-    else
+    else if (what == "exit") {
+        vxLogPrintf(L"first");
+        g_lastWords.wanted = true;
+    } else
         return 1;
     return 0;
 }

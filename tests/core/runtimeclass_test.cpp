@@ -36,8 +36,9 @@ TEST(RuntimeClass, RegistersWhatDiffersFromTheBase)
         EXPECT_EQ(registered(button), nullptr);
         const auto one = record(button, object, makeObject);
         EXPECT_EQ(registered(button), makeObject);
-        const auto second = record(button, object, makeTarget);
-        EXPECT_EQ(registered(button), makeObject) << "the first registration wins";
+        for (const auto create : {makeTarget, makeObject})
+            const auto later = record(button, object, create);
+        EXPECT_EQ(registered(button), makeObject) << "the first registration wins and stays";
         EXPECT_EQ(one.GetObjectSize(), 12);
         EXPECT_STREQ(one.GetImpClassName(), "QPushButton");
         EXPECT_STREQ(one.GetClassName(), "CObject_E");

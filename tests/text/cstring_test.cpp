@@ -19,6 +19,7 @@ TEST(CString, ConstructionAndAssignment)
     EXPECT_EQ(CString_E(L"a\0bc", 3).GetLength(), 3);
     EXPECT_EQ(CString_E(L'x', 3), L"xxx");
     EXPECT_EQ(CString_E("\u4E2D"), L"\u4E2D");
+    EXPECT_EQ(CString_E(_T(__FILE__)), __FILE__) << "macros are expanded first";
     CString_E s;
     s = L'c';
     EXPECT_EQ(s, L"c");
@@ -56,6 +57,8 @@ TEST(CString, Access)
         EXPECT_THROW(s.GetAt(index), std::out_of_range) << index;
     EXPECT_THROW(s[3U], std::out_of_range);
     s.SetAt(1, L'x');
+    for (const int index : {-1, 1000, INT_MIN, INT_MAX})
+        s.SetAt(index, L'y');
     const wchar_t* const text = s;
     EXPECT_STREQ(text, L"axc");
     s.Empty();
@@ -278,6 +281,7 @@ TEST(CString, TrimmingAndSeparators)
         {__LINE__, text(L"xax").TrimLeft(L'x'), L"ax"},
         {__LINE__, text(L"xax").TrimRight(L'x'), L"xa"},
         {__LINE__, text(L"xyaxy").Trim(L"yx"), L"a"},
+        {__LINE__, CString_E(L"\0a\0", 3).Trim(L'\0'), L"a"},
         {__LINE__, text(L" a ").Trim(kNull), L" a "},
         {__LINE__, text(L"a\nb\r\n").ToWinReturn(), L"a\r\nb\r\r\n"},
         {__LINE__, text(L"a\r\nb\r").ToUnixReturn(), L"a\nb\r"},

@@ -47,6 +47,12 @@ public:
     CDumpContext_E& operator<<(int value);
     CDumpContext_E& operator<<(long long value);
     CDumpContext_E& operator<<(unsigned long long value);
+    /// Counts and sizes (`INT_PTR`, `UINT_PTR`), which would fit every number above.
+    CDumpContext_E& operator<<(long value) { return *this << static_cast<long long>(value); }
+    CDumpContext_E& operator<<(unsigned long value)
+    {
+        return *this << static_cast<unsigned long long>(value);
+    }
     CDumpContext_E& operator<<(float value);
     CDumpContext_E& operator<<(double value);
 
@@ -57,6 +63,11 @@ public:
     CDumpContext_E& DumpAsHex(unsigned int value);
     CDumpContext_E& DumpAsHex(long long value);
     CDumpContext_E& DumpAsHex(unsigned long long value);
+    CDumpContext_E& DumpAsHex(long value) { return DumpAsHex(static_cast<long long>(value)); }
+    CDumpContext_E& DumpAsHex(unsigned long value)
+    {
+        return DumpAsHex(static_cast<unsigned long long>(value));
+    }
 
 private:
     template <typename Value>

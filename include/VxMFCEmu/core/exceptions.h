@@ -54,8 +54,7 @@ class VXMFC_EXPORT CException_E : public QException, public CObject_E
     /// Forwards to the const one.
     virtual BOOL GetErrorMessage(wchar_t* lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr);
     /// Shows the message, or else the text of string resource @p nMessageID, in a message box of
-    /// type
-    /// @p nType and returns its result.
+    /// type @p nType and returns its result.
     virtual int ReportError(UINT nType = 0, UINT nMessageID = 0);
 
     /// Deletes the object when it deletes itself.
@@ -228,7 +227,7 @@ class VXMFC_EXPORT COleException_E : public CException_E
     /// The status code for an exception. Differs from Win32: the class records cannot tell kinds
     /// apart, so this is what stands in the place of the status code, which is the first data
     /// member that the exception's class adds to CException_E and must be at least four bytes (of a
-    /// dispatch exception its code, of a file exception its cause); E_UNEXPECTED_E for null.
+    /// dispatch exception its code, of a file exception its cause); E_UNEXPECTED for null.
     static SCODE Process(const CException_E* pAnyException);
 
     SCODE m_sc = 0;

@@ -25,16 +25,14 @@ VXMFC_EXPORT DWORD GetLastError();
 VXMFC_EXPORT void SetLastError(DWORD dwErrCode);
 
 /// Copies a message into the caller's buffer and returns the number of characters copied. With a
-/// null
-/// @p lpSource the message is "system error! error number: " and @p dwMessageId; otherwise @p
-/// lpSource is wide text that is copied as it stands. A text longer than @p nSize is cut to @p
-/// nSize - 1 characters. 0, writing nothing, with FORMAT_MESSAGE_ALLOCATE_BUFFER, a null buffer or
-/// size 0.
+/// null @p lpSource the message is "system error! error number: " and @p dwMessageId; otherwise
+/// @p lpSource is wide text that is copied as it stands. A text longer than @p nSize is cut to
+/// @p nSize - 1 characters. 0, writing nothing, with FORMAT_MESSAGE_ALLOCATE_BUFFER, a null buffer
+/// or size 0.
 ///
 /// Differs from Win32: inserts are not expanded; the other flags, the language and the arguments
 /// are ignored; a text of exactly @p nSize characters is copied whole, and its terminator follows
-/// at
-/// @p lpBuffer[nSize]: give a size one below the room there is.
+/// at @p lpBuffer[nSize]: give a size one below the room there is.
 VXMFC_EXPORT DWORD FormatMessage_E(DWORD dwFlags, const void* lpSource, DWORD dwMessageId,
                                    DWORD dwLanguageId, wchar_t* lpBuffer, DWORD nSize,
                                    va_list* Arguments);

@@ -42,7 +42,8 @@ public:
     CRuntimeClass_E(const QMetaObject* pMetaObject, const QMetaObject* pImpMetaObject,
                     const QMetaObject* pBaseImpMetaObject, VxCreateObjectFn pfnCreateObject,
                     QList<const QMetaObject*>* pImpMetaList, int nObjectSize);
-    /// Takes this record's factory out of the registry: its code may be about to be unloaded.
+    /// Takes what this record registered out of the registry: the factory's code may be about to be
+    /// unloaded. Entries made by others stay, of the same factory too.
     ~CRuntimeClass_E();
     Q_DISABLE_COPY_MOVE(CRuntimeClass_E)
 
@@ -72,8 +73,6 @@ public:
                                            VxCreateObjectFn pfnCreateObject);
 
 private:
-    void UnregisterFrom(const QMetaObject* pMeta) const;
-
     const QMetaObject* m_pMetaObject;
     const QMetaObject* m_pImpMetaObject;
     QList<const QMetaObject*>* m_pImpMetaList;

@@ -90,8 +90,13 @@ public:
     {
         return m_text.at(static_cast<std::size_t>(i));
     }
-    /// Writes a character. Intended: @p i is not checked and must be within the text.
-    void SetAt(int i, wchar_t ch) noexcept { m_text.data()[i] = ch; }
+    /// Writes a character. Intended: @p i is not checked, it must be within the text or what
+    /// GetBuffer() made room for; elsewhere nothing is written.
+    void SetAt(int i, wchar_t ch) noexcept
+    {
+        if (static_cast<std::size_t>(i) < m_text.capacity())
+            m_text.data()[i] = ch;
+    }
 
     /// The text in UTF-8; valid until the next conversion or change, owned by the string. Each call
     /// converts anew. Throws `std::range_error` ("wstring_convert::to_bytes") for what is no code
@@ -177,12 +182,12 @@ public:
     CString_E& TrimRight() { return TrimRight(L" \r\n\t"); }
     CString_E& Trim() { return Trim(L" \r\n\t"); }
     /// Remove @p ch.
-    CString_E& TrimLeft(wchar_t ch) { return TrimLeft(CString_E(ch).GetString()); }
-    CString_E& TrimRight(wchar_t ch) { return TrimRight(CString_E(ch).GetString()); }
-    CString_E& Trim(wchar_t ch) { return Trim(CString_E(ch).GetString()); }
+    CString_E& TrimLeft(wchar_t ch) { return TrimLeftOf({&ch, 1}); }
+    CString_E& TrimRight(wchar_t ch) { return TrimRightOf({&ch, 1}); }
+    CString_E& Trim(wchar_t ch) { return TrimRight(ch).TrimLeft(ch); }
     /// Remove every character that is in @p set.
-    CString_E& TrimLeft(const wchar_t* set);
-    CString_E& TrimRight(const wchar_t* set);
+    CString_E& TrimLeft(const wchar_t* set) { return TrimLeftOf(vx::detail::orEmpty(set)); }
+    CString_E& TrimRight(const wchar_t* set) { return TrimRightOf(vx::detail::orEmpty(set)); }
     CString_E& Trim(const wchar_t* set) { return TrimRight(set).TrimLeft(set); }
 
     /// Copy with each "\n" as "\r\n". Intended: the "\n" of an "\r\n" too.
@@ -248,6 +253,8 @@ private:
         return first > m_text.size() ? CString_E()
                                      : CString_E(m_text, first, static_cast<std::size_t>(nCount));
     }
+    CString_E& TrimLeftOf(std::wstring_view set);
+    CString_E& TrimRightOf(std::wstring_view set);
     bool PointsInto(const wchar_t* p) const noexcept;
     int ReplaceInPlace(std::wstring_view old, std::wstring_view replacement, std::size_t hit);
     int ReplaceGrowing(std::wstring_view old, std::wstring_view replacement, std::size_t hit);
