@@ -227,7 +227,8 @@ class VXMFC_EXPORT COleException_E : public CException_E
     /// The status code for an exception. Differs from Win32: the class records cannot tell kinds
     /// apart, so this is what stands in the place of the status code, which is the first data
     /// member that the exception's class adds to CException_E and must be at least four bytes (of a
-    /// dispatch exception its code, of a file exception its cause); E_UNEXPECTED for null.
+    /// dispatch exception its code, of a file exception its cause); E_UNEXPECTED for null. Not for
+    /// an exception whose class adds no member.
     static SCODE Process(const CException_E* pAnyException);
 
     SCODE m_sc = 0;
