@@ -100,6 +100,17 @@ void CWnd_E::ShowScrollBar(UINT nBar, BOOL bShow)
     RecalcLayout();
 }
 
+// The bar is out of the window at once and deleted a little later: this may be running inside one
+// of its own signals, when a handler destroys the window.
+void CWnd_E::DropEdge(QWidget* pBar)
+{
+    if (!pBar)
+        return;
+    pBar->hide();
+    pBar->setParent(nullptr);
+    pBar->deleteLater();
+}
+
 void CWnd_E::RecalcLayout()
 {
     QWidget* const pWidget = GetSafeHwnd();
@@ -188,7 +199,7 @@ BOOL CWnd_E::SetMenu(CMenu_E* pMenu)
     if (!GetSafeHwnd())
         return FALSE;
     if (!pMenu || !pMenu->GetSafeHmenu()) {
-        delete std::exchange(m_pMenuBar, nullptr);
+        RemoveEdge(m_pMenuBar);
     } else {
         QMenuBar* const pBar = MakeMenuBar();
         pBar->addActions(pMenu->GetSafeHmenu()->actions());
@@ -203,7 +214,7 @@ BOOL CWnd_E::SetMenu(QList<CMenu_E*> menus)
     if (!GetSafeHwnd())
         return FALSE;
     if (menus.isEmpty()) {
-        delete std::exchange(m_pMenuBar, nullptr);
+        RemoveEdge(m_pMenuBar);
     } else {
         QMenuBar* const pBar = MakeMenuBar();
         for (const CMenu_E* pMenu : qAsConst(menus)) {

@@ -36,15 +36,6 @@ private:
     static inline Destruction* s_pInnermost = nullptr;
 };
 
-// Not at once: a handler may run inside a signal of the bar itself.
-template <typename Bar>
-void deleteBar(QPointer<Bar>& bar)
-{
-    if (bar)
-        bar->deleteLater();
-    bar = nullptr;
-}
-
 } // namespace
 
 BOOL CWnd_E::AttachDefault(QWidget* pParent)
@@ -100,9 +91,9 @@ void CWnd_E::OnClose() { DestroyWindow(); }
 
 void CWnd_E::OnDestroy()
 {
-    deleteBar(m_pHScrollBar);
-    deleteBar(m_pVScrollBar);
-    deleteBar(m_pMenuBar);
+    RemoveEdge(m_pHScrollBar);
+    RemoveEdge(m_pVScrollBar);
+    RemoveEdge(m_pMenuBar);
 }
 
 void CWnd_E::OnNcDestroy()

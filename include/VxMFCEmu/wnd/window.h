@@ -234,7 +234,7 @@ public:
     // goes on to the widget; call them to have a message handled in the widget's own way.
 
     // Life of the window
-    /// Takes away the scroll bars and the menu bar, which the event loop deletes.
+    /// Takes away the scroll bars and the menu bar.
     void OnDestroy();
     /// Detaches the widget and calls PostNcDestroy().
     void OnNcDestroy();
@@ -434,6 +434,13 @@ private:
     QScrollBar* OwnScrollBar(int nBar) const;
     QScrollBar* MakeScrollBar(int nBar);
     QMenuBar* MakeMenuBar();
+    static void DropEdge(QWidget* pBar);
+    template <typename Bar>
+    static void RemoveEdge(QPointer<Bar>& bar)
+    {
+        DropEdge(bar);
+        bar = nullptr;
+    }
     void ShowAsStyled();
 
     QEvent* m_pCurrentEvent = nullptr;
