@@ -1,6 +1,7 @@
 // The members that are free functions for the bound widget.
 #include <VxMFCEmu/wnd/window.h>
 
+#include <VxMFCEmu/dlg/messagebox.h>
 #include <VxMFCEmu/wnd/windowfunctions.h>
 
 #include <QtGui/QScreen>
@@ -42,6 +43,7 @@ BOOL CWnd_E::IsWindowEnabled() const { return IsWindowEnabled_E(GetSafeHwnd()); 
 BOOL CWnd_E::EnableWindow(BOOL bEnable) { return EnableWindow_E(GetSafeHwnd(), bEnable); }
 BOOL CWnd_E::CloseWindow() { return CloseWindow_E(GetSafeHwnd()); }
 BOOL CWnd_E::UpdateWindow() { return UpdateWindow_E(GetSafeHwnd()); }
+int CWnd_E::MessageBox(const wchar_t* lpszText, const wchar_t* lpszCaption, UINT nType) { return MessageBox_E(GetSafeHwnd(), lpszText, lpszCaption, nType); }
 
 BOOL CWnd_E::GetWindowRect(tagRECT* pRect) const { return GetWindowRect_E(GetSafeHwnd(), pRect); }
 BOOL CWnd_E::GetClientRect(tagRECT* pRect) const { return GetClientRect_E(GetSafeHwnd(), pRect); }

@@ -170,6 +170,9 @@ public:
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL CloseWindow();
     BOOL UpdateWindow();
+    /// Shows a modal message box over this window and returns the id of the button that ended it.
+    /// The types are the MB_* values; without a caption it is "Error".
+    int MessageBox(const wchar_t* lpszText, const wchar_t* lpszCaption = nullptr, UINT nType = 0);
     /// Schedules a repaint of the whole window.
     void Invalidate(BOOL bErase = TRUE);
     /// Schedules a repaint of a rectangle, of the whole window for null.
@@ -420,8 +423,8 @@ private:
     template <typename Result>
     Result PassOn(Result result);
     void PassOn();
-    bool DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* watched, QEvent* e,
-                         tagMSG& msg);
+    Q_DECL_HIDDEN bool DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* watched,
+                                       QEvent* e, tagMSG& msg);
     enum class Offer
     {
         Taken,
