@@ -12,8 +12,24 @@ CRuntimeClass_E CObject_E::s_classInfo(&CObject_E::staticMetaObject, CObject_E::
 
 namespace {
 
-constexpr char kOwnerProperty[] = "owner";
-constexpr char kParentProperty[] = "parent";
+const QByteArray& ownerProperty()
+{
+    static const QByteArray name = QByteArrayLiteral("owner");
+    return name;
+}
+
+const QByteArray& parentProperty()
+{
+    static const QByteArray name = QByteArrayLiteral("parent");
+    return name;
+}
+
+// Looked up once: a connection by name parses both signatures each time.
+QMetaMethod onImpDestroySlot()
+{
+    static const int nIndex = CObject_E::staticMetaObject.indexOfSlot("OnImpDestroy()");
+    return CObject_E::staticMetaObject.method(nIndex);
+}
 
 QVariant addressOf(const QObject* pObject)
 {
@@ -77,10 +93,11 @@ BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
         pOther->Detach();
     SetObjectFlag(ExternalFlag, bExternal);
     m_pImpQObject = pImp;
-    pImp->setProperty(kOwnerProperty, addressOf(this));
-    pImp->setProperty(kParentProperty, addressOf(pParent));
+    vx::detail::setDynamicProperty(pImp, ownerProperty(), addressOf(this));
+    vx::detail::setDynamicProperty(pImp, parentProperty(), addressOf(pParent));
     pImp->installEventFilter(this);
-    connect(pImp, SIGNAL(destroyed(QObject*)), this, SLOT(OnImpDestroy()), Qt::UniqueConnection);
+    static const QMetaMethod destroyed = QMetaMethod::fromSignal(&QObject::destroyed);
+    connect(pImp, destroyed, this, onImpDestroySlot(), Qt::UniqueConnection);
     const BOOL bAttached = OnAttach();
     if (!bAttached)
         Detach();
@@ -97,8 +114,8 @@ void CObject_E::Detach()
     pImp->removeEventFilter(this);
     // Another wrapper may have taken the object over meanwhile; its binding stays.
     if (GetOwner(pImp) == this) {
-        pImp->setProperty(kOwnerProperty, QVariant());
-        pImp->setProperty(kParentProperty, QVariant());
+        vx::detail::setDynamicProperty(pImp, ownerProperty(), QVariant());
+        vx::detail::setDynamicProperty(pImp, parentProperty(), QVariant());
     }
     m_pImpQObject = nullptr;
     if (IsExternalImpObj())
@@ -156,8 +173,7 @@ CObject_E* CObject_E::GetOwner(QObject* pObject)
 {
     if (!pObject)
         return nullptr;
-    static const QByteArray name = QByteArrayLiteral("owner");
-    const QVariant* const pOwner = vx::detail::dynamicProperty(pObject, name);
+    const QVariant* const pOwner = vx::detail::dynamicProperty(pObject, ownerProperty());
     return pOwner ? reinterpret_cast<CObject_E*>(static_cast<std::intptr_t>(pOwner->toLongLong()))
                   : nullptr;
 }

@@ -59,4 +59,23 @@ const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name)
     return nIndex < 0 ? nullptr : &pExtra->propertyValues.at(nIndex);
 }
 
+void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant& value)
+{
+    auto* const pPrivate = QObjectPrivate::get(pObject);
+    if (!pPrivate->extraData)
+        pPrivate->extraData = new QObjectPrivate::ExtraData;
+    auto& names = pPrivate->extraData->propertyNames;
+    auto& values = pPrivate->extraData->propertyValues;
+    const int nIndex = names.indexOf(name);
+    if (nIndex < 0 && value.isValid()) {
+        names.append(name);
+        values.append(value);
+    } else if (nIndex >= 0 && value.isValid()) {
+        values[nIndex] = value;
+    } else if (nIndex >= 0) {
+        names.removeAt(nIndex);
+        values.removeAt(nIndex);
+    }
+}
+
 } // namespace vx::detail

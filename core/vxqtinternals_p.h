@@ -30,4 +30,8 @@ bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObjec
 /// name with every property that the object's class declares first, at a dozen times the cost.
 const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name);
 
+/// Sets the dynamic property of this name, or takes it away when @p value is invalid. Neither
+/// compares the name with the class's properties nor sends the object an event of the change.
+void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant& value);
+
 } // namespace vx::detail

@@ -37,6 +37,7 @@ void CreateWindow(benchmark::State& state)
         auto* const window = new CWnd_E;
         window->Create(&top);
         delete window;
+        QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     if (!top.children().isEmpty())
