@@ -135,6 +135,7 @@ public:
     /// Posts @p e, which is owned by the event loop from then on, also on failure. With @p
     /// bCompress it is dropped, giving FALSE, while one of its type posted this way has not been
     /// dispatched yet.
+    /// An event that another filter swallows counts as undispatched until the window is bound anew.
     BOOL PostEvent(QEvent* e, int nPriority, bool bCompress);
     /// Sets the accepted flag of the event being dispatched to this window; a handler that clears
     /// it lets the event go on to the widget.
