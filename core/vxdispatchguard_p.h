@@ -14,8 +14,14 @@ namespace vx::detail {
 class DispatchGuard
 {
 public:
-    DispatchGuard(const CObject_E* pWrapper, QObject* pObject, bool bound);
-    ~DispatchGuard();
+    DispatchGuard(const CObject_E* pWrapper, QObject* pObject, bool bound)
+        : m_pOuter(s_pInnermost), m_pWrapper(pWrapper), m_pObject(pObject), m_bound(bound)
+    {
+        if (!bound)
+            m_object = pObject;
+        s_pInnermost = this;
+    }
+    ~DispatchGuard() { s_pInnermost = m_pOuter; }
     Q_DISABLE_COPY_MOVE(DispatchGuard)
 
     bool wrapperAlive() const { return !m_wrapperGone; }
@@ -29,6 +35,11 @@ public:
     static void objectDestroyed(const QObject* pObject);
 
 private:
+    // Read for every event: at a fixed place of the thread's storage it takes no call to find it.
+    // One pointer fits into what the loader keeps free for libraries that come later.
+    [[gnu::tls_model("initial-exec")]] static inline thread_local DispatchGuard* s_pInnermost =
+        nullptr;
+
     DispatchGuard* m_pOuter;
     const CObject_E* m_pWrapper;
     const QObject* m_pObject;

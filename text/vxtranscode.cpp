@@ -1,9 +1,9 @@
 #include "text/vxtranscode_p.h"
 
 #include <QtCore/QString>
+#include <QtCore/QtEndian>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
@@ -24,16 +24,9 @@ constexpr std::uint32_t codeOf(wchar_t ch) { return static_cast<std::uint32_t>(c
 
 constexpr bool isSurrogate(std::uint32_t code) { return code - 0xD800U < 0x800U; }
 
-// The six bits that a continuation byte carries.
-constexpr std::uint32_t bitsOf(unsigned char byte) { return byte & 0x3FU; }
-
-constexpr bool areContinuations(std::initializer_list<unsigned char> bytes)
-{
-    unsigned char wrong = 0;
-    for (const unsigned char byte : bytes)
-        wrong |= byte ^ 0x80U;
-    return (wrong & 0xC0U) == 0;
-}
+// The six bits that a continuation byte carries; more than kTailMax for any other byte.
+constexpr std::uint32_t tailBits(unsigned char byte) { return byte ^ 0x80U; }
+constexpr std::uint32_t kTailMax = 0x3F;
 
 struct Sequence
 {
@@ -41,56 +34,61 @@ struct Sequence
     std::size_t length; // 0 when invalid
 };
 
-// The sequence at the start of a text that is not empty.
-inline Sequence decode(const unsigned char* p, const unsigned char* end)
+// The sequence at the start of a text of which @p left bytes, at least one, are left.
+inline Sequence decode(const unsigned char* p, std::size_t left)
 {
     constexpr Sequence kInvalid = {0, 0};
-    const unsigned char lead = *p;
-    const auto left = static_cast<std::size_t>(end - p);
+    const std::uint32_t lead = *p;
     if (lead < 0x80)
         return {lead, 1};
-    if (lead < 0xE0) {
-        if (lead < 0xC2 || left < 2 || !areContinuations({p[1]}))
-            return kInvalid;
-        return {((lead & 0x1FU) << 6) | bitsOf(p[1]), 2};
-    }
-    if (lead < 0xF0) {
-        if (left < 3 || !areContinuations({p[1], p[2]}))
-            return kInvalid;
-        const std::uint32_t code = ((lead & 0x0FU) << 12) | (bitsOf(p[1]) << 6) | bitsOf(p[2]);
-        return code < 0x800 || isSurrogate(code) ? kInvalid : Sequence{code, 3};
-    }
-    if (lead > 0xF4 || left < 4 || !areContinuations({p[1], p[2], p[3]}))
+    if (lead < 0xC2 || left < 2)
         return kInvalid;
-    const std::uint32_t code =
-        ((lead & 0x07U) << 18) | (bitsOf(p[1]) << 12) | (bitsOf(p[2]) << 6) | bitsOf(p[3]);
-    return code < 0x10000 || code > 0x10FFFF ? kInvalid : Sequence{code, 4};
+    const std::uint32_t first = tailBits(p[1]);
+    if (lead < 0xE0)
+        return first > kTailMax ? kInvalid : Sequence{((lead & 0x1FU) << 6) | first, 2};
+    if (left < 3)
+        return kInvalid;
+    const std::uint32_t second = tailBits(p[2]);
+    if (lead < 0xF0) {
+        const std::uint32_t code = ((lead & 0x0FU) << 12) | (first << 6) | second;
+        const bool valid = (first | second) <= kTailMax && code >= 0x800 && !isSurrogate(code);
+        return valid ? Sequence{code, 3} : kInvalid;
+    }
+    if (lead > 0xF4 || left < 4)
+        return kInvalid;
+    const std::uint32_t third = tailBits(p[3]);
+    const std::uint32_t code = ((lead & 0x07U) << 18) | (first << 12) | (second << 6) | third;
+    const bool valid = (first | second | third) <= kTailMax && code >= 0x10000 && code <= 0x10FFFF;
+    return valid ? Sequence{code, 4} : kInvalid;
 }
 
-// Reads 64 bytes a step.
+// The two that follow vectorise: whole blocks without an early way out, narrow sums.
+
+constexpr std::size_t kBlock = 240; // whole vectors, and counts stay in a byte
+
+// Whether @p bitsOf gives one of @p bits for any unit.
+template <typename Unit, typename BitsOf>
+bool anyHas(Unit bits, const Unit* p, std::size_t n, BitsOf bitsOf)
+{
+    for (; n > 0; n -= std::min(n, kBlock)) {
+        const std::size_t block = std::min(n, kBlock);
+        Unit found = 0;
+        for (std::size_t i = 0; i < block; ++i)
+            found = static_cast<Unit>(found | bitsOf(p[i]));
+        if (found & bits)
+            return true;
+        p += block;
+    }
+    return false;
+}
+
 bool isAscii(const unsigned char* p, std::size_t n)
 {
-    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    for (std::array<std::uint64_t, 8> words; n >= sizeof words;
-         p += sizeof words, n -= sizeof words) {
-        std::memcpy(words.data(), p, sizeof words);
-        std::uint64_t all = 0;
-        for (const std::uint64_t word : words)
-            all |= word;
-        if (all & kHighBits)
-            return false;
-    }
-    unsigned char all = 0;
-    for (std::size_t i = 0; i < n; ++i)
-        all |= p[i];
-    return all < 0x80;
+    return !anyHas<unsigned char>(0x80, p, n, [](unsigned char byte) { return byte; });
 }
-
-// Vectorises: no early way out, narrow sums.
 
 std::size_t countStarts(const unsigned char* p, std::size_t n)
 {
-    constexpr std::size_t kBlock = 255; // sums stay in a byte
     std::size_t count = 0;
     for (; n > 0; n -= std::min(n, kBlock)) {
         const std::size_t block = std::min(n, kBlock);
@@ -101,6 +99,24 @@ std::size_t countStarts(const unsigned char* p, std::size_t n)
         p += block;
     }
     return count;
+}
+
+#ifdef __x86_64__
+// Stores of twice the width: they are what bounds it.
+[[gnu::target("avx2"), gnu::flatten]] std::wstring widenAvx2(const unsigned char* p, std::size_t n)
+{
+    return std::wstring(p, p + n);
+}
+#endif
+
+// A character a byte; each is written once, where resize() would fill with zeros first.
+std::wstring widen(const unsigned char* p, std::size_t n)
+{
+#ifdef __x86_64__
+    if (__builtin_cpu_supports("avx2"))
+        return widenAvx2(p, n);
+#endif
+    return std::wstring(p, p + n);
 }
 
 // Writes the bytes of the leading ASCII characters and returns their number, which may be rounded
@@ -130,40 +146,49 @@ std::size_t narrowAscii(std::wstring_view text, char* out)
     return done;
 }
 
-constexpr char leadByte(std::uint32_t mark, std::uint32_t bits)
+// The bytes of a character, the first one lowest.
+
+constexpr std::uint32_t tail(std::uint32_t code, unsigned shift)
 {
-    return static_cast<char>(mark | bits);
+    return 0x80U | ((code >> shift) & 0x3FU);
 }
 
-constexpr char tailByte(std::uint32_t code, unsigned shift)
+constexpr std::uint32_t twoBytes(std::uint32_t code)
 {
-    return static_cast<char>(0x80U | ((code >> shift) & 0x3FU));
+    return (0xC0U | (code >> 6)) | (tail(code, 0) << 8);
 }
 
-// Runs of one length are the rule, and a loop with a fixed stride for each is what makes this fast.
+constexpr std::uint32_t threeBytes(std::uint32_t code)
+{
+    return (0xE0U | (code >> 12)) | (tail(code, 6) << 8) | (tail(code, 0) << 16);
+}
+
+constexpr std::uint32_t fourBytes(std::uint32_t code)
+{
+    return (0xF0U | (code >> 18)) | (tail(code, 12) << 8) | (tail(code, 6) << 16) |
+           (tail(code, 0) << 24);
+}
+
+// Writes whole words: up to kSlack bytes beyond what it returns.
+constexpr std::size_t kSlack = 1;
+
 char* encode(const wchar_t* p, const wchar_t* end, char* out)
 {
     while (p != end) {
-        for (; p != end && codeOf(*p) < 0x80; ++p)
-            *out++ = static_cast<char>(*p);
-        for (; p != end && codeOf(*p) - 0x80U < 0x780U; ++p, out += 2) {
-            out[0] = leadByte(0xC0, codeOf(*p) >> 6);
-            out[1] = tailByte(codeOf(*p), 0);
-        }
-        for (; p != end && codeOf(*p) - 0x800U < 0xF800U; ++p, out += 3) {
-            if (isSurrogate(codeOf(*p)))
-                throw std::range_error("wstring_convert::to_bytes");
-            out[0] = leadByte(0xE0, codeOf(*p) >> 12);
-            out[1] = tailByte(codeOf(*p), 6);
-            out[2] = tailByte(codeOf(*p), 0);
-        }
-        for (; p != end && codeOf(*p) > 0xFFFF; ++p, out += 4) {
-            if (codeOf(*p) > 0x10FFFF)
-                throw std::range_error("wstring_convert::to_bytes");
-            out[0] = leadByte(0xF0, codeOf(*p) >> 18);
-            out[1] = tailByte(codeOf(*p), 12);
-            out[2] = tailByte(codeOf(*p), 6);
-            out[3] = tailByte(codeOf(*p), 0);
+        const std::uint32_t code = codeOf(*p++);
+        if (code < 0x80) {
+            *out++ = static_cast<char>(code);
+        } else if (code < 0x800) {
+            qToLittleEndian(static_cast<quint16>(twoBytes(code)), out);
+            out += 2;
+        } else if (code <= 0xFFFF && !isSurrogate(code)) {
+            qToLittleEndian(threeBytes(code), out);
+            out += 3;
+        } else if (code > 0xFFFF && code <= 0x10FFFF) {
+            qToLittleEndian(fourBytes(code), out);
+            out += 4;
+        } else {
+            throw std::range_error("wstring_convert::to_bytes");
         }
     }
     return out;
@@ -181,26 +206,20 @@ std::wstring utf8ToWide(std::string_view bytes)
     const unsigned char* p = bytesOf(bytes);
     const unsigned char* const end = p + bytes.size();
     if (isAscii(p, bytes.size()))
-        return std::wstring(p, end); // writes each character once, where resize() fills with zeros
+        return widen(p, bytes.size());
     std::wstring text(countStarts(p, bytes.size()), L'\0');
-    for (wchar_t* out = text.data(); p != end;) {
-        // Runs of one length are the rule; what ends a run is decoded with all tests.
-        for (; p != end && *p < 0x80; ++p)
-            *out++ = static_cast<wchar_t>(*p);
-        for (; end - p >= 2 && p[0] - 0xC2U < 0x1EU && areContinuations({p[1]}); p += 2)
-            *out++ = static_cast<wchar_t>(((p[0] & 0x1FU) << 6) | bitsOf(p[1]));
-        // Of the other leads of three bytes, E0 and ED do not go with every second byte.
-        for (; end - p >= 3 && p[0] - 0xE1U < 0x0CU && areContinuations({p[1], p[2]}); p += 3)
-            *out++ =
-                static_cast<wchar_t>(((p[0] & 0x0FU) << 12) | (bitsOf(p[1]) << 6) | bitsOf(p[2]));
-        if (p == end)
-            break;
-        const Sequence sequence = decode(p, end);
+    wchar_t* out = text.data();
+    const auto take = [&](std::size_t left) {
+        const Sequence sequence = decode(p, left);
         if (sequence.length == 0)
             throw std::range_error("wstring_convert::from_bytes");
         *out++ = static_cast<wchar_t>(sequence.code);
         p += sequence.length;
-    }
+    };
+    while (static_cast<std::size_t>(end - p) >= kLongest)
+        take(kLongest); // a constant, which takes the tests of the length away
+    while (p != end)
+        take(static_cast<std::size_t>(end - p));
     return text;
 }
 
@@ -210,7 +229,7 @@ std::wstring utf8ToWideLossy(std::string_view bytes, std::size_t maxCount)
     const unsigned char* p = bytesOf(bytes);
     const unsigned char* const end = p + bytes.size();
     while (p != end && text.size() < maxCount) {
-        const Sequence sequence = decode(p, end);
+        const Sequence sequence = decode(p, static_cast<std::size_t>(end - p));
         text.push_back(sequence.length ? static_cast<wchar_t>(sequence.code) : kReplacement);
         p += std::max<std::size_t>(sequence.length, 1);
     }
@@ -219,15 +238,20 @@ std::wstring utf8ToWideLossy(std::string_view bytes, std::size_t maxCount)
 
 char* wideToUtf8(std::wstring_view text)
 {
-    const std::size_t n = text.size();
-    std::unique_ptr<char[]> bytes(new char[n + 1]);
-    const std::size_t ascii = narrowAscii(text, bytes.get());
+    // A text that begins in ASCII mostly stays so: only then is the small array tried first.
+    const std::wstring_view start = text.substr(0, 16);
+    const bool tryAscii =
+        std::all_of(start.begin(), start.end(), [](wchar_t ch) { return codeOf(ch) < 0x80; });
+    std::unique_ptr<char[]> bytes(new char[(tryAscii ? 1 : kLongest) * text.size() + kSlack + 1]);
+    const std::size_t ascii = tryAscii ? narrowAscii(text, bytes.get()) : 0;
     char* out = bytes.get() + ascii;
-    if (ascii != n) {
+    if (ascii != text.size()) {
         text.remove_prefix(ascii);
-        std::unique_ptr<char[]> larger(new char[ascii + kLongest * text.size() + 1]);
-        out = std::copy_n(bytes.get(), ascii, larger.get());
-        bytes = std::move(larger);
+        if (tryAscii) {
+            std::unique_ptr<char[]> larger(new char[ascii + kLongest * text.size() + kSlack + 1]);
+            out = std::copy_n(bytes.get(), ascii, larger.get());
+            bytes = std::move(larger);
+        }
         out = encode(text.data(), text.data() + text.size(), out);
     }
     *out = '\0';
@@ -236,15 +260,23 @@ char* wideToUtf8(std::wstring_view text)
 
 std::wstring qStringToWide(const QString& text)
 {
-    const auto* const p = reinterpret_cast<const char16_t*>(text.constData());
+    const auto* p = reinterpret_cast<const char16_t*>(text.constData());
     const auto n = static_cast<std::size_t>(text.size());
-    unsigned surrogates = 0;
-    for (std::size_t i = 0; i < n; ++i)
-        surrogates |= isSurrogate(p[i]) ? 1U : 0U;
-    if (!surrogates)
+    const auto isHalf = [](char16_t unit) { return (unit & 0xF800U) == 0xD800U ? 1U : 0U; };
+    if (!anyHas<char16_t>(1, p, n, isHalf))
         return std::wstring(p, p + n);
     std::wstring wide(n, L'\0');
-    wide.resize(static_cast<std::size_t>(text.toWCharArray(wide.data())));
+    wchar_t* out = wide.data();
+    for (const auto* const end = p + n; p != end;) {
+        std::uint32_t code = *p++;
+        if (isSurrogate(code)) {
+            const bool isPair = code < 0xDC00 && p != end && QChar::isLowSurrogate(*p);
+            code = isPair ? QChar::surrogateToUcs4(static_cast<char16_t>(code), *p) : kReplacement;
+            p += isPair ? 1 : 0;
+        }
+        *out++ = static_cast<wchar_t>(code);
+    }
+    wide.resize(static_cast<std::size_t>(out - wide.data()));
     return wide;
 }
 

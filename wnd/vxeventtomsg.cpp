@@ -14,7 +14,7 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
 
-#include <cmath>
+#include <algorithm>
 
 namespace vx::detail {
 namespace {
@@ -31,8 +31,16 @@ LPARAM pack(long x, long y)
     return (static_cast<UINT>(y) << 16) | (static_cast<UINT>(x) & 0xFFFFU);
 }
 
-// Qt's own rounding takes -2.5 to -2.
-LPARAM pack(const QPointF& point) { return pack(std::lround(point.x()), std::lround(point.y())); }
+// Halves away from zero; Qt's own rounding takes -2.5 to -2, and std::lround() is a call.
+long rounded(double value)
+{
+    const double bounded = std::clamp(value, -2147483648.0, 2147483647.0);
+    const int whole = static_cast<int>(bounded);
+    const double rest = bounded - whole;
+    return rest >= 0.5 ? whole + 1L : rest <= -0.5 ? whole - 1L : whole;
+}
+
+LPARAM pack(const QPointF& point) { return pack(rounded(point.x()), rounded(point.y())); }
 
 UINT keyFlags(const QInputEvent& e) { return qt_kb_flag_2_flag(static_cast<UINT>(e.modifiers())); }
 

@@ -9,6 +9,8 @@
 
 #include <QtCore/QEvent>
 
+#include <cstddef>
+
 /// A window message on its way to a window, and its result on the way back.
 class VXMFC_EXPORT VxWinMsgEvent : public QEvent
 {
@@ -20,6 +22,10 @@ public:
     {
     }
     ~VxWinMsgEvent() override;
+
+    /// Blocks of messages that are over serve for the next ones, without a trip to the heap.
+    static void* operator new(std::size_t size);
+    static void operator delete(void* pBlock, std::size_t size);
 
     UINT message;
     WPARAM wParam;
