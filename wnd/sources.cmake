@@ -1,5 +1,6 @@
 vxmfc_sources(FOLDER wnd
   HEADERS
+    wnd/cmdui.h
     wnd/controlmessages.h
     wnd/eventtranslation.h
     wnd/geometry.h
@@ -13,6 +14,7 @@ vxmfc_sources(FOLDER wnd
     wnd/rectfunctions.h
     wnd/resourceids.h
     wnd/sendmessage.h
+    wnd/timers.h
     wnd/virtualkeys.h
     wnd/wincodes.h
     wnd/window.h
@@ -25,6 +27,7 @@ vxmfc_sources(FOLDER wnd
     wnd/winmessages.h
     wnd/winstyles.h
   SOURCES
+    vxcmdui.cpp
     vxcontrolstate.cpp
     vxdefaulthandlers.cpp
     vxeventtomsg.cpp
@@ -41,6 +44,7 @@ vxmfc_sources(FOLDER wnd
     vxseesmessages.cpp
     vxsendmessage.cpp
     vxsignatures.cpp
+    vxtimers.cpp
     vxtranslatemessage.cpp
     vxwindowgeometry.cpp
     vxwindowstate.cpp

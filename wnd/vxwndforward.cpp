@@ -43,6 +43,8 @@ BOOL CWnd_E::IsWindowEnabled() const { return IsWindowEnabled_E(GetSafeHwnd()); 
 BOOL CWnd_E::EnableWindow(BOOL bEnable) { return EnableWindow_E(GetSafeHwnd(), bEnable); }
 BOOL CWnd_E::CloseWindow() { return CloseWindow_E(GetSafeHwnd()); }
 BOOL CWnd_E::UpdateWindow() { return UpdateWindow_E(GetSafeHwnd()); }
+UINT_PTR CWnd_E::SetTimer(UINT_PTR nIDEvent, UINT uElapse, TIMERPROC pfnTimer) { return SetTimer_E(GetSafeHwnd(), nIDEvent, uElapse, pfnTimer); }
+BOOL CWnd_E::KillTimer(UINT_PTR nIDEvent) { return KillTimer_E(GetSafeHwnd(), nIDEvent); }
 int CWnd_E::MessageBox(const wchar_t* lpszText, const wchar_t* lpszCaption, UINT nType) { return MessageBox_E(GetSafeHwnd(), lpszText, lpszCaption, nType); }
 
 BOOL CWnd_E::GetWindowRect(tagRECT* pRect) const { return GetWindowRect_E(GetSafeHwnd(), pRect); }

@@ -3,6 +3,7 @@
 /// geometry, Win32 constants, control ids, hooks.
 #pragma once
 
+#include <VxMFCEmu/wnd/cmdui.h>
 #include <VxMFCEmu/wnd/controlmessages.h>
 #include <VxMFCEmu/wnd/eventtranslation.h>
 #include <VxMFCEmu/wnd/geometry.h>
@@ -15,6 +16,7 @@
 #include <VxMFCEmu/wnd/messagestructs.h>
 #include <VxMFCEmu/wnd/resourceids.h>
 #include <VxMFCEmu/wnd/sendmessage.h>
+#include <VxMFCEmu/wnd/timers.h>
 #include <VxMFCEmu/wnd/virtualkeys.h>
 #include <VxMFCEmu/wnd/wincodes.h>
 #include <VxMFCEmu/wnd/window.h>

@@ -1,18 +1,19 @@
 /// @file globaleventhandler.h
-/// What exists once per process: message functions, keyboard hooks, the temporary-object pool, and
-/// the connections to idle time.
+/// What exists once per process: message functions, keyboard hooks, timers, the temporary-object
+/// pool, and the connections to idle time.
 ///
 /// Threads: GUI thread only.
 #pragma once
 
-#include <VxMFCEmu/types.h>
+#include <VxMFCEmu/wnd/timers.h>
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
-#include <QtCore/QTimer>
 
 #include <map>
+
+class QTimer;
 
 /// A message function: sees messages of the host's main windows; true consumes the message.
 using VxWinMsgFn = bool (*)(tagMSG*);
@@ -43,19 +44,26 @@ public:
     /// Deletes every object of the pool in the order in which they came.
     void RemoveTempObject();
 
+    /// As SetTimer_E() and KillTimer_E().
+    UINT_PTR SetTimer(QWidget* pWidget, UINT_PTR id, UINT elapse, TIMERPROC pfnTimer);
+    bool KillTimer(UINT_PTR id);
+
 public Q_SLOTS:
     /// Clears the pool unless the host is running a command.
     void OnEnterIdle();
 
 private:
     void UpdateAppFilter();
+    void OnTimerWindowDestroyed(QObject* pWidget);
+    void OnTimerDestroyed(QObject* pTimer);
+    void ForgetTimer(const QObject* pTimer);
     bool CallHooks(const QPointer<QObject>& receiver, const tagMSG& msg) const;
     bool CallMsgFns(const QPointer<QObject>& receiver, tagMSG* pMsg) const;
 
     QList<HOOKPROC> m_hooks;
     QList<VxWinMsgFn> m_msgFns;
     QList<QPointer<QObject>> m_tempObjects;
-    std::map<int, QTimer*> m_timers; // of timers without a window
+    std::map<int, QTimer*> m_timers; // by id
     QPointer<QObject> m_pFiltered;   // the application object while it is filtered
 };
 

@@ -22,6 +22,7 @@
 #include <VxMFCEmu/wnd/geometry.h>
 #include <VxMFCEmu/wnd/messagemap.h>
 #include <VxMFCEmu/wnd/messagestructs.h>
+#include <VxMFCEmu/wnd/timers.h>
 #include <VxMFCEmu/wnd/wincodes.h>
 #include <VxMFCEmu/wnd/winmessages.h>
 #include <VxMFCEmu/wnd/winstyles.h>
@@ -224,6 +225,10 @@ public:
     /// Sets the position without sending a message and returns the previous one.
     int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
     int GetScrollPos(int nBar) const;
+
+    /// SetTimer_E() and KillTimer_E() for this window.
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT uElapse, TIMERPROC pfnTimer = nullptr);
+    BOOL KillTimer(UINT_PTR nIDEvent);
 
 Q_SIGNALS:
     void timeOut(unsigned long nIDEvent);
