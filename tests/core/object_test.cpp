@@ -1,3 +1,4 @@
+#include "support/text.h"
 #include "support/waiting.h"
 
 #include <VxMFCEmu/core/cmdtarget.h>
@@ -6,6 +7,8 @@
 #include <gtest/gtest.h>
 
 namespace {
+
+using vxtest::operator""_q;
 
 class Wrapper : public CObject_E
 {
@@ -83,7 +86,7 @@ TEST(Object, AttachBindsBothSides)
     QCoreApplication::sendEvent(&timer, &event);
     EXPECT_EQ(wrapper.events, before) << "the filter is gone";
     wrapper.Detach();
-    EXPECT_EQ(wrapper.log, QStringLiteral("ad")) << "detaching twice does nothing";
+    EXPECT_EQ(wrapper.log, "ad"_q) << "detaching twice does nothing";
     EXPECT_EQ(CObject_E::GetOwner(nullptr), nullptr);
 }
 
@@ -94,49 +97,53 @@ TEST(Object, OwnershipDecidesWhoDeletes)
         QPointer<QTimer> timer = new QTimer;
         Wrapper wrapper;
         ASSERT_EQ(wrapper.Attach(timer, nullptr, external), TRUE);
+        const QPointer<QObject> wrong = new QObject;
+        EXPECT_EQ(wrapper.Attach(wrong, nullptr, external), FALSE);
+        EXPECT_EQ(wrong.isNull(), !external) << "taken over and deleted, unless external";
+        EXPECT_EQ(wrapper.GetImpQObject(), timer);
         wrapper.Detach();
         EXPECT_FALSE(timer.isNull()) << "never at once";
         vxtest::deliverPosted();
         EXPECT_EQ(timer.isNull(), !external);
         delete timer;
-    }
-}
-
-TEST(Object, AWrongClassIsRefused)
-{
-    for (const bool external : {false, true}) {
-        SCOPED_TRACE(external);
-        QPointer<QObject> wrong = new QObject;
-        QTimer kept;
-        Wrapper wrapper;
-        wrapper.Attach(&kept, nullptr, true);
-        EXPECT_EQ(wrapper.Attach(wrong, nullptr, external), FALSE);
-        EXPECT_EQ(wrong.isNull(), !external) << "taken over and deleted, unless external";
-        EXPECT_EQ(wrapper.GetImpQObject(), &kept);
         delete wrong;
     }
     EXPECT_EQ(Wrapper().Attach(nullptr, nullptr, false), FALSE);
 }
 
-TEST(Object, ARefusalByTheHookDetaches)
+TEST(Object, BindingAgainKeepsTheObjectThatIsOwned)
 {
-    Wrapper wrapper;
-    wrapper.accepts = FALSE;
-    QTimer timer;
-    EXPECT_EQ(wrapper.Attach(&timer, nullptr, true), FALSE);
-    EXPECT_EQ(wrapper.log, QStringLiteral("ad"));
-    EXPECT_EQ(CObject_E::GetOwner(&timer), nullptr);
-    wrapper.accepts = 7;
-    EXPECT_EQ(wrapper.Attach(&timer, nullptr, true), 7) << "the hook's own value";
+    for (const bool external : {false, true}) {
+        SCOPED_TRACE(external);
+        const QPointer<QTimer> timer = new QTimer;
+        Wrapper wrapper;
+        wrapper.Attach(timer, nullptr, false);
+        ASSERT_EQ(wrapper.Attach(timer, nullptr, external), TRUE);
+        vxtest::deliverPosted();
+        ASSERT_FALSE(timer.isNull()) << "let go of only to be bound again";
+        EXPECT_EQ(wrapper.GetImpQObject(), timer);
+        EXPECT_EQ(CObject_E::GetOwner(timer), &wrapper);
+        EXPECT_EQ(wrapper.IsExternalImpObj(), external);
+        EXPECT_EQ(wrapper.log, "ada"_q);
+        wrapper.Detach();
+        vxtest::deliverPosted();
+        EXPECT_EQ(timer.isNull(), !external) << "the last binding decides";
+        delete timer;
+    }
 }
 
-TEST(Object, ASecondAttachReplacesTheFirst)
+TEST(Object, WhatIsRefusedAndWhatIsReplaced)
 {
     Wrapper wrapper;
     QTimer first, second;
-    wrapper.Attach(&first, nullptr, true);
+    wrapper.accepts = FALSE;
+    EXPECT_EQ(wrapper.Attach(&first, nullptr, true), FALSE);
+    EXPECT_EQ(wrapper.log, "ad"_q);
+    EXPECT_EQ(CObject_E::GetOwner(&first), nullptr);
+    wrapper.accepts = 7;
+    EXPECT_EQ(wrapper.Attach(&first, nullptr, true), 7) << "the hook's own value";
     wrapper.Attach(&second, nullptr, true);
-    EXPECT_EQ(wrapper.log, QStringLiteral("ada"));
+    EXPECT_EQ(wrapper.log, "adada"_q);
     EXPECT_EQ(CObject_E::GetOwner(&first), nullptr);
     EXPECT_EQ(CObject_E::GetOwner(&second), &wrapper);
 }
@@ -149,7 +156,7 @@ TEST(Object, DestroyedByAnother)
     delete timer;
     EXPECT_EQ(wrapper.GetImpQObject(), nullptr);
     EXPECT_FALSE(wrapper.IsExternalImpObj());
-    EXPECT_EQ(wrapper.log, QStringLiteral("a")) << "OnDetach is not called";
+    EXPECT_EQ(wrapper.log, "a"_q) << "OnDetach is not called";
     CObject_E plain;
     EXPECT_EQ(plain.AttachDefault(&wrapper), TRUE);
     EXPECT_EQ(plain.GetImpQObject()->parent(), &wrapper);
@@ -170,11 +177,10 @@ TEST(Object, KindAndSlots)
     EXPECT_FALSE(wrapper.IsKindOf("QTimer"));
     EXPECT_FALSE(wrapper.IsKindOf(static_cast<const char*>(nullptr)));
     QMetaMethod method;
-    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("APPLY"), method), FALSE);
-    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("objectNameChanged"), method), FALSE)
-        << "a signal";
+    EXPECT_EQ(wrapper.FindSlotMethod("APPLY"_q, method), FALSE);
+    EXPECT_EQ(wrapper.FindSlotMethod("objectNameChanged"_q, method), FALSE) << "a signal";
     EXPECT_FALSE(method.isValid());
-    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("apply"), method), TRUE);
+    EXPECT_EQ(wrapper.FindSlotMethod("apply"_q, method), TRUE);
     EXPECT_EQ(method.methodSignature(), "apply(int)");
 }
 
@@ -198,10 +204,10 @@ TEST_P(SlotTakeOver, FittingSlotsOfTheSameName)
     wrapper.ConnectSlotsFrom(&target, keepOld);
     wrapper.ConnectSlotsFrom(&target, keepOld);
     Q_EMIT source.sent(4);
-    EXPECT_EQ(wrapper.log, QStringLiteral("4")) << "once, and the queued one not yet";
+    EXPECT_EQ(wrapper.log, "4"_q) << "once, and the queued one not yet";
     EXPECT_EQ(target.calls, keepOld ? 4 : 3);
     vxtest::deliverPosted();
-    EXPECT_EQ(wrapper.log, QStringLiteral("4c")) << "of the old connection's type";
+    EXPECT_EQ(wrapper.log, "4c"_q) << "of the old connection's type";
     EXPECT_EQ(target.calls, keepOld ? 5 : 3);
     EXPECT_EQ(functorCalls, 1) << "functors stay";
 }
@@ -219,7 +225,7 @@ TEST(Object, SlotsAreTakenInTheOrderOfTheSenderList)
     wrapper.ConnectSlotsFrom(nullptr, false);
     Q_EMIT source.sent(1);
     // The list begins with the newest connection.
-    EXPECT_EQ(wrapper.log, QStringLiteral("c1"));
+    EXPECT_EQ(wrapper.log, "c1"_q);
     EXPECT_EQ(target.calls, 0);
 }
 
