@@ -1,5 +1,7 @@
 #include <VxMFCEmu/wnd/windowstyle.h>
 
+#include "support/text.h"
+
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtWidgets/QWidget>
@@ -18,42 +20,33 @@ void setStyle(QWidget& widget, const char* style)
 TEST(WindowStyle, FlagsAndStates)
 {
     constexpr Qt::WindowFlags none;
-    struct
-    {
-        int line;
-        const char* style;
-        Qt::WindowFlags flags;
-        Qt::WindowStates states;
-    } const rows[] = {
-        {__LINE__, "WS_MAXIMIZE", none, Qt::WindowMaximized},
-        {__LINE__, "WS_ICONIC", none, Qt::WindowMinimized},
-        {__LINE__, "WS_MINIMIZEBOX", Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
-        {__LINE__, "WS_MAXIMIZEBOX", Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
-        {__LINE__, "WS_MAXIMIZE|WS_ICONIC", none, Qt::WindowMinimized},
-        {__LINE__, "WS_THICKFRAME", Qt::Window, {}},
-        {__LINE__, "WS_SIZEBOX", Qt::Window, {}},
-        {__LINE__, "WS_DLGFRAME", Qt::Window, {}},
-        {__LINE__, "WS_CHILDWINDOW", Qt::SubWindow, {}},
-        {__LINE__, "WS_CHILD|WS_POPUP", none, {}},
-        {__LINE__, "WS_POPUP", Qt::FramelessWindowHint, {}},
-        {__LINE__, "WS_POPUP|WS_CAPTION", none, {}},
-        {__LINE__,
-         "WS_POPUPWINDOW",
-         Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint,
-         {}},
-        {__LINE__, "ws_popup", none, {}},
-        {__LINE__, "", none, {}},
+    const vxtest::Row<const char*, Qt::WindowFlags, Qt::WindowStates> rows[] = {
+        {"WS_MAXIMIZE", none, Qt::WindowMaximized},
+        {"WS_ICONIC", none, Qt::WindowMinimized},
+        {"WS_MINIMIZEBOX", Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
+        {"WS_MAXIMIZEBOX", Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
+        {"WS_MAXIMIZE|WS_ICONIC", none, Qt::WindowMinimized},
+        {"WS_THICKFRAME", Qt::Window, {}},
+        {"WS_SIZEBOX", Qt::Window, {}},
+        {"WS_DLGFRAME", Qt::Window, {}},
+        {"WS_CHILDWINDOW", Qt::SubWindow, {}},
+        {"WS_CHILD|WS_POPUP", none, {}},
+        {"WS_POPUP", Qt::FramelessWindowHint, {}},
+        {"WS_POPUP|WS_CAPTION", none, {}},
+        {"WS_POPUPWINDOW", Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint, {}},
+        {"ws_popup", none, {}},
+        {"", none, {}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    for (const auto& [style, flags, states] : rows) {
+        SCOPED_TRACE(style);
         // A child starts without flags of its own.
         QWidget parent;
         auto* const pChild = new QWidget(&parent);
         const Qt::WindowFlags before = pChild->windowFlags();
-        setStyle(*pChild, row.style);
+        setStyle(*pChild, style);
         setupStyle(pChild);
-        EXPECT_EQ(int(pChild->windowFlags()), int(before | row.flags));
-        EXPECT_EQ(int(pChild->windowState()), int(row.states));
+        EXPECT_EQ(int(pChild->windowFlags()), int(before | flags));
+        EXPECT_EQ(int(pChild->windowState()), int(states));
     }
 }
 
