@@ -4,6 +4,8 @@
 #include <VxMFCEmu/core/plex.h>
 #include <VxMFCEmu/core/simplelist.h>
 
+#include "support/text.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -32,20 +34,13 @@ TEST(Plex, LinksBlocksAtTheHead)
 
 TEST(FixedAlloc, SmallRequestsBecomeTheLeast)
 {
-    struct Row
-    {
-        int line;
-        UINT size, block, expectedSize, expectedBlock;
-    };
-    const Row rows[] = {{__LINE__, 3, 1, 8, 64},
-                        {__LINE__, 8, 2, 8, 2},
-                        {__LINE__, 0, 0, 8, 64},
-                        {__LINE__, 9, 3, 9, 3}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.line);
-        const CFixedAllocNoSync_E alloc(row.size, row.block);
-        EXPECT_EQ(alloc.GetAllocSize(), row.expectedSize);
-        EXPECT_EQ(alloc.GetBlockSize(), row.expectedBlock);
+    // wanted size and block, what they become
+    const vxtest::Row<UINT, UINT, UINT, UINT> rows[] = {
+        {3, 1, 8, 64}, {8, 2, 8, 2}, {0, 0, 8, 64}, {9, 3, 9, 3}};
+    for (const auto& [size, block, allocSize, blockSize] : rows) {
+        const CFixedAllocNoSync_E alloc(size, block);
+        EXPECT_EQ(alloc.GetAllocSize(), allocSize) << size;
+        EXPECT_EQ(alloc.GetBlockSize(), blockSize) << size;
     }
 }
 
@@ -115,19 +110,12 @@ TEST(MapPtrToPtr, AgreesWithAStandardMap)
     for (int step = 0; step < 20000; ++step) {
         void* const k = key(random() % 900 * 16);
         void* const v = key(random());
-        switch (random() % 5) {
-        case 0:
-        case 1:
-            map.SetAt(k, v);
+        const auto action = random() % 5;
+        if (action < 3) {
+            action < 2 ? map.SetAt(k, v) : void(map[k] = v);
             expected[k] = v;
-            break;
-        case 2:
-            map[k] = v;
-            expected[k] = v;
-            break;
-        default:
+        } else {
             ASSERT_EQ(map.RemoveKey(k), expected.erase(k) ? TRUE : FALSE);
-            break;
         }
         ASSERT_EQ(map.GetCount(), static_cast<INT_PTR>(expected.size()));
     }
