@@ -1,16 +1,8 @@
-#include <VxMFCEmu/coll/file.h>
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/text/vxqstring.h>
-
-#include "support/text.h"
-
-#include <QtCore/QTemporaryDir>
+#include "support/test.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <functional>
-#include <thread>
 
 namespace {
 
@@ -53,7 +45,7 @@ protected:
 
 TEST_F(FileTest, RecordsNameQFileAndNoFactory)
 {
-    const vxtest::Row<const CRuntimeClass_E*, const char*> rows[] = {
+    const Row<const CRuntimeClass_E*, const char*> rows[] = {
         {RUNTIME_CLASS_E(CFile_E), "CFile_E"},
         {RUNTIME_CLASS_E(CStdioFile_E), "CStdioFile_E"},
         {RUNTIME_CLASS_E(CMemFile_E), "CMemFile_E"}};
@@ -74,19 +66,14 @@ TEST_F(FileTest, OpenModes)
     constexpr UINT odd = CFile_E::shareExclusive | CFile_E::typeBinary;
     constexpr UINT read = CFile_E::modeRead, write = CFile_E::modeWrite;
     constexpr UINT both = CFile_E::modeReadWrite;
-    // mode; content before, null for no file; content once "Z" has been written, if it may be,
-    // null when the file is not found
-    const vxtest::Row<UINT, const char*, const char*> rows[] = {
+    // before: null for no file; after: once "Z" has been written, if it may be, null if not found
+    const Row<UINT, const char*, const char*> rows[] = {
         {read, "abc", "abc"},         {read | odd, "abc", "abc"},    {read, nullptr, nullptr},
         {write, nullptr, nullptr},    {write, "abc", "Zbc"},         {both, "abc", "Zbc"},
         {write | create, "abc", "Z"}, {both | create, nullptr, "Z"}, {write | keep, "abc", "Zbc"},
         {write | keep, nullptr, "Z"}, {read | create, "abc", ""},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const UINT mode = std::get<0>(row);
-        const char* const before = std::get<1>(row);
-        const char* const after = std::get<2>(row);
+    forRows(rows, [&](UINT mode, const char* before, const char* after) {
         QFile::remove(VxQString(Path()));
         if (before)
             Make(before);
@@ -108,7 +95,7 @@ TEST_F(FileTest, OpenModes)
             EXPECT_EQ(error.m_lOsError, ENOENT);
             EXPECT_STREQ(error.m_strFileName.GetString(), Path().GetString());
         }
-    }
+    });
 }
 
 TEST_F(FileTest, ReadsSeeksAndCuts)
@@ -227,8 +214,7 @@ Lines piecesOf(CStdioFile_E& file, UINT nMax)
 
 TEST_F(FileTest, TextLines)
 {
-    // bytes, type, lines, longest piece, pieces
-    const vxtest::Row<const char*, UINT, Lines, UINT, Lines> rows[] = {
+    const Row<const char*, UINT, Lines, UINT, Lines> rows[] = {
         {"", 0, {}, 8, {}},
         {"ab\ncd", 0, {L"ab", L"cd"}, 8, {L"ab\n", L"cd"}},
         {"ab\r\n\r\nc\r", 0, {L"ab", L"", L"c\r"}, 8, {L"ab\n", L"\n", L"c\r"}},
@@ -239,14 +225,13 @@ TEST_F(FileTest, TextLines)
         {"\uFEFFa\n", 0, {L"a"}, 8, {L"a\n"}},
         {"a\xFF\n", 0, {L"a\uFFFD"}, 8, {L"a\uFFFD\n"}},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [bytes, type, lines, nMax, pieces] = row;
-        CStdioFile_E file(Make(bytes), CFile_E::modeRead | type);
-        EXPECT_EQ(linesOf(file), lines);
-        file.SeekToBegin();
-        EXPECT_EQ(piecesOf(file, nMax), pieces);
-    }
+    forRows(rows,
+            [&](const char* bytes, UINT type, const Lines& lines, UINT nMax, const Lines& pieces) {
+                CStdioFile_E file(Make(bytes), CFile_E::modeRead | type);
+                EXPECT_EQ(linesOf(file), lines);
+                file.SeekToBegin();
+                EXPECT_EQ(piecesOf(file, nMax), pieces);
+            });
 }
 
 TEST_F(FileTest, TextIsWrittenAsItStands)

@@ -1,20 +1,10 @@
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/dlg/messagebox.h>
-
-#include "support/text.h"
-#include "support/waiting.h"
+#include "support/test.h"
 #include "support/xinput.h"
 
 #include <QtTest/QTest>
-
 #include <X11/keysym.h>
 
-#include <thread>
-
 namespace {
-
-using vxtest::operator""_q;
-using vxtest::Row;
 
 QMessageBox* openBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 
@@ -76,11 +66,9 @@ TEST(MessageBox, ButtonsAndTheirAnswers)
          {IDCANCEL, IDTRYAGAIN, IDCONTINUE},
          IDCANCEL},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const UINT type = std::get<0>(row);
-        const QStringList texts = QString::fromLatin1(std::get<1>(row)).split(u'|');
-        const std::vector<int>& results = std::get<2>(row);
+    forRows(rows, [](UINT type, const char* buttons, const auto& results, int closeResult) {
+        const auto show = [type] { return showSet(type); };
+        const QStringList texts = QString::fromLatin1(buttons).split(u'|');
         for (int i = 0; i < 4; ++i) {
             const int first = i < texts.size() ? i : 0;
             const auto byReturn = [&](QMessageBox& box) {
@@ -92,15 +80,13 @@ TEST(MessageBox, ButtonsAndTheirAnswers)
             EXPECT_EQ(withBox([&] { return showSet(type | UINT(i) * MB_DEFBUTTON2); }, byReturn),
                       results[std::size_t(first)]);
             if (i < texts.size() && texts[i] != "OK"_q && texts[i] != "Cancel"_q) {
-                EXPECT_EQ(withBox([&] { return showSet(type); }, pressKey(texts[i][0].unicode())),
-                          results[std::size_t(i)]);
+                EXPECT_EQ(withBox(show, pressKey(texts[i][0].unicode())), results[std::size_t(i)]);
             }
         }
         const auto close = [](QMessageBox& box) { box.close(); };
-        const auto show = [type] { return showSet(type); };
-        EXPECT_EQ(withBox(show, close), std::get<3>(row));
-        EXPECT_EQ(withBox(show, pressKey(Qt::Key_Escape)), std::get<3>(row));
-    }
+        EXPECT_EQ(withBox(show, close), closeResult);
+        EXPECT_EQ(withBox(show, pressKey(Qt::Key_Escape)), closeResult);
+    });
 }
 
 TEST(MessageBox, RealKeys)
@@ -127,22 +113,19 @@ TEST(MessageBox, TextCaptionIconAndOwner)
         {MB_ICONEXCLAMATION | MB_TOPMOST, QMessageBox::Warning, true},
         {MB_ICONASTERISK | MB_SYSTEMMODAL, QMessageBox::Information, true},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const UINT type = std::get<0>(row);
+    forRows(rows, [&](UINT type, QMessageBox::Icon icon, bool onTop) {
         withBox([&] { return MessageBox_E(&owner, L"<b>%1</b>\r\n\U0001F600", L"cap", type); },
                 [&](QMessageBox& box) {
                     EXPECT_EQ(box.text(), "<b>%1</b>\n\U0001F600"_q);
                     EXPECT_EQ(box.textFormat(), Qt::PlainText);
                     EXPECT_EQ(box.windowTitle(), "cap"_q);
-                    EXPECT_EQ(box.icon(), std::get<1>(row));
-                    EXPECT_EQ(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint),
-                              std::get<2>(row));
+                    EXPECT_EQ(box.icon(), icon);
+                    EXPECT_EQ(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint), onTop);
                     EXPECT_EQ(box.parentWidget(), &owner);
                     EXPECT_TRUE(box.isModal());
                     box.done(0);
                 });
-    }
+    });
     withBox([] { return MessageBox_E(nullptr, nullptr, nullptr); },
             [](QMessageBox& box) {
                 EXPECT_EQ(box.text(), QString());
@@ -208,16 +191,15 @@ TEST(ReportError, ShowsTheMessageOrAResource)
         {&silent, 0, "#61472"},
         {&_simpleUserException, 12, "CException"},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        EXPECT_EQ(
-            withBox([&] { return std::get<0>(row)->ReportError(MB_RETRYCANCEL, std::get<1>(row)); },
-                    [&](QMessageBox& box) {
-                        EXPECT_EQ(box.text().toStdString(), std::get<2>(row));
-                        QTest::keyClick(&box, Qt::Key_R);
-                    }),
-            IDRETRY);
-    }
+    forRows(rows, [](CException_E* pException, UINT nID, const char* text) {
+        const auto show = [&] { return pException->ReportError(MB_RETRYCANCEL, nID); };
+        EXPECT_EQ(withBox(show,
+                          [&](QMessageBox& box) {
+                              EXPECT_EQ(box.text().toStdString(), text);
+                              QTest::keyClick(&box, Qt::Key_R);
+                          }),
+                  IDRETRY);
+    });
 }
 
 } // namespace

@@ -1,15 +1,8 @@
-#include <VxMFCEmu/text.h>
+#include "support/test.h"
 
-#include "support/text.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <stdexcept>
 
 namespace {
-
-using vxtest::Row;
 
 constexpr const wchar_t* kNull = nullptr;
 
@@ -39,11 +32,11 @@ TEST(CString, ConstructionAndAssignment)
     EXPECT_EQ(s = "\u4E2D", L"\u4E2D");
     EXPECT_EQ(s = reinterpret_cast<const unsigned char*>("\u00E9"), L"\u00E9");
     EXPECT_EQ(s = kNull, L"");
-    s = QStringLiteral("q");
+    s = "q"_q;
     s += L'1';
     s += L"23";
     s += kNull;
-    s += QStringLiteral("4");
+    s += "4"_q;
     s += CString_E(L"5");
     s += "\u00E9";
     s.AppendChar(L'!');
@@ -98,11 +91,11 @@ TEST(CString, Operators)
     const CString_E b(L"beta");
     EXPECT_TRUE(a == a && a != b && a < b && b > a && a <= a && b >= a);
     EXPECT_TRUE(a == L"alpha" && L"alpha" == a && a != L"b" && L"b" > a && a < L"b");
-    EXPECT_TRUE(a == "alpha" && a == QStringLiteral("alpha") && CString_E(L"c") == L'c');
+    EXPECT_TRUE(a == "alpha" && a == "alpha"_q && CString_E(L"c") == L'c');
     EXPECT_TRUE(CString_E() == kNull && a != kNull);
     EXPECT_TRUE(CString_E(L"a\0b", 3) != L"a");
     EXPECT_EQ(a + b, L"alphabeta");
-    EXPECT_EQ(L"<" + a + L'|' + b + "\u00E9" + QStringLiteral(">") + kNull, L"<alpha|beta\u00E9>");
+    EXPECT_EQ(L"<" + a + L'|' + b + "\u00E9" + ">"_q + kNull, L"<alpha|beta\u00E9>");
     EXPECT_EQ(L'c' + a, L"calpha");
     CString_E s(L"self");
     EXPECT_EQ(std::move(s) + s.GetString(), L"selfself");
@@ -121,12 +114,10 @@ TEST(CString, Comparison)
         {L"\U0001F600", L"\uFFFD", 1, 1},
     };
     const auto sign = [](int n) { return (n > 0) - (n < 0); };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [left, right, order, orderNoCase] = row;
+    forRows(rows, [&](const wchar_t* left, const wchar_t* right, int order, int orderNoCase) {
         EXPECT_EQ(sign(CString_E(left).Compare(right)), order);
         EXPECT_EQ(sign(CString_E(left).CompareNoCase(right)), orderNoCase);
-    }
+    });
     EXPECT_EQ(CString_E(L"x").Collate(L"x"), 0);
     EXPECT_LT(CString_E(L"a").Collate(L"b"), 0);
     EXPECT_NE(CString_E(L"A").Collate(L"a"), 0);
@@ -213,13 +204,12 @@ TEST(CString, Changing)
         {L"ab\U0001F600", [](CString_E& s) { return s.MakeReverse().GetLength(); }, 3,
          L"\U0001F600ba"},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [text, change, result, expected] = row;
-        CString_E s(text);
-        EXPECT_EQ(change(s), result);
-        EXPECT_EQ(s, expected);
-    }
+    forRows(rows,
+            [&](const wchar_t* text, const Change& change, int result, const wchar_t* expected) {
+                CString_E s(text);
+                EXPECT_EQ(change(s), result);
+                EXPECT_EQ(s, expected);
+            });
     CString_E s(L"abc");
     for (const int index : {-1, 4}) {
         EXPECT_THROW(s.Insert(index, L'x'), std::out_of_range);

@@ -1,11 +1,4 @@
-#include <VxMFCEmu/core.h>
-#include <VxMFCEmu/text.h>
-
-#include "support/text.h"
-
-#include <gtest/gtest.h>
-
-#include <thread>
+#include "support/test.h"
 
 #include <dlfcn.h>
 
@@ -87,7 +80,7 @@ TEST(LoadString, ReadsTheCallersTable)
 
     const Plugin gizmo("libGizmo.so.2");
     auto* const load = gizmo.find<BOOL(CString_E*, UINT)>("pluginLoad");
-    const vxtest::Row<UINT, BOOL, const wchar_t*> rows[] = {
+    const Row<UINT, BOOL, const wchar_t*> rows[] = {
         {101, TRUE, L"Gizmo, ready"},
         {102, TRUE, L"图层 \"%s\""},
         {103, TRUE, L"one, two, three"},
