@@ -1,16 +1,6 @@
-#include <VxMFCEmu/core/fixedalloc.h>
-#include <VxMFCEmu/core/mapptrtoptr.h>
-#include <VxMFCEmu/core/notrackobject.h>
-#include <VxMFCEmu/core/plex.h>
-#include <VxMFCEmu/core/simplelist.h>
-
-#include "support/text.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <cstring>
-#include <map>
-#include <random>
 
 namespace {
 
@@ -35,7 +25,7 @@ TEST(Plex, LinksBlocksAtTheHead)
 TEST(FixedAlloc, SmallRequestsBecomeTheLeast)
 {
     // wanted size and block, what they become
-    const vxtest::Row<UINT, UINT, UINT, UINT> rows[] = {
+    const Row<UINT, UINT, UINT, UINT> rows[] = {
         {3, 1, 8, 64}, {8, 2, 8, 2}, {0, 0, 8, 64}, {9, 3, 9, 3}};
     for (const auto& [size, block, allocSize, blockSize] : rows) {
         const CFixedAllocNoSync_E alloc(size, block);
@@ -111,12 +101,14 @@ TEST(MapPtrToPtr, AgreesWithAStandardMap)
         void* const k = key(random() % 900 * 16);
         void* const v = key(random());
         const auto action = random() % 5;
-        if (action < 3) {
-            action < 2 ? map.SetAt(k, v) : void(map[k] = v);
-            expected[k] = v;
-        } else {
+        if (action > 2)
             ASSERT_EQ(map.RemoveKey(k), expected.erase(k) ? TRUE : FALSE);
-        }
+        else
+            expected[k] = v;
+        if (action == 2)
+            map[k] = v;
+        else if (action < 2)
+            map.SetAt(k, v);
         ASSERT_EQ(map.GetCount(), static_cast<INT_PTR>(expected.size()));
     }
     std::map<void*, void*> walked;

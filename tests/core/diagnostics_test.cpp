@@ -1,21 +1,9 @@
-#include <VxMFCEmu/coll/file.h>
-#include <VxMFCEmu/core/dumpcontext.h>
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/core/memorystate.h>
-
-#include "support/text.h"
-
-#include <QtCore/QProcess>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QTemporaryDir>
+#include "support/test.h"
 
 #include <cinttypes>
-#include <functional>
 #include <stdexcept>
 
 namespace {
-
-using vxtest::operator""_q;
 
 /// What dumping writes.
 template <typename Dump>
@@ -42,7 +30,7 @@ TEST(DumpContext, WritesValues)
 {
     using Dump = std::function<void(CDumpContext_E&)>;
     const CObject_E object;
-    const vxtest::Row<Dump, std::wstring> rows[] = {
+    const Row<Dump, std::wstring> rows[] = {
         {[](auto& dc) { dc << L"a\nb"; }, L"a\nb"},
         {[](auto& dc) { dc << static_cast<const wchar_t*>(nullptr); }, L"NULL"},
         {[](auto& dc) { dc << static_cast<const char*>(nullptr); }, L"(NULL)"},

@@ -1,9 +1,6 @@
-#include <VxMFCEmu/core/exceptions.h>
-
-#include "support/text.h"
+#include "support/test.h"
 
 #include <cerrno>
-#include <memory>
 #include <stdexcept>
 
 namespace {
@@ -44,7 +41,7 @@ struct PlainException : CException_E
 
 TEST(Exceptions, SharedOnesAreThrownAgainAndSurviveDelete)
 {
-    const vxtest::Row<void (*)(), CException_E*> rows[] = {
+    const Row<void (*)(), CException_E*> rows[] = {
         {&AfxThrowMemoryException_E, &_simpleMemoryException},
         {&AfxThrowNotSupportedException_E, &_simpleNotSupportedException},
         {&AfxThrowInvalidArgException_E, &_simpleInvalidArgException},
@@ -62,6 +59,7 @@ TEST(Exceptions, SharedOnesAreThrownAgainAndSurviveDelete)
 
 TEST(Exceptions, DeleteFollowsTheAutoDeleteFlag)
 {
+    PlainException::s_deaths = 0;
     auto* const p = new PlainException(FALSE);
     for (const BOOL flag : {FALSE, -1, TRUE}) {
         EXPECT_EQ(PlainException::s_deaths, 0);
@@ -86,28 +84,22 @@ TEST(Exceptions, RecordsCannotTellKindsApart)
     EXPECT_EQ(RUNTIME_CLASS_E(COleException_E)->GetObjectSize(), 48);
 }
 
-TEST(Exceptions, SimpleMessageIsCutWithoutATerminator)
+TEST(Exceptions, SimpleMessageIsCutWithoutATerminatorAndTheBaseHasNone)
 {
-    wchar_t buffer[12];
-    std::fill(std::begin(buffer), std::end(buffer), L'#');
-    EXPECT_TRUE(_simpleUserException.GetErrorMessage(buffer, 4));
-    EXPECT_EQ(std::wstring(buffer, 12), L"CExc########");
-    EXPECT_FALSE(_simpleUserException.GetErrorMessage(nullptr, 4));
-    EXPECT_FALSE(_simpleUserException.GetErrorMessage(buffer, 0));
-}
-
-TEST(Exceptions, BaseHasNoMessage)
-{
+    std::wstring buffer(12, L'#');
+    EXPECT_TRUE(_simpleUserException.GetErrorMessage(buffer.data(), 4));
+    EXPECT_EQ(buffer, L"CExc########");
+    EXPECT_FALSE(_simpleUserException.GetErrorMessage(nullptr, 4) ||
+                 _simpleUserException.GetErrorMessage(buffer.data(), 0));
     PlainException e;
-    wchar_t buffer[] = L"old";
     UINT help = 5;
-    EXPECT_FALSE(e.GetErrorMessage(buffer, 4, &help));
-    EXPECT_STREQ(buffer, L"");
+    EXPECT_FALSE(e.GetErrorMessage(buffer.data(), 4, &help));
+    EXPECT_STREQ(buffer.c_str(), L"");
     EXPECT_EQ(help, 0U);
     EXPECT_FALSE(e.GetErrorMessage(nullptr, 0, nullptr));
 }
 
-TEST(FileException, CausesOfErrnoNumbers)
+TEST(FileException, CausesOfErrorNumbers)
 {
     const std::map<int, int> special = {{1, 5},   {2, 2},  {5, 10}, {9, 6},   {13, 5},
                                         {22, 10}, {23, 2}, {24, 4}, {28, 13}, {36, 11}};
@@ -115,20 +107,16 @@ TEST(FileException, CausesOfErrnoNumbers)
         const auto it = special.find(n);
         EXPECT_EQ(CFileException_E::ErrnoToException(n), it == special.end() ? 1 : it->second) << n;
     }
-}
-
-TEST(FileException, CausesOfOsErrors)
-{
     const std::map<int, int> some = {{0, 0},   {18, 2},   {267, 3},  {113, 4},     {999, 5},
                                      {193, 6}, {145, 7},  {62, 8},   {132, 9},     {997, 10},
                                      {32, 11}, {167, 12}, {112, 13}, {38, 14},     {1, 1},
                                      {998, 1}, {1000, 1}, {-1, 1},   {INT_MIN, 1}, {INT_MAX, 1}};
     for (const auto& [number, cause] : some)
         EXPECT_EQ(CFileException_E::OsErrorToException(number), cause) << number;
-    int special = 0;
+    int count = 0; // of those with a cause of their own
     for (int n = 0; n < 1010; ++n)
-        special += CFileException_E::OsErrorToException(n) != CFileException_E::genericException;
-    EXPECT_EQ(special, 79);
+        count += CFileException_E::OsErrorToException(n) != CFileException_E::genericException;
+    EXPECT_EQ(count, 79);
 }
 
 TEST(FileException, ThrowsFromErrorNumbers)
@@ -185,7 +173,7 @@ TEST(OleException, ProcessReadsTheStatusCodePosition)
     const CFileException_E file(CFileException_E::badSeek);
     const CArchiveException_E archive(CArchiveException_E::badClass);
     const COleDispatchException_E dispatch(L"d", 0, 0xFFF0);
-    const vxtest::Row<const CException_E*, SCODE> rows[] = {
+    const Row<const CException_E*, SCODE> rows[] = {
         {&ole, 42}, {&file, 9}, {&archive, 6}, {&dispatch, 0xFFF0}, {nullptr, E_UNEXPECTED}};
     for (const auto& [pException, code] : rows)
         EXPECT_EQ(COleException_E::Process(pException), code) << code;
@@ -195,12 +183,12 @@ TEST(OleDispatchException, HelpContextAndDescription)
 {
     const auto pText =
         caught<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, L"why", 0x10); });
-    EXPECT_EQ(pText->m_wCode, 3);
-    EXPECT_EQ(pText->m_dwHelpContext, 0x60010U);
-    EXPECT_EQ(messageOf(*pText), L"why");
     const auto pId = caught<COleDispatchException_E>(
         [] { AfxThrowOleDispatchException_E(3, 0x20U, 0xFFFFFFFFU); });
+    EXPECT_EQ(pText->m_wCode, 3);
+    EXPECT_EQ(pText->m_dwHelpContext, 0x60010U);
     EXPECT_EQ(pId->m_dwHelpContext, 0x60020U);
+    EXPECT_EQ(messageOf(*pText), L"why");
     EXPECT_EQ(messageOf(*pId), L"AfxThrowOleDispatchException");
     EXPECT_EQ(COleDispatchException_E(nullptr, 0, 1).m_dwHelpContext, 0U);
 }

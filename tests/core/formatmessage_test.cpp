@@ -1,9 +1,6 @@
-#include <VxMFCEmu/core/lasterror.h>
-
-#include "support/text.h"
+#include "support/test.h"
 
 #include <cerrno>
-#include <thread>
 
 namespace {
 
@@ -25,7 +22,7 @@ TEST(FormatMessage, IntoTheCallersBuffer)
 {
     const wchar_t* const system5 = L"system error! error number: 5";
     // flags, source, id, size; length and text, null when the buffer stays as it is
-    const vxtest::Row<DWORD, const wchar_t*, DWORD, DWORD, DWORD, const wchar_t*> rows[] = {
+    const Row<DWORD, const wchar_t*, DWORD, DWORD, DWORD, const wchar_t*> rows[] = {
         {0, nullptr, 5, 100, 29, system5},
         {0, nullptr, 5, 29, 29, system5},
         {0, nullptr, 5, 28, 27, L"system error! error number:"},
@@ -38,15 +35,14 @@ TEST(FormatMessage, IntoTheCallersBuffer)
         {0, L"abc", 0, 0, 0, nullptr},
         {kAllocate, L"abc", 0, 100, 0, nullptr},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [flags, source, id, size, length, text] = row;
+    forRows(rows, [&](DWORD flags, const wchar_t* source, DWORD id, DWORD size, DWORD length,
+                      const wchar_t* text) {
         std::wstring buffer(128, L'#');
         EXPECT_EQ(FormatMessage_E(flags, source, id, 0, buffer.data(), size, nullptr), length);
         EXPECT_EQ(std::wstring(buffer.data(), text ? length + 1 : 1),
                   text ? std::wstring(text) + L'\0' : std::wstring(L"#"));
         EXPECT_EQ(buffer[length + 1], L'#');
-    }
+    });
     EXPECT_EQ(FormatMessage_E(0, nullptr, 1, 0, static_cast<wchar_t*>(nullptr), 9, nullptr), 0U);
 }
 

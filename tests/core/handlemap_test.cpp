@@ -1,8 +1,4 @@
-#include <VxMFCEmu/core/handlemap.h>
-#include <VxMFCEmu/core/modulestate.h>
-#include <VxMFCEmu/gdi.h>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 

@@ -1,16 +1,4 @@
-#include <VxMFCEmu/core/extensionmodule.h>
-#include <VxMFCEmu/core/handlemap.h>
-#include <VxMFCEmu/core/modulestate.h>
-#include <VxMFCEmu/core/threadlocal.h>
-#include <VxMFCEmu/core/threadslots.h>
-#include <VxMFCEmu/gdi.h>
-#include <VxMFCEmu/sys/memory.h>
-
-#include "support/text.h"
-
-#include <gtest/gtest.h>
-
-#include <thread>
+#include "support/test.h"
 
 namespace {
 
@@ -30,7 +18,7 @@ TEST(ModuleState, OneOfEachInTheProcess)
 TEST(ModuleState, MapsAreMadeOnRequest)
 {
     using Field = CHandleMap_E* AFX_MODULE_THREAD_STATE_E::*;
-    const vxtest::Row<CHandleMap_E* (*)(BOOL), Field> rows[] = {
+    const Row<CHandleMap_E* (*)(BOOL), Field> rows[] = {
         {afxMapHDC_E, &AFX_MODULE_THREAD_STATE_E::m_pmapHDC},
         {afxMapHGDIOBJ_E, &AFX_MODULE_THREAD_STATE_E::m_pmapHGDIOBJ},
         {afxMapHIMAGELIST_E, &AFX_MODULE_THREAD_STATE_E::m_pmapHIMAGELIST},

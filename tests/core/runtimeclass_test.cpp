@@ -1,9 +1,4 @@
-#include <VxMFCEmu/core/cmdtarget.h>
-
-#include "support/text.h"
-
-#include <QtWidgets/QtWidgets>
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -78,16 +73,14 @@ TEST(RuntimeClass, WhatCanImplementIt)
     const auto listed =
         record(button, object, nullptr, CRuntimeClass_E::CreateMetaList(dial, slider, none));
     const auto empty = record(button, object, nullptr, CRuntimeClass_E::CreateMetaList(none));
-    const vxtest::Row<const CRuntimeClass_E*, const QMetaObject*, bool> rows[] = {
+    const Row<const CRuntimeClass_E*, const QMetaObject*, bool> rows[] = {
         {&single, slider, true},   {&single, abstractSlider, true},  {&single, button, false},
         {&single, nullptr, false}, {&listed, slider, true},          {&listed, dial, true},
         {&listed, button, false},  {&listed, abstractSlider, false}, {&empty, button, false},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [pRecord, meta, fits] = row;
+    forRows(rows, [&](const CRuntimeClass_E* pRecord, const QMetaObject* meta, bool fits) {
         EXPECT_EQ(pRecord->IsMyImpMeta(meta), fits);
-    }
+    });
 }
 
 TEST(RuntimeClass, ANullFactoryIsNotRegistered)

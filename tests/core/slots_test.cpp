@@ -1,10 +1,6 @@
-#include <VxMFCEmu/core/threadlocal.h>
-#include <VxMFCEmu/core/threadslots.h>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <future>
-#include <thread>
 
 namespace {
 
