@@ -1,24 +1,25 @@
 // The arguments that a handler got, as text.
 #pragma once
 
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include <QtCore/QStringList>
+#include "support/test.h"
 
 namespace vxtest {
+
+constexpr WPARAM kW = 0xFFFFFFFF8001FFFE;
+constexpr LPARAM kL = static_cast<LPARAM>(0xFFFFFFFF8002FFFD);
 
 /// A number in hex by its size, a point as "(x y)"; the widget @p own is "w", its window "E:w".
 template <typename T>
 QString argText(const QWidget* own, T value)
 {
     if constexpr (std::is_same_v<T, CPoint_E>)
-        return QStringLiteral("(%1 %2)").arg(value.x).arg(value.y);
+        return "(%1 %2)"_q.arg(value.x).arg(value.y);
     else if constexpr (std::is_same_v<T, CWnd_E*>)
-        return QStringLiteral("E:") + (value ? argText(own, value->GetSafeHwnd()) : QString());
+        return "E:"_q + (value ? argText(own, value->GetSafeHwnd()) : QString());
     else if constexpr (std::is_same_v<T, CScrollBar_E*>)
         return argText(own, reinterpret_cast<CWnd_E*>(value));
     else if constexpr (std::is_convertible_v<T, const QWidget*>)
-        return value == own ? QStringLiteral("w") : argText(own, reinterpret_cast<WPARAM>(value));
+        return value == own ? "w"_q : argText(own, reinterpret_cast<WPARAM>(value));
     else if constexpr (std::is_pointer_v<T>)
         return argText(own, reinterpret_cast<WPARAM>(value));
     else

@@ -1,16 +1,7 @@
 // The road of an event through a bound window, and messages sent and posted.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/text.h"
-#include "support/waiting.h"
-
-#include <QtWidgets/QtWidgets>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
-
-using vxtest::operator""_q;
 
 /// A widget that notes the events it gets itself.
 class TraceWidget : public QWidget
@@ -99,7 +90,7 @@ protected:
 
 TEST_F(DispatchTest, AKeyEndsWithTheFirstThatTakesIt)
 {
-    const vxtest::Row<bool, bool, QString, const char*> rows[] = {
+    const Row<bool, bool, QString, const char*> rows[] = {
         {false, false, "ab"_q, "pre 100,key 41 1 0,pre 102,char 61,pre 102,char 62"},
         {false, true, {}, "pre 100,key 41 1 0,widget key"}, // reaches the widget as it was
         {true, false, "a"_q, "pre 100"},                    // consumed by PreTranslateMessage
@@ -246,14 +237,12 @@ TEST(SetCursorTest, TheOutermostWindowThatWantsTheCursorWins)
 {
     // results of the top and the middle window, whether the child is a window of its own, which
     // asks those that own it all the same; who was asked, result
-    const vxtest::Row<LRESULT, LRESULT, bool, const char*, LRESULT> rows[] = {
-        {0, 0, false, "tmc", 3},
-        {0, 2, false, "tm", 2},
-        {1, 2, false, "t", 1},
-        {4, 2, true, "t", 4}};
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [topResult, middleResult, isDialog, calls, result] = row;
+    const Row<LRESULT, LRESULT, bool, const char*, LRESULT> rows[] = {{0, 0, false, "tmc", 3},
+                                                                      {0, 2, false, "tm", 2},
+                                                                      {1, 2, false, "t", 1},
+                                                                      {4, 2, true, "t", 4}};
+    forRows(rows, [&](LRESULT topResult, LRESULT middleResult, bool isDialog, const char* calls,
+                      LRESULT result) {
         QString trace;
         QWidget topWidget;
         auto* const middleWidget = new QWidget(&topWidget);
@@ -263,7 +252,7 @@ TEST(SetCursorTest, TheOutermostWindowThatWantsTheCursorWins)
         CursorWnd child(trace, childWidget, 'c', 3);
         EXPECT_EQ(child.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(childWidget)), result);
         EXPECT_EQ(trace, QLatin1String(calls));
-    }
+    });
 }
 
 } // namespace

@@ -1,21 +1,6 @@
-#include "support/text.h"
-#include "support/waiting.h"
-
-#include <VxMFCEmu/wnd/eventtranslation.h>
-#include <VxMFCEmu/wnd/geometry.h>
-#include <VxMFCEmu/wnd/messageevent.h>
-
-#include <QtWidgets/QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <set>
+#include "support/test.h"
 
 namespace {
-
-using vxtest::operator""_q;
-using vxtest::Row;
 using EventPtr = std::shared_ptr<QEvent>;
 
 EventPtr mouse(QEvent::Type type, QPointF at, Qt::MouseButton button,
@@ -54,13 +39,8 @@ protected:
 
 TEST_F(Translation, GivesEveryEventItsMessage)
 {
-    const auto L = Qt::LeftButton;
-    const auto R = Qt::RightButton;
-    const auto M = Qt::MiddleButton;
-    const auto X = Qt::XButton1;
-    const auto shift = Qt::ShiftModifier;
-    const auto control = Qt::ControlModifier;
-    const auto alt = Qt::AltModifier;
+    const auto L = Qt::LeftButton, R = Qt::RightButton, M = Qt::MiddleButton, X = Qt::XButton1;
+    const auto shift = Qt::ShiftModifier, control = Qt::ControlModifier, alt = Qt::AltModifier;
     using E = QEvent;
     const Row<EventPtr, WPARAM, WPARAM, LPARAM> rows[] = {
         {std::make_shared<QTimerEvent>(77), 0x113, 77, 0},
@@ -108,14 +88,11 @@ TEST_F(Translation, GivesEveryEventItsMessage)
         {std::make_shared<VxWinMsgEvent>(0xC0DE, ~WPARAM(0), LPARAM(-5)), 0xC0DE, ~WPARAM(0), -5},
     };
     for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [event, message, wParam, lParam] = row;
+        const EventPtr event = std::get<0>(row);
         tagMSG msg{};
         ASSERT_EQ(vxQEventToMsg(&w, event.get(), &msg), TRUE);
         EXPECT_EQ(msg.hwnd, &w);
-        EXPECT_EQ(msg.message, message);
-        EXPECT_EQ(msg.wParam, wParam);
-        EXPECT_EQ(msg.lParam, lParam);
+        EXPECT_EQ(std::tuple(event, msg.message, msg.wParam, msg.lParam), row);
     }
 }
 
@@ -216,8 +193,7 @@ TEST_F(Translation, MakesKeyEvents)
         {0x102, 0x110000, QEvent::KeyPress, 0x110000, QString(QChar(0xFFFD))},
         {0x104, 0x78, QEvent::KeyPress, 0x78, "x"_q},
     };
-    for (const auto& [message, wParam, type, code, text] : rows) {
-        SCOPED_TRACE(testing::Message() << message << ' ' << wParam);
+    forRows(rows, [&](UINT message, WPARAM wParam, int type, int code, const QString& text) {
         for (const QWidget* target : {&w, static_cast<QWidget*>(nullptr)}) {
             const EventPtr e(vxMsgToQEvent(target, message, wParam, 0x12345678));
             ASSERT_EQ(e->type(), type);
@@ -226,7 +202,7 @@ TEST_F(Translation, MakesKeyEvents)
             EXPECT_EQ(event.text(), text);
             EXPECT_EQ(event.modifiers(), Qt::NoModifier);
         }
-    }
+    });
 }
 
 TEST_F(Translation, MakesMouseEvents)
@@ -285,18 +261,6 @@ TEST_F(Translation, CarriesOtherMessagesAsTheyAre)
         check(0x100, key);
 }
 
-TEST_F(Translation, LeavesTheMessageBoxEventAlone)
-{
-    CString_E text(L"Text");
-    VxMsgBoxEvent e(text, L"Caption");
-    text = L"changed";
-    tagMSG msg{};
-    EXPECT_EQ(int(e.type()), 1129);
-    EXPECT_FALSE(vxQEventToMsg(&w, &e, &msg));
-    EXPECT_STREQ(e.text.GetString(), L"Text");
-    EXPECT_STREQ(e.caption.GetString(), L"Caption");
-}
-
 /// Notes the messages that arrive, as text.
 class Recorder : public QObject
 {
@@ -348,11 +312,9 @@ TEST(TranslateMessage, PostsCharactersAndAsksForACursor)
         {std::make_shared<VxWinMsgEvent>(0x201, 0, 0), FALSE, ""},
     };
     Recorder r;
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [event, translated, posted] = row;
+    forRows(rows, [&](const EventPtr& event, BOOL translated, const char* posted) {
         EXPECT_EQ(r.translate(event, translated), posted);
-    }
+    });
     QWidget grabber;
     grabber.show();
     grabber.grabMouse();

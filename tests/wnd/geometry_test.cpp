@@ -1,8 +1,4 @@
-#include <VxMFCEmu/wnd/geometry.h>
-
-#include "support/text.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <climits>
 #include <ostream>
@@ -17,7 +13,7 @@ TEST(Geometry, SetOperations)
     const CRect_E a(0, 0, 10, 10);
     const CRect_E none;
     // other, intersection, union, rest; whether there is an intersection and a rest
-    const vxtest::Row<CRect_E, CRect_E, CRect_E, CRect_E, BOOL, BOOL> rows[] = {
+    const Row<CRect_E, CRect_E, CRect_E, CRect_E, BOOL, BOOL> rows[] = {
         {{5, 5, 15, 15}, {5, 5, 10, 10}, {0, 0, 15, 15}, a, TRUE, TRUE},
         {{10, 0, 20, 10}, none, {0, 0, 20, 10}, a, FALSE, TRUE}, // sides touch
         {{-5, -5, 4, 20}, {0, 0, 4, 10}, {-5, -5, 10, 20}, {4, 0, 10, 10}, TRUE, TRUE},
@@ -28,9 +24,8 @@ TEST(Geometry, SetOperations)
         {{-1, -1, 11, 11}, a, {-1, -1, 11, 11}, none, TRUE, FALSE},
         {{5, 5, 5, 50}, none, a, a, FALSE, TRUE}, // an empty one counts nowhere
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [other, intersection, all, rest, meets, hasRest] = row;
+    forRows(rows, [&](const CRect_E& other, const CRect_E& intersection, const CRect_E& all,
+                      const CRect_E& rest, BOOL meets, BOOL hasRest) {
         CRect_E rc(1, 2, 3, 4);
         EXPECT_EQ(rc.IntersectRect(a, other), meets);
         EXPECT_EQ(rc, intersection);
@@ -39,7 +34,7 @@ TEST(Geometry, SetOperations)
         rc = a;
         EXPECT_EQ(rc.SubtractRect(rc, other), hasRest);
         EXPECT_EQ(rc, rest);
-    }
+    });
     CRect_E rc(1, 2, 3, 4);
     EXPECT_FALSE(rc.UnionRect(none, CRect_E(5, 5, 5, 9)));
     EXPECT_EQ(rc, none);
@@ -117,7 +112,7 @@ TEST(Geometry, PointsAndSizes)
 
 TEST(Geometry, MulDiv)
 {
-    const vxtest::Row<int, int, int, int> rows[] = {
+    const Row<int, int, int, int> rows[] = {
         {7, 1, 2, 4},
         {1, 1, 3, 0},
         {5, 5, 0, -1},

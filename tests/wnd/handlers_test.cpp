@@ -2,18 +2,9 @@
 // two forms.
 #include "argtext.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtWidgets/QAbstractSlider>
-
-#include <gtest/gtest.h>
-
 namespace {
 
-using vxtest::kGiven;
-using vxtest::kInt;
-using vxtest::kUint;
-constexpr WPARAM kW = 0xFFFFFFFF8001FFFE;
-constexpr LPARAM kL = static_cast<LPARAM>(0xFFFFFFFF8002FFFD);
+using namespace vxtest;
 
 // clang-format off
 // macro, message, handler as MFC documents it, its arguments for kW and kL ("w" a window), result
@@ -149,11 +140,9 @@ private:
     template <typename Result, typename Args>
     Result Note(const char* name, const Args& args)
     {
-        const auto text = [&](auto... values) {
-            return vxtest::callText(name, GetSafeHwnd(), values...);
-        };
+        const auto text = [&](auto... values) { return callText(name, GetSafeHwnd(), values...); };
         m_seen << std::apply(text, args);
-        return vxtest::given<Result>(kGiven);
+        return given<Result>(kGiven);
     }
 };
 
@@ -208,8 +197,7 @@ TEST(HandlersTest, EachMacroBringsItsMessageToItsHandler)
         const QString args = QLatin1String(row.args);
         QStringList calls((QLatin1String(row.name) + u' ' + args).trimmed());
         if (row.windowAt != 0)
-            calls << QLatin1String(row.name) + QStringLiteral("_E ") +
-                         QString(args).replace(u'w', QStringLiteral("E:w"));
+            calls << QLatin1String(row.name) + "_E "_q + QString(args).replace(u'w', "E:w"_q);
         EXPECT_EQ(std::exchange(window.m_seen, {}), calls);
     }
     EXPECT_EQ(widget.m_messages, 0) << "handled messages end at the handler";

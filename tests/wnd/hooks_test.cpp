@@ -1,12 +1,5 @@
 // Message functions and keyboard hooks, which see the events of the host's main windows.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/text.h"
-
-#include <QtGui/QKeyEvent>
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 // The host's windows are told by the names of their classes.
 class CTolmView : public QWidget
@@ -27,8 +20,6 @@ class CTolmViewChild : public CTolmView
 };
 
 namespace {
-
-using vxtest::operator""_q;
 
 QStringList g_calls;
 QWidget* g_victim; // what a procedure deletes
@@ -140,7 +131,7 @@ TEST_F(HooksTest, OnlyTheHostsOwnClassesCount)
     CTolmMainFrame frame;
     VxQtCommandBar bar;
     CTolmViewChild derived;
-    const vxtest::Row<QWidget*, bool> rows[] = {
+    const Row<QWidget*, bool> rows[] = {
         {&m_view, true}, {&frame, true}, {&bar, true}, {&derived, false}, {&m_other, false}};
     for (const auto& [widget, seen] : rows)
         EXPECT_EQ(send(*widget, QEvent::KeyPress, Qt::Key_C), seen)

@@ -1,18 +1,12 @@
-#include "support/text.h"
+#include "support/test.h"
 #include "support/xinput.h"
-
-#include <VxMFCEmu/wnd/input.h>
-
-#include <QtCore/QByteArray>
-
-#include <gtest/gtest.h>
 
 #include <X11/keysym.h>
 
 namespace {
 
 // The keys that every PC keyboard layout has: first virtual key, count, first key symbol.
-using KeyRange = vxtest::Row<int, int, unsigned long>;
+using KeyRange = Row<int, int, unsigned long>;
 const KeyRange keyRanges[] = {
     {0x08, 2, XK_BackSpace},   {0x0D, 1, XK_Return},       {0x10, 1, XK_Shift_L},
     {0x10, 1, XK_Shift_R},     {0x11, 1, XK_Control_L},    {0x11, 1, XK_Control_R},

@@ -1,13 +1,7 @@
-#include <VxMFCEmu/wnd/input.h>
-
-#include <QtGui/QKeyEvent>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <climits>
 #include <cstdlib>
-#include <map>
-#include <set>
 #include <string_view>
 
 namespace {
@@ -134,7 +128,7 @@ TEST(RepeatFilter, ReportsAKeyHeldDownOnce)
     repeats(release, Qt::Key_Z);
     EXPECT_FALSE(repeats(press, Qt::Key_A));
     EXPECT_TRUE(repeats(press, Qt::Key_A));
-    EXPECT_TRUE(repeats(press, Qt::Key_A, Qt::NoModifier, QStringLiteral("a")));
+    EXPECT_TRUE(repeats(press, Qt::Key_A, Qt::NoModifier, "a"_q));
     EXPECT_FALSE(IsRepeatFilterKeyEvent(nullptr));
     EXPECT_TRUE(repeats(press, Qt::Key_A));
     EXPECT_FALSE(repeats(press, Qt::Key_A, Qt::ShiftModifier));

@@ -1,23 +1,7 @@
 // Binding, finding, destroying: windows that live, die and die inside their own handlers.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/text.h"
-#include "support/waiting.h"
-
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QMainWindow>
-#include <QtWidgets/QMenuBar>
-#include <QtWidgets/QScrollBar>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <random>
+#include "support/test.h"
 
 namespace {
-
-using vxtest::operator""_q;
 
 constexpr CRect_E kPlace{10, 20, 110, 100};
 

@@ -1,12 +1,6 @@
 // Real keys, clicks, wheel turns, resizes and closes: through the X server to a window's handlers.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/waiting.h"
+#include "support/test.h"
 #include "support/xinput.h"
-
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
 
 #include <X11/keysym.h>
 
@@ -54,7 +48,7 @@ private:
     {
         QString line = QLatin1String(name);
         for (const UINT value : values)
-            line += QStringLiteral(" %1").arg(value, 0, 16);
+            line += " %1"_q.arg(value, 0, 16);
         m_seen << line;
     }
     void Mouse(const char* name, UINT nFlags, CPoint_E at)

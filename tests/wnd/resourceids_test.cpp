@@ -1,17 +1,8 @@
-#include <VxMFCEmu/wnd/resourceids.h>
-#include <VxMFCEmu/wnd/windowtree.h>
-
-#include "support/text.h"
-
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "support/test.h"
 
 TEST(ResourceIds, NamesAndIds)
 {
-    const vxtest::Row<UINT, const char*, UINT> rows[] = {
+    const Row<UINT, const char*, UINT> rows[] = {
         {1001, "m_edit", 1001},
         {4294967295U, "m_last", 4294967295U},
         {1030, "Größe", 1030},
@@ -24,8 +15,8 @@ TEST(ResourceIds, NamesAndIds)
         EXPECT_EQ(ToStringId(id), QString::fromUtf8(name)) << id;
         EXPECT_EQ(ToCtrlId(QString::fromUtf8(name)), idOfName) << id;
     }
-    EXPECT_EQ(ToCtrlId(QStringLiteral("M_EDIT")), 0U);
-    EXPECT_EQ(ToCtrlId(QStringLiteral("no number")), 0U);
+    EXPECT_EQ(ToCtrlId("M_EDIT"_q), 0U);
+    EXPECT_EQ(ToCtrlId("no number"_q), 0U);
     EXPECT_EQ(GetResourceIDMap().size(), 13);
 }
 
@@ -34,9 +25,9 @@ TEST(ResourceIds, DialogItems)
     QWidget dialog;
     auto* const pInner = new QWidget(&dialog);
     auto* const pEdit = new QWidget(pInner);
-    pEdit->setObjectName(QStringLiteral("m_edit"));
+    pEdit->setObjectName("m_edit"_q);
     auto* const pUmlaut = new QWidget(&dialog);
-    pUmlaut->setObjectName(QString::fromUtf8("Größe"));
+    pUmlaut->setObjectName("Größe"_q);
 
     EXPECT_EQ(GetDlgItem_E(&dialog, 1001), pEdit);
     EXPECT_EQ(GetDlgItem_E(&dialog, 1030), pUmlaut);

@@ -1,15 +1,9 @@
 // Every signature number: how a handler's arguments are taken from a message, and its result.
 #include "argtext.h"
 
-#include <gtest/gtest.h>
-
-#include <set>
-
 namespace {
 
-using vxtest::kGiven;
-using vxtest::kInt;
-using vxtest::kUint;
+using namespace vxtest;
 
 class Recorder : public CWnd_E
 {
@@ -17,8 +11,8 @@ public:
     template <typename Result, typename... Args>
     Result Take(Args... args)
     {
-        m_calls << vxtest::callText("", GetSafeHwnd(), args...);
-        return vxtest::given<Result>(m_nGive);
+        m_calls << callText("", GetSafeHwnd(), args...);
+        return given<Result>(m_nGive);
     }
     QStringList m_calls;
     LRESULT m_nGive = kGiven;
@@ -36,8 +30,6 @@ struct Taker<Result(Args...)>
     }
 };
 
-constexpr WPARAM kW = 0xFFFFFFFF8001FFFE;
-constexpr LPARAM kL = static_cast<LPARAM>(0xFFFFFFFF8002FFFD);
 constexpr WPARAM kWindow = 1; // stands for the widget's address
 constexpr LRESULT kUnhandled = 4711;
 

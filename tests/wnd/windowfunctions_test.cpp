@@ -1,17 +1,5 @@
-#include "support/text.h"
-#include "support/waiting.h"
+#include "support/test.h"
 #include "support/xinput.h"
-
-#include <VxMFCEmu/wnd/geometry.h>
-#include <VxMFCEmu/wnd/hostwindows.h>
-#include <VxMFCEmu/wnd/windowfunctions.h>
-#include <VxMFCEmu/wnd/winstyles.h>
-
-#include <QtWidgets/QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace {
 
@@ -90,22 +78,21 @@ TEST_F(WindowTest, DialogUnits)
 TEST_F(WindowTest, SetWindowPosFlags)
 {
     constexpr UINT keep = SWP_NOSIZE | SWP_NOMOVE;
-    const vxtest::Row<UINT, QRect, bool> rows[] = {
+    const Row<UINT, QRect, bool> rows[] = {
         {0, {1, 2, 5, 6}, true},
         {SWP_NOSIZE, {1, 2, 30, 40}, true},
         {SWP_NOMOVE, {10, 20, 5, 6}, true},
         {keep | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
         {keep | SWP_SHOWWINDOW | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
     };
-    for (const auto& [flags, geometry, visible] : rows) {
-        SCOPED_TRACE(flags);
+    forRows(rows, [&](UINT flags, const QRect& geometry, bool visible) {
         m_child->setGeometry(10, 20, 30, 40);
         m_child->show();
         EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 1, 2, 5, 6, flags));
         EXPECT_EQ(m_child->geometry(), geometry);
         EXPECT_EQ(m_child->isVisible(), visible);
         EXPECT_EQ(IsWindowVisible_E(m_child), visible);
-    }
+    });
     EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW));
     EXPECT_TRUE(m_child->isVisible());
     EXPECT_FALSE(SetWindowPos_E(nullptr, m_child, 0, 0, 0, 0, 0));
@@ -116,7 +103,7 @@ TEST_F(WindowTest, StackingOrder)
     constexpr UINT keep = SWP_NOSIZE | SWP_NOMOVE;
     auto* const pSecond = new QWidget(&m_top);
     auto* const pThird = new QWidget(&m_top);
-    const vxtest::Row<HWND, UINT, HWND> rows[] = {
+    const Row<HWND, UINT, HWND> rows[] = {
         {m_child, keep | SWP_NOZORDER, pThird},
         {m_child, keep | SWP_NOOWNERZORDER, pThird},
         {HWND_TOP, keep, pThird},
@@ -126,12 +113,10 @@ TEST_F(WindowTest, StackingOrder)
         {HWND_BOTTOM, keep, pSecond},
     };
     new QDialog(&m_top); // a window of its own is no child to be on top
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [after, flags, top] = row;
+    forRows(rows, [&](HWND after, UINT flags, HWND top) {
         EXPECT_TRUE(SetWindowPos_E(pThird, after, 0, 0, 0, 0, flags));
         EXPECT_EQ(GetTopWindow_E(&m_top), top);
-    }
+    });
 }
 
 TEST_F(WindowTest, ShowWindowKeepsThePlaceOfTopLevelWindows)
@@ -210,7 +195,7 @@ TEST_F(WindowTest, ParentProperty)
     QWidget* const pDangling = pGone.get();
     QObject noWidget;
     EXPECT_EQ(GetParent_E(m_child), &m_top);
-    const vxtest::Row<const QObject*, QWidget*> rows[] = {
+    const Row<const QObject*, QWidget*> rows[] = {
         {&other, &other}, {nullptr, &m_top}, {&noWidget, &m_top}, {pDangling, pDangling}};
     for (const auto& [pSet, pParent] : rows) {
         setParentProperty(m_child, pSet);
@@ -249,7 +234,7 @@ TEST_F(WindowTest, SetParent)
 
 TEST(HostWindows, FoundByNameAmongTopLevelWidgets)
 {
-    const QString strName = QStringLiteral("CTolmMainFrame");
+    const QString strName = "CTolmMainFrame"_q;
     EXPECT_EQ(TolmGetMainFrame(), nullptr);
     EXPECT_EQ(TolmGetViewWindow(), nullptr);
     QWidget holder;

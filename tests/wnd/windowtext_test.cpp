@@ -1,20 +1,6 @@
-#include <VxMFCEmu/text/cstring.h>
-#include <VxMFCEmu/wnd/controlmessages.h>
-#include <VxMFCEmu/wnd/wincodes.h>
-#include <VxMFCEmu/wnd/windowtext.h>
-
-#include "support/text.h"
-
-#include <QtWidgets/QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "support/test.h"
 
 namespace {
-
-using vxtest::operator""_q;
-using vxtest::Row;
 
 template <typename Widget>
 Widget* named(QWidget* pParent, const char* name)
@@ -41,8 +27,7 @@ TEST(WindowText, WhatTheTextIs)
         {std::make_shared<QPlainTextEdit>(), "plainText"},
         {pCombo, "currentText"},
     };
-    for (const auto& [pWidget, property] : rows) {
-        SCOPED_TRACE(pWidget->metaObject()->className());
+    forRows(rows, [&](const std::shared_ptr<QWidget>& pWidget, const char* property) {
         EXPECT_TRUE(SetWindowText_E(pWidget.get(), L"<b>&x\x1F600"));
         EXPECT_EQ(pWidget->property(property), "<b>&x\U0001F600"_q);
         EXPECT_EQ(GetWindowTextLength_E(pWidget.get()), 6);
@@ -51,7 +36,7 @@ TEST(WindowText, WhatTheTextIs)
         EXPECT_EQ(strText.Compare(L"<b>&x\x1F600"), 0);
         EXPECT_TRUE(SetWindowText_E(pWidget.get(), nullptr));
         EXPECT_EQ(GetWindowTextLength_E(pWidget.get()), 0);
-    }
+    });
 }
 
 TEST(WindowText, FixedComboAndSpinBox)
@@ -103,14 +88,12 @@ TEST(DialogItems, Numbers)
         {L"-", TRUE, 0, FALSE},
         {L"x1", TRUE, 0, FALSE},
         {L"0", TRUE, 0, TRUE}};
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [text, isSigned, value, isNumber] = row;
+    forRows(rows, [&](const wchar_t* text, BOOL isSigned, UINT value, BOOL isNumber) {
         EXPECT_TRUE(SetDlgItemText_E(&dialog, 1001, text));
         BOOL translated = 2;
         EXPECT_EQ(GetDlgItemInt_E(&dialog, 1001, &translated, isSigned), value);
         EXPECT_EQ(translated, isNumber);
-    }
+    });
     EXPECT_TRUE(SetDlgItemInt_E(&dialog, 1001, static_cast<UINT>(-7)));
     EXPECT_EQ(pEdit->text(), "-7"_q);
     EXPECT_TRUE(SetDlgItemInt_E(&dialog, 1001, static_cast<UINT>(-7), FALSE));
@@ -142,12 +125,10 @@ TEST(DialogItems, Checks)
         {1001, BST_CHECKED, BST_UNCHECKED, FALSE}, // no button
         {77, BST_CHECKED, BST_UNCHECKED, FALSE},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [id, check, checked, done] = row;
+    forRows(rows, [&](int id, UINT check, UINT checked, BOOL done) {
         EXPECT_EQ(CheckDlgButton_E(&dialog, id, check), done);
         EXPECT_EQ(IsDlgButtonChecked_E(&dialog, id), checked);
-    }
+    });
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(IsDlgButtonChecked_E(nullptr, 1003), UINT{BST_UNCHECKED});
 }
@@ -209,12 +190,11 @@ TEST(Controls, ScrollBars)
         {pBar, SB_CTL, ESB_ENABLE_BOTH, TRUE, true, true, true},
         {nullptr, SB_BOTH, ESB_DISABLE_BOTH, FALSE, true, true, true},
     };
-    for (const auto& row : rows) {
-        VXTEST_TRACE_ROW(row);
-        const auto& [window, bars, arrows, changed, horizontal, vertical, own] = row;
+    forRows(rows, [&](HWND window, UINT bars, UINT arrows, BOOL changed, bool horizontal,
+                      bool vertical, bool own) {
         EXPECT_EQ(EnableScrollBar_E(window, bars, arrows), changed);
         EXPECT_EQ(area.horizontalScrollBar()->isEnabled(), horizontal);
         EXPECT_EQ(area.verticalScrollBar()->isEnabled(), vertical);
         EXPECT_EQ(pBar->isEnabled(), own);
-    }
+    });
 }
