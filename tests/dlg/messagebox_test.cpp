@@ -52,8 +52,7 @@ int showSet(UINT type) { return MessageBox_E(nullptr, L"text", L"caption", type)
 
 TEST(MessageBox, ButtonsAndTheirAnswers)
 {
-    // type, buttons from left to right, their results, that of Escape and the close button (0:
-    // stays)
+    // Buttons from left to right, their results, that of closing the box: 0 when it stays.
     const Row<UINT, const char*, std::vector<int>, int> rows[] = {
         {MB_OK, "OK", {IDOK}, IDOK},
         {MB_OKCANCEL, "OK|Cancel", {IDOK, IDCANCEL}, IDCANCEL},
