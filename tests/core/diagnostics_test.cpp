@@ -99,17 +99,15 @@ TEST(MemoryState, TakesWhatTheSystemSays)
     EXPECT_EQ(change.GetPhysicalMemory(), 0);
 }
 
-QString g_debugText;
-
 TEST(MemoryState, DumpsOneRecord)
 {
-    const auto previous =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
-            g_debugText += text + u'|';
-        });
+    static QString seen;
+    seen.clear();
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { seen += text + u'|'; });
     CMemoryState_E().DumpStatistics();
     qInstallMessageHandler(previous);
-    EXPECT_EQ(g_debugText.toStdString(),
+    EXPECT_EQ(seen.toStdString(),
               "Physical Memory changed:  0  KB.  Virtual Memory changed:  0  KB.|");
 }
 
