@@ -1,5 +1,5 @@
 // Works the demo as a user would and checks what its window reported.
-#include "xrobot.h"
+#include "support/xinput.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -47,51 +47,50 @@ private:
     QString m_path;
 };
 
-QRect rectOf(const QRegularExpressionMatch& match)
+QRect geometryOf(const Report& report, const char* part)
 {
+    const QRegularExpressionMatch match = report.waitFor(
+        QStringLiteral("geometry %1 (\\d+) (\\d+) (\\d+) (\\d+)").arg(QLatin1String(part)));
     return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
             match.captured(4).toInt()};
 }
 
-bool drive(XRobot& robot, const Report& report, const QString& screenshot)
+void click(QPoint global, unsigned button = 1)
 {
-    const QRect tracker =
-        rectOf(report.waitFor(QStringLiteral("geometry tracker (\\d+) (\\d+) (\\d+) (\\d+)")));
-    const QRect post =
-        rectOf(report.waitFor(QStringLiteral("geometry post (\\d+) (\\d+) (\\d+) (\\d+)")));
-    if (!report.waitFor(QStringLiteral("ready")).hasMatch())
-        return false;
+    vxtest::movePointer(global);
+    vxtest::clickButton(button);
+}
 
-    const struct
-    {
-        std::function<void()> action;
-        QString expected;
-    } steps[] = {
-        {[&] { robot.move(tracker.topLeft() + QPoint(20, 25)); },
-         QStringLiteral("WM_MOUSEMOVE 20,25")},
-        {[] {}, QStringLiteral("WM_SETCURSOR for the tracker")},
-        {[&] { robot.click(tracker.topLeft() + QPoint(30, 40)); },
-         QStringLiteral("WM_LBUTTONDOWN 30,40 flags 1")},
-        {[&] { robot.type(XK_a); }, QStringLiteral("WM_KEYDOWN 0x41")},
-        {[] {}, QStringLiteral("WM_CHAR 'a'")},
-        {[&] { robot.type(XK_F5); }, QStringLiteral("WM_KEYDOWN 0x74")},
-        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 3); },
-         QStringLiteral("WM_RBUTTONDOWN 50,60 flags 2")},
-        {[&] { robot.click(tracker.topLeft() + QPoint(50, 60), 4); },
-         QStringLiteral("WM_MOUSEWHEEL 120")},
-        {[&] { robot.click(post.center()); }, QStringLiteral("WM_TRACKER_PING 1")},
-        {[&] {
-             robot.resizeWindow(kTitle, {900, 580});
-         },
-         QStringLiteral("WM_SIZE \\d+,%1").arg(tracker.height() + 20)},
+bool drive(const Report& report, const QString& screenshot)
+{
+    const QRect tracker = geometryOf(report, "tracker");
+    const QRect post = geometryOf(report, "post");
+    const bool ready = report.waitFor(QStringLiteral("ready")).hasMatch();
+    const unsigned long window = vxtest::findWindow(kTitle);
+    if (!ready || !window)
+        return false;
+    const QPoint origin = tracker.topLeft();
+    const QByteArray size = "WM_SIZE \\d+," + QByteArray::number(tracker.height() + 20);
+
+    const std::pair<std::function<void()>, const char*> steps[] = {
+        {[&] { vxtest::movePointer(origin + QPoint(20, 25)); }, "WM_MOUSEMOVE 20,25"},
+        {[] {}, "WM_SETCURSOR for the tracker"},
+        {[&] { click(origin + QPoint(30, 40)); }, "WM_LBUTTONDOWN 30,40 flags 1"},
+        {[&] { vxtest::typeKey(XK_a); }, "WM_KEYDOWN 0x41"},
+        {[] {}, "WM_CHAR 'a'"},
+        {[&] { vxtest::typeKey(XK_F5); }, "WM_KEYDOWN 0x74"},
+        {[&] { click(origin + QPoint(50, 60), 3); }, "WM_RBUTTONDOWN 50,60 flags 2"},
+        {[&] { click(origin + QPoint(50, 60), 4); }, "WM_MOUSEWHEEL 120"},
+        {[&] { click(post.center()); }, "WM_TRACKER_PING 1"},
+        {[&] { vxtest::resizeWindow(window, QSize(900, 580)); }, size.constData()},
     };
     bool passed = true;
-    for (const auto& step : steps) {
-        step.action();
-        passed = report.waitFor(step.expected).hasMatch() && passed;
+    for (const auto& [action, expected] : steps) {
+        action();
+        passed = report.waitFor(QLatin1String(expected)).hasMatch() && passed;
     }
-    passed = robot.screenshot().copy(0, 0, 900, 580).save(screenshot) && passed;
-    passed = robot.closeWindow(kTitle) && passed;
+    passed = vxtest::screenshot().copy(0, 0, 900, 580).save(screenshot) && passed;
+    vxtest::closeWindow(window);
     return report.waitFor(QStringLiteral("WM_DESTROY")).hasMatch() && passed;
 }
 
@@ -105,8 +104,7 @@ int main(int argc, char** argv)
         options.addOption({QLatin1String(name), QString(), QStringLiteral("file")});
     options.process(app);
 
-    XRobot robot;
-    if (!robot.isConnected()) {
+    if (!vxtest::hasDisplay()) {
         std::fprintf(stderr, "vxdemo_driver: no X display\n");
         return 2;
     }
@@ -117,7 +115,7 @@ int main(int argc, char** argv)
     host.start(options.value(QStringLiteral("host")),
                {QStringLiteral("--load"), options.value(QStringLiteral("load")),
                 QStringLiteral("--report"), reportPath});
-    const bool passed = drive(robot, report, options.value(QStringLiteral("screenshot")));
+    const bool passed = drive(report, options.value(QStringLiteral("screenshot")));
     const bool ended = host.waitForFinished(kLimitMs) &&
                        host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
     std::printf("%s  host ended\n", ended ? "ok     " : "FAILED ");

@@ -1,13 +1,8 @@
-#include <VxMFCEmu/coll/file.h>
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/text/vxqstring.h>
-
-#include <QtCore/QTemporaryDir>
+#include "support/test.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <thread>
 
 namespace {
 
@@ -50,18 +45,15 @@ protected:
 
 TEST_F(FileTest, RecordsNameQFileAndNoFactory)
 {
-    const struct
-    {
-        const CRuntimeClass_E* pClass;
-        const char* name;
-    } rows[] = {{RUNTIME_CLASS_E(CFile_E), "CFile_E"},
-                {RUNTIME_CLASS_E(CStdioFile_E), "CStdioFile_E"},
-                {RUNTIME_CLASS_E(CMemFile_E), "CMemFile_E"}};
-    for (const auto& row : rows) {
-        EXPECT_STREQ(row.pClass->GetClassName(), row.name);
-        EXPECT_STREQ(row.pClass->GetImpClassName(), "QFile");
-        EXPECT_EQ(row.pClass->CreateObject(), nullptr);
-        EXPECT_TRUE(row.pClass->IsDerivedFrom(RUNTIME_CLASS_E(CFile_E)));
+    const Row<const CRuntimeClass_E*, const char*> rows[] = {
+        {RUNTIME_CLASS_E(CFile_E), "CFile_E"},
+        {RUNTIME_CLASS_E(CStdioFile_E), "CStdioFile_E"},
+        {RUNTIME_CLASS_E(CMemFile_E), "CMemFile_E"}};
+    for (const auto& [pClass, name] : rows) {
+        EXPECT_STREQ(pClass->GetClassName(), name);
+        EXPECT_STREQ(pClass->GetImpClassName(), "QFile");
+        EXPECT_EQ(pClass->CreateObject(), nullptr);
+        EXPECT_TRUE(pClass->IsDerivedFrom(RUNTIME_CLASS_E(CFile_E)));
     }
     CFile_E file;
     ASSERT_TRUE(file.AttachDefault(nullptr));
@@ -70,52 +62,40 @@ TEST_F(FileTest, RecordsNameQFileAndNoFactory)
 
 TEST_F(FileTest, OpenModes)
 {
-    constexpr UINT create = CFile_E::modeCreate;
-    const struct
-    {
-        int line;
-        UINT flags;
-        const char* before; // null: no file
-        int cause;          // of Open(), -1 when it works
-        const char* after;  // when "Z" has been written, if it may be
-    } rows[] = {
-        {__LINE__, CFile_E::modeRead, "abc", -1, "abc"},
-        {__LINE__, CFile_E::modeRead | CFile_E::shareExclusive | CFile_E::typeBinary, "abc", -1,
-         "abc"},
-        {__LINE__, CFile_E::modeRead, nullptr, CFileException_E::fileNotFound, "<none>"},
-        {__LINE__, CFile_E::modeWrite, nullptr, CFileException_E::fileNotFound, "<none>"},
-        {__LINE__, CFile_E::modeWrite, "abc", -1, "Zbc"},
-        {__LINE__, CFile_E::modeReadWrite, "abc", -1, "Zbc"},
-        {__LINE__, CFile_E::modeWrite | create, "abc", -1, "Z"},
-        {__LINE__, CFile_E::modeReadWrite | create, nullptr, -1, "Z"},
-        {__LINE__, CFile_E::modeWrite | create | CFile_E::modeNoTruncate, "abc", -1, "Zbc"},
-        {__LINE__, CFile_E::modeWrite | create | CFile_E::modeNoTruncate, nullptr, -1, "Z"},
-        {__LINE__, CFile_E::modeRead | create, "abc", -1, ""},
+    constexpr UINT create = CFile_E::modeCreate, keep = create | CFile_E::modeNoTruncate;
+    constexpr UINT odd = CFile_E::shareExclusive | CFile_E::typeBinary;
+    constexpr UINT read = CFile_E::modeRead, write = CFile_E::modeWrite;
+    constexpr UINT both = CFile_E::modeReadWrite;
+    // before: null for no file; after: once "Z" has been written, if it may be, null if not found
+    const Row<UINT, const char*, const char*> rows[] = {
+        {read, "abc", "abc"},         {read | odd, "abc", "abc"},    {read, nullptr, nullptr},
+        {write, nullptr, nullptr},    {write, "abc", "Zbc"},         {both, "abc", "Zbc"},
+        {write | create, "abc", "Z"}, {both | create, nullptr, "Z"}, {write | keep, "abc", "Zbc"},
+        {write | keep, nullptr, "Z"}, {read | create, "abc", ""},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    forRows(rows, [&](UINT mode, const char* before, const char* after) {
         QFile::remove(VxQString(Path()));
-        if (row.before)
-            Make(row.before);
+        if (before)
+            Make(before);
         CFile_E file;
         CFileException_E error;
-        EXPECT_EQ(file.Open(Path(), row.flags, &error), row.cause < 0);
-        EXPECT_EQ(error.m_cause, std::max(row.cause, 0));
-        EXPECT_EQ(causeOf([&] { CFile_E thrown(L"/nowhere/f", row.flags); }),
+        EXPECT_EQ(file.Open(Path(), mode, &error), after != nullptr);
+        EXPECT_EQ(causeOf([&] { CFile_E thrown(L"/nowhere/f", mode); }),
                   CFileException_E::fileNotFound);
-        if (row.cause < 0) {
+        if (after) {
             char c;
-            const UINT access = row.flags & 3U;
+            EXPECT_EQ(error.m_cause, 0);
             EXPECT_EQ(causeOf([&] { file.Write("Z", 1); }),
-                      access == CFile_E::modeRead ? CFileException_E::accessDenied : -1);
+                      (mode & 3U) == read ? CFileException_E::accessDenied : -1);
             EXPECT_EQ(causeOf([&] { file.Read(&c, 1); }),
-                      access == CFile_E::modeWrite ? CFileException_E::accessDenied : -1);
-            EXPECT_EQ(Bytes(), row.after); // unbuffered: there before the file is closed
+                      (mode & 3U) == write ? CFileException_E::accessDenied : -1);
+            EXPECT_EQ(Bytes(), after); // unbuffered: there before the file is closed
         } else {
+            EXPECT_EQ(error.m_cause, CFileException_E::fileNotFound);
             EXPECT_EQ(error.m_lOsError, ENOENT);
             EXPECT_STREQ(error.m_strFileName.GetString(), Path().GetString());
         }
-    }
+    });
 }
 
 TEST_F(FileTest, ReadsSeeksAndCuts)
@@ -166,11 +146,12 @@ TEST_F(FileTest, ClosedFileIsInvalid)
 {
     CFile_E file;
     char c = 0;
-    EXPECT_EQ(causeOf([&] { file.Read(&c, 1); }), CFileException_E::invalidFile);
-    EXPECT_EQ(causeOf([&] { file.Write(&c, 1); }), CFileException_E::invalidFile);
-    EXPECT_EQ(causeOf([&] { file.GetLength(); }), CFileException_E::invalidFile);
-    EXPECT_EQ(causeOf([&] { file.SeekToEnd(); }), CFileException_E::invalidFile);
-    EXPECT_EQ(causeOf([&] { file.SetLength(1); }), CFileException_E::invalidFile);
+    const std::function<void()> uses[] = {
+        [&] { file.Read(&c, 1); }, [&] { file.Write(&c, 1); }, [&] { file.GetLength(); },
+        [&] { file.SeekToEnd(); }, [&] { file.SetLength(1); },
+    };
+    for (const auto& use : uses)
+        EXPECT_EQ(causeOf(use), CFileException_E::invalidFile);
     EXPECT_NO_THROW(file.Flush());
     EXPECT_FALSE(file.Open(nullptr, CFile_E::modeRead));
     CFileException_E error;
@@ -213,52 +194,44 @@ TEST_F(FileTest, WorksInAThreadWithoutAnEventLoop)
     EXPECT_EQ(Bytes(), "t");
 }
 
-std::vector<std::wstring> linesOf(CStdioFile_E& file)
+using Lines = std::vector<std::wstring>;
+
+Lines linesOf(CStdioFile_E& file)
 {
-    std::vector<std::wstring> lines;
+    Lines lines;
     for (CString_E line; file.ReadString(line);)
         lines.emplace_back(line.GetString());
     return lines;
 }
 
-std::vector<std::wstring> piecesOf(CStdioFile_E& file, UINT nMax)
+Lines piecesOf(CStdioFile_E& file, UINT nMax)
 {
-    std::vector<std::wstring> pieces;
-    wchar_t buffer[64];
-    while (file.ReadString(buffer, nMax))
+    Lines pieces;
+    for (wchar_t buffer[64]; file.ReadString(buffer, nMax);)
         pieces.emplace_back(buffer);
     return pieces;
 }
 
 TEST_F(FileTest, TextLines)
 {
-    using Lines = std::vector<std::wstring>;
-    const struct
-    {
-        int line;
-        const char* bytes;
-        UINT type;
-        Lines lines;
-        UINT nMax;
-        Lines pieces;
-    } rows[] = {
-        {__LINE__, "", 0, {}, 8, {}},
-        {__LINE__, "ab\ncd", 0, {L"ab", L"cd"}, 8, {L"ab\n", L"cd"}},
-        {__LINE__, "ab\r\n\r\nc\r", 0, {L"ab", L"", L"c\r"}, 8, {L"ab\n", L"\n", L"c\r"}},
-        {__LINE__, "ab\r\nc", CFile_E::typeBinary, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
-        {__LINE__, "ab\r\ncde\n", 0, {L"ab", L"cde"}, 3, {L"ab", L"\n", L"cd", L"e\n"}},
-        {__LINE__, "ab\r\nc", 0, {L"ab", L"c"}, 4, {L"ab\n", L"c"}},
-        {__LINE__, "ä中😀\nx", 0, {L"ä中😀", L"x"}, 3, {L"ä中", L"😀\n", L"x"}},
-        {__LINE__, "\uFEFFa\n", 0, {L"a"}, 8, {L"a\n"}},
-        {__LINE__, "a\xFF\n", 0, {L"a\uFFFD"}, 8, {L"a\uFFFD\n"}},
+    const Row<const char*, UINT, Lines, UINT, Lines> rows[] = {
+        {"", 0, {}, 8, {}},
+        {"ab\ncd", 0, {L"ab", L"cd"}, 8, {L"ab\n", L"cd"}},
+        {"ab\r\n\r\nc\r", 0, {L"ab", L"", L"c\r"}, 8, {L"ab\n", L"\n", L"c\r"}},
+        {"ab\r\nc", CFile_E::typeBinary, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
+        {"ab\r\ncde\n", 0, {L"ab", L"cde"}, 3, {L"ab", L"\n", L"cd", L"e\n"}},
+        {"ab\r\nc", 0, {L"ab", L"c"}, 4, {L"ab\n", L"c"}},
+        {"ä中😀\nx", 0, {L"ä中😀", L"x"}, 3, {L"ä中", L"😀\n", L"x"}},
+        {"\uFEFFa\n", 0, {L"a"}, 8, {L"a\n"}},
+        {"a\xFF\n", 0, {L"a\uFFFD"}, 8, {L"a\uFFFD\n"}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        CStdioFile_E file(Make(row.bytes), CFile_E::modeRead | row.type);
-        EXPECT_EQ(linesOf(file), row.lines);
-        file.SeekToBegin();
-        EXPECT_EQ(piecesOf(file, row.nMax), row.pieces);
-    }
+    forRows(rows,
+            [&](const char* bytes, UINT type, const Lines& lines, UINT nMax, const Lines& pieces) {
+                CStdioFile_E file(Make(bytes), CFile_E::modeRead | type);
+                EXPECT_EQ(linesOf(file), lines);
+                file.SeekToBegin();
+                EXPECT_EQ(piecesOf(file, nMax), pieces);
+            });
 }
 
 TEST_F(FileTest, TextIsWrittenAsItStands)

@@ -1,14 +1,6 @@
-#include <VxMFCEmu/core/fixedalloc.h>
-#include <VxMFCEmu/core/mapptrtoptr.h>
-#include <VxMFCEmu/core/notrackobject.h>
-#include <VxMFCEmu/core/plex.h>
-#include <VxMFCEmu/core/simplelist.h>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <cstring>
-#include <map>
-#include <random>
 
 namespace {
 
@@ -32,20 +24,13 @@ TEST(Plex, LinksBlocksAtTheHead)
 
 TEST(FixedAlloc, SmallRequestsBecomeTheLeast)
 {
-    struct Row
-    {
-        int line;
-        UINT size, block, expectedSize, expectedBlock;
-    };
-    const Row rows[] = {{__LINE__, 3, 1, 8, 64},
-                        {__LINE__, 8, 2, 8, 2},
-                        {__LINE__, 0, 0, 8, 64},
-                        {__LINE__, 9, 3, 9, 3}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.line);
-        const CFixedAllocNoSync_E alloc(row.size, row.block);
-        EXPECT_EQ(alloc.GetAllocSize(), row.expectedSize);
-        EXPECT_EQ(alloc.GetBlockSize(), row.expectedBlock);
+    // wanted size and block, what they become
+    const Row<UINT, UINT, UINT, UINT> rows[] = {
+        {3, 1, 8, 64}, {8, 2, 8, 2}, {0, 0, 8, 64}, {9, 3, 9, 3}};
+    for (const auto& [size, block, allocSize, blockSize] : rows) {
+        const CFixedAllocNoSync_E alloc(size, block);
+        EXPECT_EQ(alloc.GetAllocSize(), allocSize) << size;
+        EXPECT_EQ(alloc.GetBlockSize(), blockSize) << size;
     }
 }
 
@@ -115,20 +100,15 @@ TEST(MapPtrToPtr, AgreesWithAStandardMap)
     for (int step = 0; step < 20000; ++step) {
         void* const k = key(random() % 900 * 16);
         void* const v = key(random());
-        switch (random() % 5) {
-        case 0:
-        case 1:
-            map.SetAt(k, v);
-            expected[k] = v;
-            break;
-        case 2:
-            map[k] = v;
-            expected[k] = v;
-            break;
-        default:
+        const auto action = random() % 5;
+        if (action > 2)
             ASSERT_EQ(map.RemoveKey(k), expected.erase(k) ? TRUE : FALSE);
-            break;
-        }
+        else
+            expected[k] = v;
+        if (action == 2)
+            map[k] = v;
+        else if (action < 2)
+            map.SetAt(k, v);
         ASSERT_EQ(map.GetCount(), static_cast<INT_PTR>(expected.size()));
     }
     std::map<void*, void*> walked;

@@ -1,11 +1,4 @@
-#include <VxMFCEmu/coll/file.h>
-#include <VxMFCEmu/core/dumpcontext.h>
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/core/memorystate.h>
-
-#include <QtCore/QProcess>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QTemporaryDir>
+#include "support/test.h"
 
 #include <cinttypes>
 #include <stdexcept>
@@ -35,42 +28,31 @@ std::wstring address(const void* p)
 
 TEST(DumpContext, WritesValues)
 {
+    using Dump = std::function<void(CDumpContext_E&)>;
     const CObject_E object;
-    const struct
-    {
-        int line;
-        std::wstring actual;
-        std::wstring expected;
-    } rows[] = {
-        {__LINE__, dumped([](auto& dc) { dc << L"a\nb"; }), L"a\nb"},
-        {__LINE__, dumped([](auto& dc) { dc << static_cast<const wchar_t*>(nullptr); }), L"NULL"},
-        {__LINE__, dumped([](auto& dc) { dc << static_cast<const char*>(nullptr); }), L"(NULL)"},
-        {__LINE__, dumped([](auto& dc) { dc << std::string(600, 'n').c_str(); }),
-         std::wstring(512, L'n')},
-        {__LINE__, dumped([](auto& dc) { dc << static_cast<BYTE>(200) << L' '; }), L"20032"},
-        {__LINE__, dumped([](auto& dc) { dc << static_cast<WORD>(65535); }), L"65535"},
-        {__LINE__, dumped([](auto& dc) { dc << 4000000000U; }), L"4000000000"},
-        {__LINE__, dumped([](auto& dc) { dc << -7; }), L"-7"},
-        {__LINE__, dumped([](auto& dc) { dc << INT_PTR(LONG_MIN); }), L"-9223372036854775808"},
-        {__LINE__, dumped([](auto& dc) { dc << ULLONG_MAX; }), L"18446744073709551615"},
-        {__LINE__, dumped([](auto& dc) { dc << 0.5F; }), L"0.500000"},
-        {__LINE__, dumped([](auto& dc) { dc << -0.25; }), L"-0.250000000000000"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(static_cast<BYTE>(0xA)); }), L"0x0a"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(static_cast<WORD>(0xAB)); }), L"0x00ab"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(-1); }), L"0xffffffff"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(0xABCU); }), L"0x00000abc"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(-2LL); }), L"0xfffffffffffffffe"},
-        {__LINE__, dumped([](auto& dc) { dc.DumpAsHex(UINT_PTR(0x1F)); }), L"0x000000000000001f"},
-        {__LINE__, dumped([&](auto& dc) { dc << static_cast<const void*>(&object); }),
-         address(&object)},
-        {__LINE__, dumped([&](auto& dc) { dc << &object; }),
-         L"Unable to dump object in static release builds"},
-        {__LINE__, dumped([](auto& dc) { dc << static_cast<const CObject_E*>(nullptr); }), L"NULL"},
-        {__LINE__, dumped([&](auto& dc) { object.Dump(dc); }),
-         L"a CObject_E at " + address(&object)},
+    const Row<Dump, std::wstring> rows[] = {
+        {[](auto& dc) { dc << L"a\nb"; }, L"a\nb"},
+        {[](auto& dc) { dc << static_cast<const wchar_t*>(nullptr); }, L"NULL"},
+        {[](auto& dc) { dc << static_cast<const char*>(nullptr); }, L"(NULL)"},
+        {[](auto& dc) { dc << std::string(600, 'n').c_str(); }, std::wstring(512, L'n')},
+        {[](auto& dc) { dc << static_cast<BYTE>(200) << L' '; }, L"20032"},
+        {[](auto& dc) { dc << static_cast<WORD>(65535) << 4000000000U; }, L"655354000000000"},
+        {[](auto& dc) { dc << -7 << INT_PTR(LONG_MIN); }, L"-7-9223372036854775808"},
+        {[](auto& dc) { dc << ULLONG_MAX; }, L"18446744073709551615"},
+        {[](auto& dc) { dc << 0.5F << -0.25; }, L"0.500000-0.250000000000000"},
+        {[](auto& dc) { dc.DumpAsHex(static_cast<BYTE>(0xA)); }, L"0x0a"},
+        {[](auto& dc) { dc.DumpAsHex(static_cast<WORD>(0xAB)); }, L"0x00ab"},
+        {[](auto& dc) { dc.DumpAsHex(-1); }, L"0xffffffff"},
+        {[](auto& dc) { dc.DumpAsHex(0xABCU); }, L"0x00000abc"},
+        {[](auto& dc) { dc.DumpAsHex(-2LL); }, L"0xfffffffffffffffe"},
+        {[](auto& dc) { dc.DumpAsHex(UINT_PTR(0x1F)); }, L"0x000000000000001f"},
+        {[&](auto& dc) { dc << static_cast<const void*>(&object); }, address(&object)},
+        {[&](auto& dc) { dc << &object; }, L"Unable to dump object in static release builds"},
+        {[](auto& dc) { dc << static_cast<const CObject_E*>(nullptr); }, L"NULL"},
+        {[&](auto& dc) { object.Dump(dc); }, L"a CObject_E at " + address(&object)},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.actual, row.expected) << "line " << row.line;
+    for (const auto& [dump, expected] : rows)
+        EXPECT_EQ(dumped(dump), expected);
 }
 
 TEST(DumpContext, HexDumpWritesRows)
@@ -117,17 +99,15 @@ TEST(MemoryState, TakesWhatTheSystemSays)
     EXPECT_EQ(change.GetPhysicalMemory(), 0);
 }
 
-QString g_debugText;
-
 TEST(MemoryState, DumpsOneRecord)
 {
-    const auto previous =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
-            g_debugText += text + u'|';
-        });
+    static QString seen;
+    seen.clear();
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { seen += text + u'|'; });
     CMemoryState_E().DumpStatistics();
     qInstallMessageHandler(previous);
-    EXPECT_EQ(g_debugText.toStdString(),
+    EXPECT_EQ(seen.toStdString(),
               "Physical Memory changed:  0  KB.  Virtual Memory changed:  0  KB.|");
 }
 
@@ -138,15 +118,14 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_dir.isValid());
-        QDir(m_dir.path()).mkpath(QStringLiteral("x/bin"));
-        QDir(m_dir.path()).mkpath(QStringLiteral("x/Common"));
-        ASSERT_TRUE(
-            QFile::copy(QStringLiteral(VXTEST_LOG_HELPER), m_root + QStringLiteral("/bin/app")));
+        QDir(m_dir.path()).mkpath("x/bin"_q);
+        QDir(m_dir.path()).mkpath("x/Common"_q);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(VXTEST_LOG_HELPER), m_root + "/bin/app"_q));
     }
     QByteArray Run(const QStringList& arguments) const
     {
         QProcess process;
-        process.start(m_root + QStringLiteral("/bin/app"), arguments);
+        process.start(m_root + "/bin/app"_q, arguments);
         EXPECT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
         return process.readAllStandardOutput();
@@ -159,50 +138,49 @@ protected:
     }
 
     QTemporaryDir m_dir;
-    QString m_root = QFileInfo(m_dir.path()).canonicalFilePath() + QStringLiteral("/x");
-    QString m_logPath = m_root + QStringLiteral("/Common/Plok.log");
+    QString m_root = QFileInfo(m_dir.path()).canonicalFilePath() + "/x"_q;
+    QString m_logPath = m_root + "/Common/Plok.log"_q;
 };
 
 TEST_F(LogTest, FoldersLieAroundTheExecutable)
 {
     const QByteArray root = m_root.toUtf8();
-    EXPECT_EQ(Run({QStringLiteral("folders")}), root + "/bin\n" + root + "\n");
+    EXPECT_EQ(Run({"folders"_q}), root + "/bin\n" + root + "\n");
 }
 
 TEST_F(LogTest, StaticObjectsLogWhileTheyDie)
 {
-    Run({QStringLiteral("exit")});
+    Run({"exit"_q});
     const QString log = Log();
     EXPECT_EQ(log.count(u'\n'), 2);
-    EXPECT_TRUE(log.endsWith(QStringLiteral("] last\n"))) << log.toStdString();
+    EXPECT_TRUE(log.endsWith("] last\n"_q)) << log.toStdString();
 }
 
 TEST_F(LogTest, AppendsTimedLinesAndKeepsTextAsItIs)
 {
-    const QString odd = QStringLiteral("%1 %2 %s \u00e9\u4e2d\U0001F600");
-    Run({QStringLiteral("text"), odd});
-    Run({QStringLiteral("text"), QStringLiteral("two")});
+    const QString odd = "%1 %2 %s \u00e9\u4e2d\U0001F600"_q;
+    Run({"text"_q, odd});
+    Run({"text"_q, "two"_q});
     const QStringList lines = Log().split(u'\n');
     ASSERT_EQ(lines.size(), 3);
     const QRegularExpression line(
-        QStringLiteral("^\\[(\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d) (\\S+)\\] (.*)$"));
+        "^\\[(\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d) (\\S+)\\] (.*)$"_q);
     const auto match = line.match(lines[0]);
     ASSERT_TRUE(match.hasMatch()) << lines[0].toStdString();
     EXPECT_EQ(match.captured(3), odd);
-    const auto time =
-        QDateTime::fromString(match.captured(1), QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    const auto time = QDateTime::fromString(match.captured(1), "yyyy-MM-dd hh:mm:ss"_q);
     EXPECT_LT(std::abs(time.secsTo(QDateTime::currentDateTime())), 60);
-    EXPECT_EQ(match.captured(2), time.toString(QStringLiteral("ddd")));
-    EXPECT_TRUE(lines[1].endsWith(QStringLiteral("] two")));
+    EXPECT_EQ(match.captured(2), time.toString("ddd"_q));
+    EXPECT_TRUE(lines[1].endsWith("] two"_q));
 }
 
 TEST_F(LogTest, LinesOfThreadsNeverInterleave)
 {
     constexpr int threads = 8;
     constexpr int count = 100;
-    Run({QStringLiteral("threads"), QString::number(threads), QString::number(count)});
+    Run({"threads"_q, QString::number(threads), QString::number(count)});
     const QRegularExpression line(
-        QStringLiteral("^\\[[^\\]]+\\] thread (\\d+) line (\\d+) abcdefghijklmnopqrstuvwxyz$"));
+        "^\\[[^\\]]+\\] thread (\\d+) line (\\d+) abcdefghijklmnopqrstuvwxyz$"_q);
     std::vector<int> next(threads, 0);
     for (const QString& text : Log().split(u'\n', Qt::SkipEmptyParts)) {
         const auto match = line.match(text);
@@ -214,17 +192,17 @@ TEST_F(LogTest, LinesOfThreadsNeverInterleave)
 
 TEST_F(LogTest, FileThatWasRotatedAwayIsMadeAnew)
 {
-    Run({QStringLiteral("rotate"), m_logPath});
-    EXPECT_TRUE(Log().endsWith(QStringLiteral("] two\n")));
+    Run({"rotate"_q, m_logPath});
+    EXPECT_TRUE(Log().endsWith("] two\n"_q));
     EXPECT_EQ(Log().count(u'\n'), 1);
-    EXPECT_EQ(QFileInfo(m_logPath + QStringLiteral(".old")).size(), QFileInfo(m_logPath).size());
+    EXPECT_EQ(QFileInfo(m_logPath + ".old"_q).size(), QFileInfo(m_logPath).size());
 }
 
 TEST_F(LogTest, FolderIsNeverMade)
 {
-    QDir(m_root + QStringLiteral("/Common")).removeRecursively();
-    Run({QStringLiteral("text"), QStringLiteral("lost")});
-    EXPECT_FALSE(QFileInfo::exists(m_root + QStringLiteral("/Common")));
+    QDir(m_root + "/Common"_q).removeRecursively();
+    Run({"text"_q, "lost"_q});
+    EXPECT_FALSE(QFileInfo::exists(m_root + "/Common"_q));
 }
 
 } // namespace

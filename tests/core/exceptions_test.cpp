@@ -1,32 +1,25 @@
-#include <VxMFCEmu/core/exceptions.h>
+#include "support/test.h"
 
 #include <cerrno>
-#include <memory>
+#include <stdexcept>
 
 namespace {
-
-template <typename Exception, typename Throw>
-Exception* caught(Throw doThrow)
-{
-    try {
-        doThrow();
-    } catch (Exception* pException) {
-        return pException;
-    }
-    return nullptr;
-}
 
 struct Deleter
 {
     void operator()(CException_E* p) const { p->Delete(); }
 };
-template <typename Exception>
-using Held = std::unique_ptr<Exception, Deleter>;
 
+/// What @p doThrow throws, if it is an Exception.
 template <typename Exception, typename Throw>
-Held<Exception> hold(Throw doThrow)
+std::unique_ptr<Exception, Deleter> caught(Throw doThrow)
 {
-    return Held<Exception>(caught<Exception>(doThrow));
+    try {
+        doThrow();
+    } catch (Exception* pException) {
+        return std::unique_ptr<Exception, Deleter>(pException);
+    }
+    throw std::logic_error("nothing was thrown");
 }
 
 std::wstring messageOf(CException_E& e, UINT room = 200)
@@ -41,39 +34,24 @@ std::wstring messageOf(CException_E& e, UINT room = 200)
 
 struct PlainException : CException_E
 {
-    explicit PlainException(int* pDeaths = nullptr, BOOL bAutoDelete = TRUE)
-        : CException_E(bAutoDelete), m_pDeaths(pDeaths)
-    {
-    }
-    ~PlainException() override
-    {
-        if (m_pDeaths)
-            ++*m_pDeaths;
-    }
-    int* m_pDeaths;
+    explicit PlainException(BOOL bAutoDelete = TRUE) : CException_E(bAutoDelete) {}
+    ~PlainException() override { ++s_deaths; }
+    static inline int s_deaths = 0;
 };
 
 TEST(Exceptions, SharedOnesAreThrownAgainAndSurviveDelete)
 {
-    const struct
-    {
-        int line;
-        void (*doThrow)();
-        CException_E* pExpected;
-    } rows[] = {
-        {__LINE__, &AfxThrowMemoryException_E, &_simpleMemoryException},
-        {__LINE__, &AfxThrowNotSupportedException_E, &_simpleNotSupportedException},
-        {__LINE__, &AfxThrowInvalidArgException_E, &_simpleInvalidArgException},
-        {__LINE__, &AfxThrowResourceException_E, &_simpleResourceException},
-        {__LINE__, &AfxThrowUserException_E, &_simpleUserException},
+    const Row<void (*)(), CException_E*> rows[] = {
+        {&AfxThrowMemoryException_E, &_simpleMemoryException},
+        {&AfxThrowNotSupportedException_E, &_simpleNotSupportedException},
+        {&AfxThrowInvalidArgException_E, &_simpleInvalidArgException},
+        {&AfxThrowResourceException_E, &_simpleResourceException},
+        {&AfxThrowUserException_E, &_simpleUserException},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        for (int round = 0; round < 2; ++round) {
-            auto* const p = caught<CException_E>(row.doThrow);
-            ASSERT_EQ(p, row.pExpected);
-            p->Delete();
-            EXPECT_EQ(messageOf(*p), L"CException");
+    for (int round = 0; round < 2; ++round) {
+        for (const auto& [doThrow, pExpected] : rows) {
+            EXPECT_EQ(caught<CSimpleException_E>(doThrow).get(), pExpected);
+            EXPECT_EQ(messageOf(*pExpected), L"CException");
         }
     }
     EXPECT_THROW(caught<CMemoryException_E>(&AfxThrowUserException_E), CUserException_E*);
@@ -81,21 +59,19 @@ TEST(Exceptions, SharedOnesAreThrownAgainAndSurviveDelete)
 
 TEST(Exceptions, DeleteFollowsTheAutoDeleteFlag)
 {
-    int deaths = 0;
-    auto* const p = new PlainException(&deaths, FALSE);
-    p->Delete();
-    EXPECT_EQ(deaths, 0);
-    p->m_bAutoDelete = -1;
-    p->Delete();
-    EXPECT_EQ(deaths, 0);
-    p->m_bAutoDelete = TRUE;
-    p->Delete();
-    EXPECT_EQ(deaths, 1);
+    PlainException::s_deaths = 0;
+    auto* const p = new PlainException(FALSE);
+    for (const BOOL flag : {FALSE, -1, TRUE}) {
+        EXPECT_EQ(PlainException::s_deaths, 0);
+        p->m_bAutoDelete = flag;
+        p->Delete();
+    }
+    EXPECT_EQ(PlainException::s_deaths, 1);
 }
 
 TEST(Exceptions, RecordsCannotTellKindsApart)
 {
-    const Held<CException_E> pFile(new CFileException_E);
+    const std::unique_ptr<CException_E, Deleter> pFile(new CFileException_E);
     const CObject_E plain;
     for (const CRuntimeClass_E* pClass :
          {RUNTIME_CLASS_E(CException_E), RUNTIME_CLASS_E(COleException_E)}) {
@@ -108,28 +84,22 @@ TEST(Exceptions, RecordsCannotTellKindsApart)
     EXPECT_EQ(RUNTIME_CLASS_E(COleException_E)->GetObjectSize(), 48);
 }
 
-TEST(Exceptions, SimpleMessageIsCutWithoutATerminator)
+TEST(Exceptions, SimpleMessageIsCutWithoutATerminatorAndTheBaseHasNone)
 {
-    wchar_t buffer[12];
-    std::fill(std::begin(buffer), std::end(buffer), L'#');
-    EXPECT_TRUE(_simpleUserException.GetErrorMessage(buffer, 4));
-    EXPECT_EQ(std::wstring(buffer, 12), L"CExc########");
-    EXPECT_FALSE(_simpleUserException.GetErrorMessage(nullptr, 4));
-    EXPECT_FALSE(_simpleUserException.GetErrorMessage(buffer, 0));
-}
-
-TEST(Exceptions, BaseHasNoMessage)
-{
+    std::wstring buffer(12, L'#');
+    EXPECT_TRUE(_simpleUserException.GetErrorMessage(buffer.data(), 4));
+    EXPECT_EQ(buffer, L"CExc########");
+    EXPECT_FALSE(_simpleUserException.GetErrorMessage(nullptr, 4) ||
+                 _simpleUserException.GetErrorMessage(buffer.data(), 0));
     PlainException e;
-    wchar_t buffer[] = L"old";
     UINT help = 5;
-    EXPECT_FALSE(e.GetErrorMessage(buffer, 4, &help));
-    EXPECT_STREQ(buffer, L"");
+    EXPECT_FALSE(e.GetErrorMessage(buffer.data(), 4, &help));
+    EXPECT_STREQ(buffer.c_str(), L"");
     EXPECT_EQ(help, 0U);
     EXPECT_FALSE(e.GetErrorMessage(nullptr, 0, nullptr));
 }
 
-TEST(FileException, CausesOfErrnoNumbers)
+TEST(FileException, CausesOfErrorNumbers)
 {
     const std::map<int, int> special = {{1, 5},   {2, 2},  {5, 10}, {9, 6},   {13, 5},
                                         {22, 10}, {23, 2}, {24, 4}, {28, 13}, {36, 11}};
@@ -137,32 +107,26 @@ TEST(FileException, CausesOfErrnoNumbers)
         const auto it = special.find(n);
         EXPECT_EQ(CFileException_E::ErrnoToException(n), it == special.end() ? 1 : it->second) << n;
     }
-}
-
-TEST(FileException, CausesOfOsErrors)
-{
     const std::map<int, int> some = {{0, 0},   {18, 2},   {267, 3},  {113, 4},     {999, 5},
                                      {193, 6}, {145, 7},  {62, 8},   {132, 9},     {997, 10},
                                      {32, 11}, {167, 12}, {112, 13}, {38, 14},     {1, 1},
                                      {998, 1}, {1000, 1}, {-1, 1},   {INT_MIN, 1}, {INT_MAX, 1}};
     for (const auto& [number, cause] : some)
         EXPECT_EQ(CFileException_E::OsErrorToException(number), cause) << number;
-    int special = 0;
+    int count = 0; // of those with a cause of their own
     for (int n = 0; n < 1010; ++n)
-        special += CFileException_E::OsErrorToException(n) != CFileException_E::genericException;
-    EXPECT_EQ(special, 79);
+        count += CFileException_E::OsErrorToException(n) != CFileException_E::genericException;
+    EXPECT_EQ(count, 79);
 }
 
 TEST(FileException, ThrowsFromErrorNumbers)
 {
     const auto pErrno =
-        hold<CFileException_E>([] { CFileException_E::ThrowErrno(EACCES, L"a.txt"); });
-    ASSERT_TRUE(pErrno);
+        caught<CFileException_E>([] { CFileException_E::ThrowErrno(EACCES, L"a.txt"); });
     EXPECT_EQ(pErrno->m_cause, CFileException_E::accessDenied);
     EXPECT_EQ(pErrno->m_lOsError, 0);
     EXPECT_STREQ(pErrno->m_strFileName.GetString(), L"a.txt");
-    const auto pOs = hold<CFileException_E>([] { CFileException_E::ThrowOsError(112, nullptr); });
-    ASSERT_TRUE(pOs);
+    const auto pOs = caught<CFileException_E>([] { CFileException_E::ThrowOsError(112, nullptr); });
     EXPECT_EQ(pOs->m_cause, CFileException_E::diskFull);
     EXPECT_EQ(pOs->m_lOsError, 112);
     EXPECT_NO_THROW(CFileException_E::ThrowErrno(0, L"a"));
@@ -185,20 +149,18 @@ TEST(FileException, MessageIsCopiedWholeOrNotAtAll)
 
     CFileException_E unnamed(1, 0);
     EXPECT_EQ(messageOf(unnamed), L"cause: 1, error: 0, file: AFX_IDS_UNNAMED_FILE\n");
-    const auto pArchive = hold<CArchiveException_E>([] { AfxThrowArchiveException_E(4, L"a%d"); });
-    ASSERT_TRUE(pArchive);
+    const auto pArchive =
+        caught<CArchiveException_E>([] { AfxThrowArchiveException_E(4, L"a%d"); });
     EXPECT_EQ(messageOf(*pArchive), L"cause: 4, file: a%d\n");
     EXPECT_EQ(messageOf(*pArchive, 5), L"<none>");
 }
 
 TEST(OleException, CarriesItsStatusCode)
 {
-    const auto pInt = hold<COleException_E>([] { AfxThrowOleException_E(-5); });
-    ASSERT_TRUE(pInt);
+    const auto pInt = caught<COleException_E>([] { AfxThrowOleException_E(-5); });
     EXPECT_EQ(pInt->m_sc, -5);
     EXPECT_EQ(messageOf(*pInt), L"system error! error number: 4294967291");
-    const auto pLong = hold<COleException_E>([] { AfxCheckError_E(-7L); });
-    ASSERT_TRUE(pLong);
+    const auto pLong = caught<COleException_E>([] { AfxCheckError_E(-7L); });
     EXPECT_EQ(pLong->m_sc, -7);
     EXPECT_NO_THROW(AfxCheckError_E(0));
     EXPECT_NO_THROW(AfxCheckError_E(0x80004005L)); // positive in 64 bits
@@ -211,25 +173,22 @@ TEST(OleException, ProcessReadsTheStatusCodePosition)
     const CFileException_E file(CFileException_E::badSeek);
     const CArchiveException_E archive(CArchiveException_E::badClass);
     const COleDispatchException_E dispatch(L"d", 0, 0xFFF0);
-    EXPECT_EQ(COleException_E::Process(&ole), 42);
-    EXPECT_EQ(COleException_E::Process(&file), 9);
-    EXPECT_EQ(COleException_E::Process(&archive), 6);
-    EXPECT_EQ(COleException_E::Process(&dispatch), 0xFFF0);
-    EXPECT_EQ(COleException_E::Process(nullptr), E_UNEXPECTED);
+    const Row<const CException_E*, SCODE> rows[] = {
+        {&ole, 42}, {&file, 9}, {&archive, 6}, {&dispatch, 0xFFF0}, {nullptr, E_UNEXPECTED}};
+    for (const auto& [pException, code] : rows)
+        EXPECT_EQ(COleException_E::Process(pException), code) << code;
 }
 
 TEST(OleDispatchException, HelpContextAndDescription)
 {
     const auto pText =
-        hold<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, L"why", 0x10); });
-    ASSERT_TRUE(pText);
+        caught<COleDispatchException_E>([] { AfxThrowOleDispatchException_E(3, L"why", 0x10); });
+    const auto pId = caught<COleDispatchException_E>(
+        [] { AfxThrowOleDispatchException_E(3, 0x20U, 0xFFFFFFFFU); });
     EXPECT_EQ(pText->m_wCode, 3);
     EXPECT_EQ(pText->m_dwHelpContext, 0x60010U);
-    EXPECT_EQ(messageOf(*pText), L"why");
-    const auto pId = hold<COleDispatchException_E>(
-        [] { AfxThrowOleDispatchException_E(3, 0x20U, 0xFFFFFFFFU); });
-    ASSERT_TRUE(pId);
     EXPECT_EQ(pId->m_dwHelpContext, 0x60020U);
+    EXPECT_EQ(messageOf(*pText), L"why");
     EXPECT_EQ(messageOf(*pId), L"AfxThrowOleDispatchException");
     EXPECT_EQ(COleDispatchException_E(nullptr, 0, 1).m_dwHelpContext, 0U);
 }

@@ -1,7 +1,6 @@
-#include <VxMFCEmu/core/lasterror.h>
+#include "support/test.h"
 
 #include <cerrno>
-#include <thread>
 
 namespace {
 
@@ -22,36 +21,28 @@ TEST(LastError, IsTheThreadsErrno)
 TEST(FormatMessage, IntoTheCallersBuffer)
 {
     const wchar_t* const system5 = L"system error! error number: 5";
-    const struct
-    {
-        int line;
-        DWORD flags;
-        const wchar_t* source;
-        DWORD id, size, length;
-        const wchar_t* text; // null: untouched
-    } rows[] = {
-        {__LINE__, 0, nullptr, 5, 100, 29, system5},
-        {__LINE__, 0, nullptr, 5, 29, 29, system5},
-        {__LINE__, 0, nullptr, 5, 28, 27, L"system error! error number:"},
-        {__LINE__, 0, nullptr, 5, 10, 9, L"system er"},
-        {__LINE__, 0, nullptr, 5, 1, 0, L""},
-        {__LINE__, 0, nullptr, 0xFFFFFFFF, 100, 38, L"system error! error number: 4294967295"},
-        {__LINE__, 0, L"%1 stays %s", 0, 100, 11, L"%1 stays %s"},
-        {__LINE__, 0xFE00, L"abcdef", 0, 4, 3, L"abc"},
-        {__LINE__, 0, L"", 0, 4, 0, L""},
-        {__LINE__, 0, L"abc", 0, 0, 0, nullptr},
-        {__LINE__, kAllocate, L"abc", 0, 100, 0, nullptr},
+    // flags, source, id, size; length and text, null when the buffer stays as it is
+    const Row<DWORD, const wchar_t*, DWORD, DWORD, DWORD, const wchar_t*> rows[] = {
+        {0, nullptr, 5, 100, 29, system5},
+        {0, nullptr, 5, 29, 29, system5},
+        {0, nullptr, 5, 28, 27, L"system error! error number:"},
+        {0, nullptr, 5, 10, 9, L"system er"},
+        {0, nullptr, 5, 1, 0, L""},
+        {0, nullptr, 0xFFFFFFFF, 100, 38, L"system error! error number: 4294967295"},
+        {0, L"%1 stays %s", 0, 100, 11, L"%1 stays %s"},
+        {0xFE00, L"abcdef", 0, 4, 3, L"abc"},
+        {0, L"", 0, 4, 0, L""},
+        {0, L"abc", 0, 0, 0, nullptr},
+        {kAllocate, L"abc", 0, 100, 0, nullptr},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    forRows(rows, [&](DWORD flags, const wchar_t* source, DWORD id, DWORD size, DWORD length,
+                      const wchar_t* text) {
         std::wstring buffer(128, L'#');
-        EXPECT_EQ(
-            FormatMessage_E(row.flags, row.source, row.id, 0, buffer.data(), row.size, nullptr),
-            row.length);
-        EXPECT_EQ(std::wstring(buffer.data(), row.text ? row.length + 1 : 1),
-                  row.text ? std::wstring(row.text) + L'\0' : std::wstring(L"#"));
-        EXPECT_EQ(buffer[row.length + 1], L'#');
-    }
+        EXPECT_EQ(FormatMessage_E(flags, source, id, 0, buffer.data(), size, nullptr), length);
+        EXPECT_EQ(std::wstring(buffer.data(), text ? length + 1 : 1),
+                  text ? std::wstring(text) + L'\0' : std::wstring(L"#"));
+        EXPECT_EQ(buffer[length + 1], L'#');
+    });
     EXPECT_EQ(FormatMessage_E(0, nullptr, 1, 0, static_cast<wchar_t*>(nullptr), 9, nullptr), 0U);
 }
 

@@ -1,8 +1,4 @@
-#include <VxMFCEmu/core/handlemap.h>
-#include <VxMFCEmu/core/modulestate.h>
-#include <VxMFCEmu/gdi.h>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -66,19 +62,19 @@ TEST(HandleMap, PermanentEntriesWinAndAreOverwritten)
 
 TEST(HandleMap, ManyObjectsDoNotOverlapAndDieWithTheMap)
 {
-    {
-        const std::unique_ptr<CHandleMap_E> map(makeMap(2));
-        for (std::uintptr_t i = 1; i <= 500; ++i)
-            static_cast<Holder*>(map->FromHandle(handle(i)))->more[199] =
-                static_cast<char>(i % 100);
-        for (std::uintptr_t i = 1; i <= 500; ++i) {
-            auto* const object = static_cast<Holder*>(map->LookupTemporary(handle(i)));
-            ASSERT_EQ(object->first, handle(i));
-            ASSERT_EQ(object->second, handle(i));
-            ASSERT_EQ(object->more[199], static_cast<char>(i % 100));
-        }
-        EXPECT_EQ(alive, 500);
+    std::unique_ptr<CHandleMap_E> map(makeMap(2));
+    const auto object = [&](std::uintptr_t i) {
+        return static_cast<Holder*>(map->FromHandle(handle(i)));
+    };
+    for (std::uintptr_t i = 1; i <= 500; ++i)
+        object(i)->more[199] = static_cast<char>(i % 100);
+    EXPECT_EQ(alive, 500);
+    for (std::uintptr_t i = 1; i <= 500; ++i) {
+        ASSERT_EQ(object(i)->first, handle(i));
+        ASSERT_EQ(object(i)->second, handle(i));
+        ASSERT_EQ(object(i)->more[199], static_cast<char>(i % 100));
     }
+    map.reset();
     EXPECT_EQ(alive, 0);
 }
 

@@ -1,9 +1,4 @@
-#include "support/waiting.h"
-
-#include <VxMFCEmu/core/cmdtarget.h>
-
-#include <QtWidgets/QtWidgets>
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -65,25 +60,24 @@ TEST(Object, AttachBindsBothSides)
     Wrapper wrapper;
     QTimer timer;
     QObject parent;
+    QEvent event(QEvent::User);
     EXPECT_EQ(CObject_E::GetOwner(&timer), nullptr);
     ASSERT_EQ(wrapper.Attach(&timer, &parent, true), TRUE);
     EXPECT_EQ(wrapper.GetImpQObject(), &timer);
     EXPECT_TRUE(wrapper.IsExternalImpObj());
     EXPECT_EQ(CObject_E::GetOwner(&timer), &wrapper);
     EXPECT_EQ(timer.property("parent").toLongLong(), reinterpret_cast<qlonglong>(&parent));
-    QEvent event(QEvent::User);
     QCoreApplication::sendEvent(&timer, &event);
-    EXPECT_EQ(wrapper.events, 1);
+    EXPECT_EQ(std::exchange(wrapper.events, 0), 1);
     wrapper.Detach();
     EXPECT_EQ(wrapper.GetImpQObject(), nullptr);
     EXPECT_FALSE(wrapper.IsExternalImpObj());
-    EXPECT_FALSE(timer.property("owner").isValid());
-    EXPECT_FALSE(timer.property("parent").isValid());
-    const int before = wrapper.events;
+    EXPECT_FALSE(timer.property("owner").isValid() || timer.property("parent").isValid());
+    wrapper.events = 0;
     QCoreApplication::sendEvent(&timer, &event);
-    EXPECT_EQ(wrapper.events, before) << "the filter is gone";
+    EXPECT_EQ(wrapper.events, 0) << "the filter is gone";
     wrapper.Detach();
-    EXPECT_EQ(wrapper.log, QStringLiteral("ad")) << "detaching twice does nothing";
+    EXPECT_EQ(wrapper.log, "ad"_q) << "detaching twice does nothing";
     EXPECT_EQ(CObject_E::GetOwner(nullptr), nullptr);
 }
 
@@ -94,49 +88,53 @@ TEST(Object, OwnershipDecidesWhoDeletes)
         QPointer<QTimer> timer = new QTimer;
         Wrapper wrapper;
         ASSERT_EQ(wrapper.Attach(timer, nullptr, external), TRUE);
+        const QPointer<QObject> wrong = new QObject;
+        EXPECT_EQ(wrapper.Attach(wrong, nullptr, external), FALSE);
+        EXPECT_EQ(wrong.isNull(), !external) << "taken over and deleted, unless external";
+        EXPECT_EQ(wrapper.GetImpQObject(), timer);
         wrapper.Detach();
         EXPECT_FALSE(timer.isNull()) << "never at once";
         vxtest::deliverPosted();
         EXPECT_EQ(timer.isNull(), !external);
         delete timer;
-    }
-}
-
-TEST(Object, AWrongClassIsRefused)
-{
-    for (const bool external : {false, true}) {
-        SCOPED_TRACE(external);
-        QPointer<QObject> wrong = new QObject;
-        QTimer kept;
-        Wrapper wrapper;
-        wrapper.Attach(&kept, nullptr, true);
-        EXPECT_EQ(wrapper.Attach(wrong, nullptr, external), FALSE);
-        EXPECT_EQ(wrong.isNull(), !external) << "taken over and deleted, unless external";
-        EXPECT_EQ(wrapper.GetImpQObject(), &kept);
         delete wrong;
     }
     EXPECT_EQ(Wrapper().Attach(nullptr, nullptr, false), FALSE);
 }
 
-TEST(Object, ARefusalByTheHookDetaches)
+TEST(Object, BindingAgainKeepsTheObjectThatIsOwned)
 {
-    Wrapper wrapper;
-    wrapper.accepts = FALSE;
-    QTimer timer;
-    EXPECT_EQ(wrapper.Attach(&timer, nullptr, true), FALSE);
-    EXPECT_EQ(wrapper.log, QStringLiteral("ad"));
-    EXPECT_EQ(CObject_E::GetOwner(&timer), nullptr);
-    wrapper.accepts = 7;
-    EXPECT_EQ(wrapper.Attach(&timer, nullptr, true), 7) << "the hook's own value";
+    for (const bool external : {false, true}) {
+        SCOPED_TRACE(external);
+        const QPointer<QTimer> timer = new QTimer;
+        Wrapper wrapper;
+        wrapper.Attach(timer, nullptr, false);
+        ASSERT_EQ(wrapper.Attach(timer, nullptr, external), TRUE);
+        vxtest::deliverPosted();
+        ASSERT_FALSE(timer.isNull()) << "let go of only to be bound again";
+        EXPECT_EQ(wrapper.GetImpQObject(), timer);
+        EXPECT_EQ(CObject_E::GetOwner(timer), &wrapper);
+        EXPECT_EQ(wrapper.IsExternalImpObj(), external);
+        EXPECT_EQ(wrapper.log, "ada"_q);
+        wrapper.Detach();
+        vxtest::deliverPosted();
+        EXPECT_EQ(timer.isNull(), !external) << "the last binding decides";
+        delete timer;
+    }
 }
 
-TEST(Object, ASecondAttachReplacesTheFirst)
+TEST(Object, WhatIsRefusedAndWhatIsReplaced)
 {
     Wrapper wrapper;
     QTimer first, second;
-    wrapper.Attach(&first, nullptr, true);
+    wrapper.accepts = FALSE;
+    EXPECT_EQ(wrapper.Attach(&first, nullptr, true), FALSE);
+    EXPECT_EQ(wrapper.log, "ad"_q);
+    EXPECT_EQ(CObject_E::GetOwner(&first), nullptr);
+    wrapper.accepts = 7;
+    EXPECT_EQ(wrapper.Attach(&first, nullptr, true), 7) << "the hook's own value";
     wrapper.Attach(&second, nullptr, true);
-    EXPECT_EQ(wrapper.log, QStringLiteral("ada"));
+    EXPECT_EQ(wrapper.log, "adada"_q);
     EXPECT_EQ(CObject_E::GetOwner(&first), nullptr);
     EXPECT_EQ(CObject_E::GetOwner(&second), &wrapper);
 }
@@ -149,7 +147,7 @@ TEST(Object, DestroyedByAnother)
     delete timer;
     EXPECT_EQ(wrapper.GetImpQObject(), nullptr);
     EXPECT_FALSE(wrapper.IsExternalImpObj());
-    EXPECT_EQ(wrapper.log, QStringLiteral("a")) << "OnDetach is not called";
+    EXPECT_EQ(wrapper.log, "a"_q) << "OnDetach is not called";
     CObject_E plain;
     EXPECT_EQ(plain.AttachDefault(&wrapper), TRUE);
     EXPECT_EQ(plain.GetImpQObject()->parent(), &wrapper);
@@ -170,65 +168,68 @@ TEST(Object, KindAndSlots)
     EXPECT_FALSE(wrapper.IsKindOf("QTimer"));
     EXPECT_FALSE(wrapper.IsKindOf(static_cast<const char*>(nullptr)));
     QMetaMethod method;
-    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("APPLY"), method), FALSE);
-    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("objectNameChanged"), method), FALSE)
-        << "a signal";
+    EXPECT_EQ(wrapper.FindSlotMethod("APPLY"_q, method), FALSE);
+    EXPECT_EQ(wrapper.FindSlotMethod("objectNameChanged"_q, method), FALSE) << "a signal";
     EXPECT_FALSE(method.isValid());
-    EXPECT_EQ(wrapper.FindSlotMethod(QStringLiteral("apply"), method), TRUE);
+    EXPECT_EQ(wrapper.FindSlotMethod("apply"_q, method), TRUE);
     EXPECT_EQ(method.methodSignature(), "apply(int)");
 }
 
-class SlotTakeOver : public testing::TestWithParam<bool>
+/// A target that hears of a source, and a wrapper to take its slots over.
+class SlotTest : public testing::Test
 {
+protected:
+    void listen(const char* slot, Qt::ConnectionType type = Qt::AutoConnection)
+    {
+        QObject::connect(&source, SIGNAL(sent(int)), &target, slot, type);
+    }
+
+    Source source;
+    Target target;
+    Wrapper wrapper;
 };
 
-TEST_P(SlotTakeOver, FittingSlotsOfTheSameName)
+TEST_F(SlotTest, FittingSlotsOfTheSameNameAreTakenOver)
 {
-    const bool keepOld = GetParam();
-    Source source;
-    Target target;
-    Wrapper wrapper;
-    int functorCalls = 0;
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(apply(int)));
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(clear()), Qt::QueuedConnection);
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(take(int)));
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(unknown(int)));
-    QObject::connect(&source, &Source::sent, &target, [&] { ++functorCalls; });
-    QObject::connect(&source, &Source::sent, &target, &Target::apply);
-    wrapper.ConnectSlotsFrom(&target, keepOld);
-    wrapper.ConnectSlotsFrom(&target, keepOld);
-    Q_EMIT source.sent(4);
-    EXPECT_EQ(wrapper.log, QStringLiteral("4")) << "once, and the queued one not yet";
-    EXPECT_EQ(target.calls, keepOld ? 4 : 3);
-    vxtest::deliverPosted();
-    EXPECT_EQ(wrapper.log, QStringLiteral("4c")) << "of the old connection's type";
-    EXPECT_EQ(target.calls, keepOld ? 5 : 3);
-    EXPECT_EQ(functorCalls, 1) << "functors stay";
+    for (const bool keepOld : {false, true}) {
+        SCOPED_TRACE(keepOld);
+        Wrapper taker;
+        int functorCalls = 0;
+        source.disconnect();
+        target.calls = 0;
+        listen(SLOT(apply(int)));
+        listen(SLOT(clear()), Qt::QueuedConnection);
+        listen(SLOT(take(int)));
+        listen(SLOT(unknown(int)));
+        QObject::connect(&source, &Source::sent, &target, [&] { ++functorCalls; });
+        QObject::connect(&source, &Source::sent, &target, &Target::apply);
+        taker.ConnectSlotsFrom(&target, keepOld);
+        taker.ConnectSlotsFrom(&target, keepOld);
+        Q_EMIT source.sent(4);
+        EXPECT_EQ(taker.log, "4"_q) << "once, and the queued one not yet";
+        EXPECT_EQ(target.calls, keepOld ? 4 : 3);
+        vxtest::deliverPosted();
+        EXPECT_EQ(taker.log, "4c"_q) << "of the old connection's type";
+        EXPECT_EQ(target.calls, keepOld ? 5 : 3);
+        EXPECT_EQ(functorCalls, 1) << "functors stay";
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(, SlotTakeOver, testing::Bool());
-
-TEST(Object, SlotsAreTakenInTheOrderOfTheSenderList)
+TEST_F(SlotTest, AreTakenInTheOrderOfTheSenderList)
 {
-    Source source;
-    Target target;
-    Wrapper wrapper;
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(apply(int)));
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(clear()));
+    listen(SLOT(apply(int)));
+    listen(SLOT(clear()));
     wrapper.ConnectSlotsFrom(&target, false);
     wrapper.ConnectSlotsFrom(nullptr, false);
     Q_EMIT source.sent(1);
-    // The list begins with the newest connection.
-    EXPECT_EQ(wrapper.log, QStringLiteral("c1"));
+    EXPECT_EQ(wrapper.log, "c1"_q) << "the list begins with the newest connection";
     EXPECT_EQ(target.calls, 0);
 }
 
-TEST(Object, ConnectReplaces)
+TEST_F(SlotTest, ConnectReplaces)
 {
-    Source source;
-    Target target;
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(apply(int)));
-    QObject::connect(&source, SIGNAL(sent(int)), &target, SLOT(take(int)));
+    listen(SLOT(apply(int)));
+    listen(SLOT(take(int)));
     EXPECT_TRUE(CObject_E::Connect(&source, SIGNAL(sent(int)), &target, SLOT(clear())));
     Q_EMIT source.sent(1);
     EXPECT_EQ(target.calls, 1);

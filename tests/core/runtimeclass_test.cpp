@@ -1,7 +1,4 @@
-#include <VxMFCEmu/core/cmdtarget.h>
-
-#include <QtWidgets/QtWidgets>
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -76,22 +73,14 @@ TEST(RuntimeClass, WhatCanImplementIt)
     const auto listed =
         record(button, object, nullptr, CRuntimeClass_E::CreateMetaList(dial, slider, none));
     const auto empty = record(button, object, nullptr, CRuntimeClass_E::CreateMetaList(none));
-    struct Row
-    {
-        int line;
-        const CRuntimeClass_E& record;
-        const QMetaObject* meta;
-        bool fits;
+    const Row<const CRuntimeClass_E*, const QMetaObject*, bool> rows[] = {
+        {&single, slider, true},   {&single, abstractSlider, true},  {&single, button, false},
+        {&single, nullptr, false}, {&listed, slider, true},          {&listed, dial, true},
+        {&listed, button, false},  {&listed, abstractSlider, false}, {&empty, button, false},
     };
-    const Row rows[] = {
-        {__LINE__, single, slider, true},  {__LINE__, single, abstractSlider, true},
-        {__LINE__, single, button, false}, {__LINE__, single, nullptr, false},
-        {__LINE__, listed, slider, true},  {__LINE__, listed, dial, true},
-        {__LINE__, listed, button, false}, {__LINE__, listed, abstractSlider, false},
-        {__LINE__, empty, button, false},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(row.record.IsMyImpMeta(row.meta), row.fits) << row.line;
+    forRows(rows, [&](const CRuntimeClass_E* pRecord, const QMetaObject* meta, bool fits) {
+        EXPECT_EQ(pRecord->IsMyImpMeta(meta), fits);
+    });
 }
 
 TEST(RuntimeClass, ANullFactoryIsNotRegistered)

@@ -1,10 +1,6 @@
-#include <VxMFCEmu/core/threadlocal.h>
-#include <VxMFCEmu/core/threadslots.h>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <future>
-#include <thread>
 
 namespace {
 
@@ -18,37 +14,6 @@ struct Value : CNoTrackObject_E
 };
 
 int moduleA, moduleB;
-
-/// A thread that runs what it is given, so that tests can order what threads do.
-class Worker
-{
-public:
-    ~Worker()
-    {
-        run([this] { m_end = true; });
-        m_thread.join();
-    }
-    void run(std::function<void()> job)
-    {
-        std::packaged_task<void()> task(std::move(job));
-        auto done = task.get_future();
-        m_next.set_value(std::move(task));
-        done.get();
-    }
-
-private:
-    void loop()
-    {
-        while (!m_end) {
-            auto task = m_next.get_future().get();
-            m_next = {};
-            task();
-        }
-    }
-    std::promise<std::packaged_task<void()>> m_next;
-    bool m_end = false;
-    std::thread m_thread{[this] { loop(); }};
-};
 
 TEST(ThreadSlots, NeverZeroAndTheTableGrows)
 {
@@ -104,7 +69,6 @@ TEST(ThreadSlots, EachThreadHasItsValueAndFreeingDeletesAll)
 
 TEST(ThreadSlots, ValuesOfAModule)
 {
-    Worker worker;
     CThreadSlotData_E slots;
     const int ofA = slots.AllocSlot();
     slots.AssignInstance(&moduleA);
@@ -115,7 +79,18 @@ TEST(ThreadSlots, ValuesOfAModule)
         slots.SetValue(ofB, new Value);
     };
     fill();
-    worker.run(fill);
+    std::promise<void> filled, emptied;
+    std::thread other([&] {
+        fill();
+        filled.set_value();
+        emptied.get_future().wait();
+        // The record of this thread was emptied behind its back; it goes on as if new.
+        EXPECT_EQ(slots.GetThreadValue(ofA), nullptr);
+        fill();
+        slots.DeleteValues(nullptr, FALSE);
+        fill();
+    });
+    filled.get_future().wait();
     slots.DeleteValues(&moduleA, FALSE);
     EXPECT_EQ(alive, 3) << "the calling thread's only";
     EXPECT_NE(slots.GetThreadValue(ofB), nullptr) << "the first module stays assigned";
@@ -123,13 +98,8 @@ TEST(ThreadSlots, ValuesOfAModule)
     EXPECT_EQ(alive, 2);
     slots.DeleteValues(nullptr, TRUE);
     EXPECT_EQ(alive, 0);
-    // The other thread's record was emptied behind its back; it goes on as if new.
-    worker.run([&] {
-        EXPECT_EQ(slots.GetThreadValue(ofA), nullptr);
-        fill();
-        slots.DeleteValues(nullptr, FALSE);
-        fill();
-    });
+    emptied.set_value();
+    other.join();
     EXPECT_EQ(alive, 2);
 }
 

@@ -1,30 +1,23 @@
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/dlg/messagebox.h>
-
-#include "support/waiting.h"
+#include "support/test.h"
 #include "support/xinput.h"
 
 #include <QtTest/QTest>
-
 #include <X11/keysym.h>
-
-#include <thread>
 
 namespace {
 
 QMessageBox* openBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 
 /// Captions of the buttons from left to right, the default one in brackets.
-QString buttonRow(const QMessageBox& box)
+std::string buttonRow(const QMessageBox& box)
 {
     QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
     std::sort(buttons.begin(), buttons.end(),
               [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
     QStringList texts;
     for (const QPushButton* pButton : buttons)
-        texts += (pButton->isDefault() ? QStringLiteral("[%1]") : QStringLiteral("%1"))
-                     .arg(pButton->text().remove(u'&'));
-    return texts.join(u'|');
+        texts += (pButton->isDefault() ? "[%1]"_q : "%1"_q).arg(pButton->text().remove(u'&'));
+    return texts.join(u'|').toStdString();
 }
 
 /// Runs @p act on the box that @p show opens, and closes what is still open.
@@ -55,60 +48,44 @@ constexpr auto pressKey = [](int key) {
     return [key](QMessageBox& box) { QTest::keyClick(&box, static_cast<Qt::Key>(key)); };
 };
 
-struct SetRow
-{
-    int line;
-    UINT type;
-    const char* buttons; // from left to right
-    std::vector<int> results;
-    int closeResult; // of Escape and the close button; 0 when the box stays
-};
-
-const SetRow kSets[] = {
-    {__LINE__, MB_OK, "OK", {IDOK}, IDOK},
-    {__LINE__, MB_OKCANCEL, "OK|Cancel", {IDOK, IDCANCEL}, IDCANCEL},
-    {__LINE__, MB_ABORTRETRYIGNORE, "Abort|Retry|Ignore", {IDABORT, IDRETRY, IDIGNORE}, 0},
-    {__LINE__, MB_YESNOCANCEL, "Yes|No|Cancel", {IDYES, IDNO, IDCANCEL}, IDCANCEL},
-    {__LINE__, MB_YESNO, "Yes|No", {IDYES, IDNO}, 0},
-    {__LINE__, MB_RETRYCANCEL, "Retry|Cancel", {IDRETRY, IDCANCEL}, IDCANCEL},
-    {__LINE__,
-     MB_CANCELTRYCONTINUE,
-     "Cancel|Try Again|Continue",
-     {IDCANCEL, IDTRYAGAIN, IDCONTINUE},
-     IDCANCEL},
-};
-
 int showSet(UINT type) { return MessageBox_E(nullptr, L"text", L"caption", type); }
 
 TEST(MessageBox, ButtonsAndTheirAnswers)
 {
-    for (const SetRow& row : kSets) {
-        SCOPED_TRACE(row.line);
-        const QStringList texts = QString::fromLatin1(row.buttons).split(u'|');
+    // Buttons from left to right, their results, that of closing the box: 0 when it stays.
+    const Row<UINT, const char*, std::vector<int>, int> rows[] = {
+        {MB_OK, "OK", {IDOK}, IDOK},
+        {MB_OKCANCEL, "OK|Cancel", {IDOK, IDCANCEL}, IDCANCEL},
+        {MB_ABORTRETRYIGNORE, "Abort|Retry|Ignore", {IDABORT, IDRETRY, IDIGNORE}, 0},
+        {MB_YESNOCANCEL, "Yes|No|Cancel", {IDYES, IDNO, IDCANCEL}, IDCANCEL},
+        {MB_YESNO, "Yes|No", {IDYES, IDNO}, 0},
+        {MB_RETRYCANCEL, "Retry|Cancel", {IDRETRY, IDCANCEL}, IDCANCEL},
+        {MB_CANCELTRYCONTINUE,
+         "Cancel|Try Again|Continue",
+         {IDCANCEL, IDTRYAGAIN, IDCONTINUE},
+         IDCANCEL},
+    };
+    forRows(rows, [](UINT type, const char* buttons, const auto& results, int closeResult) {
+        const auto show = [type] { return showSet(type); };
+        const QStringList texts = QString::fromLatin1(buttons).split(u'|');
         for (int i = 0; i < 4; ++i) {
             const int first = i < texts.size() ? i : 0;
             const auto byReturn = [&](QMessageBox& box) {
                 QStringList expected = texts;
-                expected[first] = QStringLiteral("[%1]").arg(texts[first]);
-                EXPECT_EQ(buttonRow(box).toStdString(), expected.join(u'|').toStdString());
+                expected[first] = "[%1]"_q.arg(texts[first]);
+                EXPECT_EQ(buttonRow(box), expected.join(u'|').toStdString());
                 QTest::keyClick(&box, Qt::Key_Return);
             };
-            EXPECT_EQ(
-                withBox([&] { return showSet(row.type | UINT(i) * MB_DEFBUTTON2); }, byReturn),
-                row.results[std::size_t(first)]);
-            const bool hasKey = i < texts.size() && texts[i] != QLatin1String("OK") &&
-                                texts[i] != QLatin1String("Cancel");
-            if (hasKey) {
-                EXPECT_EQ(
-                    withBox([&] { return showSet(row.type); }, pressKey(texts[i][0].unicode())),
-                    row.results[std::size_t(i)]);
+            EXPECT_EQ(withBox([&] { return showSet(type | UINT(i) * MB_DEFBUTTON2); }, byReturn),
+                      results[std::size_t(first)]);
+            if (i < texts.size() && texts[i] != "OK"_q && texts[i] != "Cancel"_q) {
+                EXPECT_EQ(withBox(show, pressKey(texts[i][0].unicode())), results[std::size_t(i)]);
             }
         }
         const auto close = [](QMessageBox& box) { box.close(); };
-        EXPECT_EQ(withBox([&] { return showSet(row.type); }, close), row.closeResult);
-        EXPECT_EQ(withBox([&] { return showSet(row.type); }, pressKey(Qt::Key_Escape)),
-                  row.closeResult);
-    }
+        EXPECT_EQ(withBox(show, close), closeResult);
+        EXPECT_EQ(withBox(show, pressKey(Qt::Key_Escape)), closeResult);
+    });
 }
 
 TEST(MessageBox, RealKeys)
@@ -128,37 +105,30 @@ TEST(MessageBox, RealKeys)
 TEST(MessageBox, TextCaptionIconAndOwner)
 {
     QWidget owner;
-    const struct
-    {
-        int line;
-        UINT type;
-        QMessageBox::Icon icon;
-        bool onTop;
-    } rows[] = {
-        {__LINE__, MB_OK, QMessageBox::NoIcon, false},
-        {__LINE__, MB_ICONHAND, QMessageBox::Critical, false},
-        {__LINE__, MB_ICONQUESTION | MB_TASKMODAL, QMessageBox::Question, false},
-        {__LINE__, MB_ICONEXCLAMATION | MB_TOPMOST, QMessageBox::Warning, true},
-        {__LINE__, MB_ICONASTERISK | MB_SYSTEMMODAL, QMessageBox::Information, true},
+    const Row<UINT, QMessageBox::Icon, bool> rows[] = {
+        {MB_OK, QMessageBox::NoIcon, false},
+        {MB_ICONHAND, QMessageBox::Critical, false},
+        {MB_ICONQUESTION | MB_TASKMODAL, QMessageBox::Question, false},
+        {MB_ICONEXCLAMATION | MB_TOPMOST, QMessageBox::Warning, true},
+        {MB_ICONASTERISK | MB_SYSTEMMODAL, QMessageBox::Information, true},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        withBox([&] { return MessageBox_E(&owner, L"<b>%1</b>\r\n\U0001F600", L"cap", row.type); },
+    forRows(rows, [&](UINT type, QMessageBox::Icon icon, bool onTop) {
+        withBox([&] { return MessageBox_E(&owner, L"<b>%1</b>\r\n\U0001F600", L"cap", type); },
                 [&](QMessageBox& box) {
-                    EXPECT_EQ(box.text(), QStringLiteral("<b>%1</b>\n\U0001F600"));
+                    EXPECT_EQ(box.text(), "<b>%1</b>\n\U0001F600"_q);
                     EXPECT_EQ(box.textFormat(), Qt::PlainText);
-                    EXPECT_EQ(box.windowTitle(), QStringLiteral("cap"));
-                    EXPECT_EQ(box.icon(), row.icon);
-                    EXPECT_EQ(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint), row.onTop);
+                    EXPECT_EQ(box.windowTitle(), "cap"_q);
+                    EXPECT_EQ(box.icon(), icon);
+                    EXPECT_EQ(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint), onTop);
                     EXPECT_EQ(box.parentWidget(), &owner);
                     EXPECT_TRUE(box.isModal());
                     box.done(0);
                 });
-    }
+    });
     withBox([] { return MessageBox_E(nullptr, nullptr, nullptr); },
             [](QMessageBox& box) {
                 EXPECT_EQ(box.text(), QString());
-                EXPECT_EQ(box.windowTitle(), QStringLiteral("Error"));
+                EXPECT_EQ(box.windowTitle(), "Error"_q);
                 box.done(0);
             });
 }
@@ -179,18 +149,18 @@ TEST(AfxMessageBox, ShowsOverTheActiveWindow)
 {
     QWidget window;
     ASSERT_TRUE(vxtest::showAndActivate(&window));
-    QApplication::setApplicationDisplayName(QStringLiteral("Gauge"));
+    QApplication::setApplicationDisplayName("Gauge"_q);
     const int result = withBox([] { return AfxMessageBox_E(L"Sure?", MB_YESNO); },
                                [&](QMessageBox& box) {
                                    EXPECT_EQ(box.parentWidget(), &window);
-                                   EXPECT_EQ(box.windowTitle(), QStringLiteral("Gauge"));
+                                   EXPECT_EQ(box.windowTitle(), "Gauge"_q);
                                    EXPECT_EQ(box.icon(), QMessageBox::Question);
                                    QTest::keyClick(&box, Qt::Key_Y);
                                });
     EXPECT_EQ(result, IDYES);
     withBox([] { return AfxMessageBox_E(4711U); },
             [](QMessageBox& box) {
-                EXPECT_EQ(box.text(), QStringLiteral("#4711"));
+                EXPECT_EQ(box.text(), "#4711"_q);
                 EXPECT_EQ(box.icon(), QMessageBox::Warning);
                 box.done(0);
             });
@@ -214,27 +184,21 @@ TEST(ReportError, ShowsTheMessageOrAResource)
 {
     Talking talking;
     Silent silent;
-    const struct
-    {
-        int line;
-        CException_E& exception;
-        UINT nMessageID;
-        const char* text;
-    } rows[] = {
-        {__LINE__, talking, 12, "spoken"},
-        {__LINE__, silent, 12, "#12"},
-        {__LINE__, silent, 0, "#61472"},
-        {__LINE__, _simpleUserException, 12, "CException"},
+    const Row<CException_E*, UINT, const char*> rows[] = {
+        {&talking, 12, "spoken"},
+        {&silent, 12, "#12"},
+        {&silent, 0, "#61472"},
+        {&_simpleUserException, 12, "CException"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(withBox([&] { return row.exception.ReportError(MB_RETRYCANCEL, row.nMessageID); },
+    forRows(rows, [](CException_E* pException, UINT nID, const char* text) {
+        const auto show = [&] { return pException->ReportError(MB_RETRYCANCEL, nID); };
+        EXPECT_EQ(withBox(show,
                           [&](QMessageBox& box) {
-                              EXPECT_EQ(box.text().toStdString(), row.text);
+                              EXPECT_EQ(box.text().toStdString(), text);
                               QTest::keyClick(&box, Qt::Key_R);
                           }),
                   IDRETRY);
-    }
+    });
 }
 
 } // namespace

@@ -2,13 +2,14 @@
 
 #include "support/waiting.h"
 
-#include <QtGui/QGuiApplication>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 
+#include <cstring>
 #include <memory>
 
 namespace vxtest {
@@ -23,7 +24,9 @@ Display* display()
 
 } // namespace
 
-bool onX11() { return QGuiApplication::platformName() == QLatin1String("xcb") && display(); }
+bool hasDisplay() { return display() != nullptr; }
+
+bool onX11() { return QGuiApplication::platformName() == QLatin1String("xcb") && hasDisplay(); }
 
 bool showAndActivate(QWidget* window)
 {
@@ -33,12 +36,13 @@ bool showAndActivate(QWidget* window)
     return waitUntil([window] { return window->isActiveWindow() && window->isVisible(); });
 }
 
-void movePointer(QWidget* widget, QPoint local)
+void movePointer(QPoint global)
 {
-    const QPoint global = widget->mapToGlobal(local);
     XTestFakeMotionEvent(display(), -1, global.x(), global.y(), CurrentTime);
     XSync(display(), False);
 }
+
+void movePointer(const QWidget* widget, QPoint local) { movePointer(widget->mapToGlobal(local)); }
 
 void setButton(unsigned button, bool down)
 {
@@ -46,9 +50,8 @@ void setButton(unsigned button, bool down)
     XSync(display(), False);
 }
 
-void click(QWidget* widget, QPoint local, unsigned button)
+void clickButton(unsigned button)
 {
-    movePointer(widget, local);
     setButton(button, true);
     setButton(button, false);
 }
@@ -66,23 +69,59 @@ void typeKey(unsigned long keysym)
     setKey(keysym, false);
 }
 
-void resizeWindow(QWidget* window, QSize size)
+unsigned long findWindow(const char* title)
 {
-    XResizeWindow(display(), window->winId(), static_cast<unsigned>(size.width()),
+    Window root = 0, parent = 0;
+    Window* children = nullptr;
+    unsigned count = 0;
+    unsigned long found = 0;
+    if (!XQueryTree(display(), DefaultRootWindow(display()), &root, &parent, &children, &count))
+        return 0;
+    for (unsigned i = 0; i < count && !found; ++i) {
+        char* name = nullptr;
+        if (XFetchName(display(), children[i], &name) && name) {
+            if (std::strcmp(name, title) == 0)
+                found = children[i];
+            XFree(name);
+        }
+    }
+    XFree(children);
+    return found;
+}
+
+void resizeWindow(unsigned long window, QSize size)
+{
+    XResizeWindow(display(), window, static_cast<unsigned>(size.width()),
                   static_cast<unsigned>(size.height()));
     XSync(display(), False);
 }
 
-void closeWindow(QWidget* window)
+void closeWindow(unsigned long window)
 {
     XEvent e{};
     e.xclient.type = ClientMessage;
-    e.xclient.window = window->winId();
+    e.xclient.window = window;
     e.xclient.message_type = XInternAtom(display(), "WM_PROTOCOLS", False);
     e.xclient.format = 32;
     e.xclient.data.l[0] = static_cast<long>(XInternAtom(display(), "WM_DELETE_WINDOW", False));
-    XSendEvent(display(), window->winId(), False, NoEventMask, &e);
+    XSendEvent(display(), window, False, NoEventMask, &e);
     XSync(display(), False);
+}
+
+QImage screenshot()
+{
+    XWindowAttributes screen;
+    XGetWindowAttributes(display(), DefaultRootWindow(display()), &screen);
+    XImage* const grab = XGetImage(display(), DefaultRootWindow(display()), 0, 0,
+                                   static_cast<unsigned>(screen.width),
+                                   static_cast<unsigned>(screen.height), AllPlanes, ZPixmap);
+    if (!grab)
+        return {};
+    const QImage copy = QImage(reinterpret_cast<const uchar*>(grab->data), screen.width,
+                               screen.height, grab->bytes_per_line, QImage::Format_RGB32)
+                            .copy();
+    XDestroyImage(grab);
+    return copy;
 }
 
 } // namespace vxtest

@@ -1,43 +1,46 @@
-#include <VxMFCEmu/text.h>
+#include "support/test.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <stdexcept>
 
 namespace {
 
 constexpr const wchar_t* kNull = nullptr;
 
+/// What came out, and what should have.
+using Text = std::pair<CString_E, CString_E>;
+using Number = std::pair<int, int>;
+
+template <typename Rows>
+void check(const Rows& rows)
+{
+    int index = 0;
+    for (const auto& [got, expected] : rows)
+        EXPECT_EQ(got, expected) << "row " << index++;
+}
+
 TEST(CString, ConstructionAndAssignment)
 {
-    EXPECT_TRUE(CString_E(kNull).IsEmpty());
-    EXPECT_TRUE(CString_E(static_cast<const char*>(nullptr)).IsEmpty());
-    EXPECT_TRUE(CString_E(kNull, 3).IsEmpty());
-    EXPECT_TRUE(CString_E(L"abc", -1).IsEmpty());
-    EXPECT_TRUE(CString_E(L'x', -1).IsEmpty());
+    const Text rows[] = {
+        {CString_E(kNull), L""},          {CString_E(static_cast<const char*>(nullptr)), L""},
+        {CString_E(kNull, 3), L""},       {CString_E(L"abc", -1), L""},
+        {CString_E(L'x', -1), L""},       {CString_E(L'x', 3), L"xxx"},
+        {CString_E("\u4E2D"), L"\u4E2D"}, {CString_E(_T(__FILE__)), __FILE__}};
+    check(rows);
     EXPECT_EQ(CString_E(L"a\0bc", 3).GetLength(), 3);
-    EXPECT_EQ(CString_E(L'x', 3), L"xxx");
-    EXPECT_EQ(CString_E("\u4E2D"), L"\u4E2D");
-    EXPECT_EQ(CString_E(_T(__FILE__)), __FILE__) << "macros are expanded first";
     CString_E s;
-    s = L'c';
-    EXPECT_EQ(s, L"c");
-    s = "\u4E2D";
-    EXPECT_EQ(s, L"\u4E2D");
-    s = reinterpret_cast<const unsigned char*>("\u00E9");
-    EXPECT_EQ(s, L"\u00E9");
-    s = QStringLiteral("q");
+    EXPECT_EQ(s = L'c', L"c");
+    EXPECT_EQ(s = "\u4E2D", L"\u4E2D");
+    EXPECT_EQ(s = reinterpret_cast<const unsigned char*>("\u00E9"), L"\u00E9");
+    EXPECT_EQ(s = kNull, L"");
+    s = "q"_q;
     s += L'1';
     s += L"23";
     s += kNull;
-    s += QStringLiteral("4");
+    s += "4"_q;
     s += CString_E(L"5");
     s += "\u00E9";
     s.AppendChar(L'!');
     EXPECT_EQ(s, L"q12345\u00E9!");
-    s = kNull;
-    EXPECT_TRUE(s.IsEmpty());
     CString_E a(L"value");
     const CString_E b = a;
     a.MakeUpper();
@@ -88,11 +91,11 @@ TEST(CString, Operators)
     const CString_E b(L"beta");
     EXPECT_TRUE(a == a && a != b && a < b && b > a && a <= a && b >= a);
     EXPECT_TRUE(a == L"alpha" && L"alpha" == a && a != L"b" && L"b" > a && a < L"b");
-    EXPECT_TRUE(a == "alpha" && a == QStringLiteral("alpha") && CString_E(L"c") == L'c');
+    EXPECT_TRUE(a == "alpha" && a == "alpha"_q && CString_E(L"c") == L'c');
     EXPECT_TRUE(CString_E() == kNull && a != kNull);
     EXPECT_TRUE(CString_E(L"a\0b", 3) != L"a");
     EXPECT_EQ(a + b, L"alphabeta");
-    EXPECT_EQ(L"<" + a + L'|' + b + "\u00E9" + QStringLiteral(">") + kNull, L"<alpha|beta\u00E9>");
+    EXPECT_EQ(L"<" + a + L'|' + b + "\u00E9" + ">"_q + kNull, L"<alpha|beta\u00E9>");
     EXPECT_EQ(L'c' + a, L"calpha");
     CString_E s(L"self");
     EXPECT_EQ(std::move(s) + s.GetString(), L"selfself");
@@ -100,14 +103,8 @@ TEST(CString, Operators)
 
 TEST(CString, Comparison)
 {
-    struct Row
-    {
-        const wchar_t* left;
-        const wchar_t* right;
-        int order;
-        int orderNoCase;
-    };
-    const Row rows[] = {
+    const Row<const wchar_t*, const wchar_t*, int, int> rows[] = {
+        // order with and without case
         {L"", kNull, 0, 0},
         {L"a", kNull, 1, 1},
         {L"abc", L"ABC", 1, 0},
@@ -117,12 +114,10 @@ TEST(CString, Comparison)
         {L"\U0001F600", L"\uFFFD", 1, 1},
     };
     const auto sign = [](int n) { return (n > 0) - (n < 0); };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(CString_E(row.left).Utf8Ptr());
-        const CString_E s(row.left);
-        EXPECT_EQ(sign(s.Compare(row.right)), row.order);
-        EXPECT_EQ(sign(s.CompareNoCase(row.right)), row.orderNoCase);
-    }
+    forRows(rows, [&](const wchar_t* left, const wchar_t* right, int order, int orderNoCase) {
+        EXPECT_EQ(sign(CString_E(left).Compare(right)), order);
+        EXPECT_EQ(sign(CString_E(left).CompareNoCase(right)), orderNoCase);
+    });
     EXPECT_EQ(CString_E(L"x").Collate(L"x"), 0);
     EXPECT_LT(CString_E(L"a").Collate(L"b"), 0);
     EXPECT_NE(CString_E(L"A").Collate(L"a"), 0);
@@ -130,45 +125,21 @@ TEST(CString, Comparison)
     EXPECT_GT(CString_E(L"a").Collate(kNull), 0);
 }
 
-struct TextRow
-{
-    int line;
-    CString_E got;
-    const wchar_t* expected;
-};
-
-void check(std::initializer_list<TextRow> rows)
-{
-    for (const TextRow& row : rows)
-        EXPECT_EQ(row.got, row.expected) << "line " << row.line;
-}
-
 TEST(CString, Extraction)
 {
     const CString_E s(L"abc");
-    check({
-        {__LINE__, s.Mid(-1), L"abc"},
-        {__LINE__, s.Mid(1), L"bc"},
-        {__LINE__, s.Mid(3), L""},
-        {__LINE__, s.Mid(4), L""},
-        {__LINE__, s.Mid(-1, 2), L""},
-        {__LINE__, s.Mid(2, -1), L"c"},
-        {__LINE__, s.Mid(1, 9), L"bc"},
-        {__LINE__, s.Mid(1, 1), L"b"},
-        {__LINE__, s.Mid(4, 1), L""},
-        {__LINE__, s.Left(-3), L""},
-        {__LINE__, s.Left(2), L"ab"},
-        {__LINE__, s.Left(100), L"abc"},
-        {__LINE__, s.Right(-3), L""},
-        {__LINE__, s.Right(0), L""},
-        {__LINE__, s.Right(2), L"bc"},
-        {__LINE__, s.Right(100), L"abc"},
-        {__LINE__, s.SpanIncluding(L"ba"), L"ab"},
-        {__LINE__, s.SpanIncluding(L"abcd"), L"abc"},
-        {__LINE__, s.SpanIncluding(kNull), L""},
-        {__LINE__, s.SpanExcluding(L"xc"), L"ab"},
-        {__LINE__, s.SpanExcluding(kNull), L"abc"},
-    });
+    const Text parts[] = {
+        {s.Mid(-1), L"abc"}, {s.Mid(1), L"bc"},    {s.Mid(3), L""},      {s.Mid(4), L""},
+        {s.Mid(-1, 2), L""}, {s.Mid(2, -1), L"c"}, {s.Mid(1, 9), L"bc"}, {s.Mid(1, 1), L"b"},
+        {s.Mid(4, 1), L""},  {s.Left(-3), L""},    {s.Left(2), L"ab"},   {s.Left(100), L"abc"},
+        {s.Right(-3), L""},  {s.Right(0), L""},    {s.Right(2), L"bc"},  {s.Right(100), L"abc"}};
+    check(parts);
+    const Text spans[] = {{s.SpanIncluding(L"ba"), L"ab"},
+                          {s.SpanIncluding(L"abcd"), L"abc"},
+                          {s.SpanIncluding(kNull), L""},
+                          {s.SpanExcluding(L"xc"), L"ab"},
+                          {s.SpanExcluding(kNull), L"abc"}};
+    check(spans);
 }
 
 TEST(CString, Tokens)
@@ -192,72 +163,53 @@ TEST(CString, Tokens)
 TEST(CString, Searching)
 {
     const CString_E s(L"abcabc\U0001F600");
-    struct Row
-    {
-        int line;
-        int got;
-        int expected;
-    };
-    const Row rows[] = {
-        {__LINE__, s.Find(L'b'), 1},           {__LINE__, s.Find(L'b', 2), 4},
-        {__LINE__, s.Find(L'a', 4), -1},       {__LINE__, s.Find(L'a', -1), -1},
-        {__LINE__, s.Find(L"bc"), 1},          {__LINE__, s.Find(L"bc", 2), 4},
-        {__LINE__, s.Find(L"x"), -1},          {__LINE__, s.Find(L""), -1},
-        {__LINE__, CString_E().Find(L""), -1}, {__LINE__, s.Find(kNull), -1},
-        {__LINE__, s.Find(kNull, 0), -1},      {__LINE__, s.Find(L"a", 99), -1},
-        {__LINE__, s.Find(L"a", -1), -1},      {__LINE__, s.ReverseFind(L'a'), 3},
-        {__LINE__, s.ReverseFind(L'x'), -1},   {__LINE__, s.FindOneOf(L"xcb"), 1},
-        {__LINE__, s.FindOneOf(kNull), -1},    {__LINE__, s.Find(L'\U0001F600'), 6},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(row.got, row.expected) << "line " << row.line;
+    const Number rows[] = {
+        {s.Find(L'b'), 1},        {s.Find(L'b', 2), 4},     {s.Find(L'a', 4), -1},
+        {s.Find(L'a', -1), -1},   {s.Find(L"bc"), 1},       {s.Find(L"bc", 2), 4},
+        {s.Find(L"x"), -1},       {s.Find(L""), -1},        {CString_E().Find(L""), -1},
+        {s.Find(kNull), -1},      {s.Find(kNull, 0), -1},   {s.Find(L"a", 99), -1},
+        {s.Find(L"a", -1), -1},   {s.ReverseFind(L'a'), 3}, {s.ReverseFind(L'x'), -1},
+        {s.FindOneOf(L"xcb"), 1}, {s.FindOneOf(kNull), -1}, {s.Find(L'\U0001F600'), 6}};
+    check(rows);
 }
 
 TEST(CString, Changing)
 {
-    struct Row
-    {
-        int line;
-        const wchar_t* text;
-        std::function<int(CString_E&)> change;
-        int result;
-        const wchar_t* expected;
-    };
     const auto replace = [](const wchar_t* old, const wchar_t* to) {
         return [=](CString_E& s) { return s.Replace(old, to); };
     };
-    const Row rows[] = {
-        {__LINE__, L"aXa", [](CString_E& s) { return s.Replace(L'a', L'b'); }, 2, L"bXb"},
-        {__LINE__, L"aaaa", replace(L"aa", L"a"), 2, L"aa"},
-        {__LINE__, L"a-b-c-d", replace(L"-", L"::"), 3, L"a::b::c::d"},
-        {__LINE__, L"a-b", replace(L"-", L"::"), 1, L"a::b"},
-        {__LINE__, L"xabxabx", replace(L"ab", L"AB"), 2, L"xABxABx"},
-        {__LINE__, L"abcabc", replace(L"abc", kNull), 2, L""},
-        {__LINE__, L"aa", replace(L"a", L"aa"), 2, L"aaaa"},
-        {__LINE__, L"abc", replace(L"", L"x"), 0, L"abc"},
-        {__LINE__, L"abc", replace(kNull, L"x"), 0, L"abc"},
-        {__LINE__, L"abab", [](CString_E& s) { return s.Replace(L"a", s.GetString()); }, 2,
-         L"ababbababb"},
-        {__LINE__, L"abab", [](CString_E& s) { return s.Replace(L"ab", s.GetString() + 3); }, 2,
-         L"bb"},
-        {__LINE__, L"banana", [](CString_E& s) { return s.Remove(L'a'); }, 3, L"bnn"},
-        {__LINE__, L"ac", [](CString_E& s) { return s.Insert(1, L'b'); }, 3, L"abc"},
-        {__LINE__, L"ac", [](CString_E& s) { return s.Insert(2, L"de"); }, 4, L"acde"},
-        {__LINE__, L"ac", [](CString_E& s) { return s.Insert(0, kNull); }, 2, L"ac"},
-        {__LINE__, L"abcd", [](CString_E& s) { return s.Delete(1, 2); }, 2, L"ad"},
-        {__LINE__, L"abcd", [](CString_E& s) { return s.Delete(1, 99); }, 1, L"a"},
-        {__LINE__, L"abcd", [](CString_E& s) { return s.Delete(4, 1); }, 4, L"abcd"},
-        {__LINE__, L"abcd", [](CString_E& s) { return s.Delete(1, -1); }, 4, L"abcd"},
-        {__LINE__, L"aBc", [](CString_E& s) { return s.MakeUpper().GetLength(); }, 3, L"ABC"},
-        {__LINE__, L"aBc", [](CString_E& s) { return s.MakeLower().GetLength(); }, 3, L"abc"},
-        {__LINE__, L"ab\U0001F600", [](CString_E& s) { return s.MakeReverse().GetLength(); }, 3,
+    using Change = std::function<int(CString_E&)>;
+    const Row<const wchar_t*, Change, int, const wchar_t*> rows[] = {
+        {L"aXa", [](CString_E& s) { return s.Replace(L'a', L'b'); }, 2, L"bXb"},
+        {L"aaaa", replace(L"aa", L"a"), 2, L"aa"},
+        {L"a-b-c-d", replace(L"-", L"::"), 3, L"a::b::c::d"},
+        {L"a-b", replace(L"-", L"::"), 1, L"a::b"},
+        {L"xabxabx", replace(L"ab", L"AB"), 2, L"xABxABx"},
+        {L"abcabc", replace(L"abc", kNull), 2, L""},
+        {L"aa", replace(L"a", L"aa"), 2, L"aaaa"},
+        {L"abc", replace(L"", L"x"), 0, L"abc"},
+        {L"abc", replace(kNull, L"x"), 0, L"abc"},
+        {L"abab", [](CString_E& s) { return s.Replace(L"a", s.GetString()); }, 2, L"ababbababb"},
+        {L"abab", [](CString_E& s) { return s.Replace(L"ab", s.GetString() + 3); }, 2, L"bb"},
+        {L"banana", [](CString_E& s) { return s.Remove(L'a'); }, 3, L"bnn"},
+        {L"ac", [](CString_E& s) { return s.Insert(1, L'b'); }, 3, L"abc"},
+        {L"ac", [](CString_E& s) { return s.Insert(2, L"de"); }, 4, L"acde"},
+        {L"ac", [](CString_E& s) { return s.Insert(0, kNull); }, 2, L"ac"},
+        {L"abcd", [](CString_E& s) { return s.Delete(1, 2); }, 2, L"ad"},
+        {L"abcd", [](CString_E& s) { return s.Delete(1, 99); }, 1, L"a"},
+        {L"abcd", [](CString_E& s) { return s.Delete(4, 1); }, 4, L"abcd"},
+        {L"abcd", [](CString_E& s) { return s.Delete(1, -1); }, 4, L"abcd"},
+        {L"aBc", [](CString_E& s) { return s.MakeUpper().GetLength(); }, 3, L"ABC"},
+        {L"aBc", [](CString_E& s) { return s.MakeLower().GetLength(); }, 3, L"abc"},
+        {L"ab\U0001F600", [](CString_E& s) { return s.MakeReverse().GetLength(); }, 3,
          L"\U0001F600ba"},
     };
-    for (const Row& row : rows) {
-        CString_E s(row.text);
-        EXPECT_EQ(row.change(s), row.result) << "line " << row.line;
-        EXPECT_EQ(s, row.expected) << "line " << row.line;
-    }
+    forRows(rows,
+            [&](const wchar_t* text, const Change& change, int result, const wchar_t* expected) {
+                CString_E s(text);
+                EXPECT_EQ(change(s), result);
+                EXPECT_EQ(s, expected);
+            });
     CString_E s(L"abc");
     for (const int index : {-1, 4}) {
         EXPECT_THROW(s.Insert(index, L'x'), std::out_of_range);
@@ -269,25 +221,21 @@ TEST(CString, Changing)
 TEST(CString, TrimmingAndSeparators)
 {
     const auto text = [](const wchar_t* p) { return CString_E(p); };
-    check({
-        {__LINE__, text(L" \t\r\n a \r").TrimLeft(), L"a \r"},
-        {__LINE__, text(L" a \r\n\t").TrimRight(), L" a"},
-        {__LINE__, text(L" \ta b\n ").Trim(), L"a b"},
-        {__LINE__, text(L" \v a").TrimLeft(), L"\v a"},
-        {__LINE__, text(L"a\f ").TrimRight(), L"a\f"},
-        {__LINE__, text(L" \t").Trim(), L""},
-        {__LINE__, text(L" \t").TrimLeft(), L""},
-        {__LINE__, text(L"xxaxx").Trim(L'x'), L"a"},
-        {__LINE__, text(L"xax").TrimLeft(L'x'), L"ax"},
-        {__LINE__, text(L"xax").TrimRight(L'x'), L"xa"},
-        {__LINE__, text(L"xyaxy").Trim(L"yx"), L"a"},
-        {__LINE__, CString_E(L"\0a\0", 3).Trim(L'\0'), L"a"},
-        {__LINE__, text(L" a ").Trim(kNull), L" a "},
-        {__LINE__, text(L"a\nb\r\n").ToWinReturn(), L"a\r\nb\r\r\n"},
-        {__LINE__, text(L"a\r\nb\r").ToUnixReturn(), L"a\nb\r"},
-        {__LINE__, text(L"a/b\\c").ToWinSeperator(), L"a\\b\\c"},
-        {__LINE__, text(L"a/b\\c").ToUnixSeperator(), L"a/b/c"},
-    });
+    const Text rows[] = {{text(L" \t").Trim(), L""},          {text(L" \t").TrimLeft(), L""},
+                         {text(L"xxaxx").Trim(L'x'), L"a"},   {text(L"xyaxy").Trim(L"yx"), L"a"},
+                         {text(L" a ").Trim(kNull), L" a "},  {text(L" \ta b\n ").Trim(), L"a b"},
+                         {text(L"a\f ").TrimRight(), L"a\f"}, {text(L" \v a").TrimLeft(), L"\v a"},
+                         {text(L"xax").TrimLeft(L'x'), L"ax"}};
+    check(rows);
+    const Text longer[] = {{text(L"xax").TrimRight(L'x'), L"xa"},
+                           {text(L" a \r\n\t").TrimRight(), L" a"},
+                           {CString_E(L"\0a\0", 3).Trim(L'\0'), L"a"},
+                           {text(L" \t\r\n a \r").TrimLeft(), L"a \r"},
+                           {text(L"a\r\nb\r").ToUnixReturn(), L"a\nb\r"},
+                           {text(L"a/b\\c").ToUnixSeperator(), L"a/b/c"},
+                           {text(L"a/b\\c").ToWinSeperator(), L"a\\b\\c"},
+                           {text(L"a\nb\r\n").ToWinReturn(), L"a\r\nb\r\r\n"}};
+    check(longer);
 }
 
 TEST(CString, Buffers)

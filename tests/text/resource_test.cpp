@@ -1,9 +1,4 @@
-#include <VxMFCEmu/core.h>
-#include <VxMFCEmu/text.h>
-
-#include <gtest/gtest.h>
-
-#include <thread>
+#include "support/test.h"
 
 #include <dlfcn.h>
 
@@ -17,9 +12,8 @@ public:
     {
         EXPECT_TRUE(m_handle) << dlerror();
     }
+    Q_DISABLE_COPY_MOVE(Plugin)
     ~Plugin() { EXPECT_EQ(dlclose(m_handle), 0); }
-    Plugin(const Plugin&) = delete;
-    Plugin& operator=(const Plugin&) = delete;
 
     template <typename Function>
     Function* find(const char* name) const
@@ -86,13 +80,7 @@ TEST(LoadString, ReadsTheCallersTable)
 
     const Plugin gizmo("libGizmo.so.2");
     auto* const load = gizmo.find<BOOL(CString_E*, UINT)>("pluginLoad");
-    struct Row
-    {
-        UINT id;
-        BOOL found;
-        const wchar_t* text;
-    };
-    const Row rows[] = {
+    const Row<UINT, BOOL, const wchar_t*> rows[] = {
         {101, TRUE, L"Gizmo, ready"},
         {102, TRUE, L"图层 \"%s\""},
         {103, TRUE, L"one, two, three"},
@@ -100,10 +88,10 @@ TEST(LoadString, ReadsTheCallersTable)
         {0, FALSE, L""},
         {999, FALSE, L""},
     };
-    for (const Row& row : rows) {
+    for (const auto& [id, found, loaded] : rows) {
         text = L"old";
-        EXPECT_EQ(load(&text, row.id), row.found) << row.id;
-        EXPECT_EQ(text, row.text) << row.id;
+        EXPECT_EQ(load(&text, id), found) << id;
+        EXPECT_EQ(text, loaded) << id;
     }
     EXPECT_EQ(gizmo.find<int(CString_E*, UINT)>("pluginFormat")(&text, 104), 17);
     EXPECT_EQ(text, L"3 of nine4 of ten");

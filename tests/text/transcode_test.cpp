@@ -1,8 +1,5 @@
-#include <VxMFCEmu/text.h>
+#include "support/test.h"
 
-#include <gtest/gtest.h>
-
-#include <random>
 #include <stdexcept>
 
 namespace {
@@ -78,7 +75,7 @@ TEST(QStringConversion, OddTexts)
     VxQString q(L"a");
     q += CString_E(L"\u00E9");
     q += L"z";
-    EXPECT_EQ(q, QString::fromUtf8("a\u00E9z"));
+    EXPECT_EQ(q, "a\u00E9z"_q);
     q = L"new";
     EXPECT_EQ(q, QLatin1String("new"));
     q = CString_E(L"\U0001F600");

@@ -1,14 +1,5 @@
 // The road of an event through a bound window, and messages sent and posted.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/waiting.h"
-
-#include <QtGui/QCloseEvent>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QScrollArea>
-#include <QtWidgets/QScrollBar>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -16,19 +7,15 @@ namespace {
 class TraceWidget : public QWidget
 {
 public:
-    explicit TraceWidget(QStringList& trace, QWidget* parent = nullptr)
-        : QWidget(parent), m_trace(trace)
-    {
-    }
+    explicit TraceWidget(QStringList& trace) : m_trace(trace) {}
 
 protected:
     void keyPressEvent(QKeyEvent* e) override
     {
-        m_trace << (e->isAccepted() ? QStringLiteral("widget key")
-                                    : QStringLiteral("widget ignored key"));
+        m_trace << (e->isAccepted() ? "widget key"_q : "widget ignored key"_q);
     }
-    void closeEvent(QCloseEvent*) override { m_trace << QStringLiteral("widget close"); }
-    void wheelEvent(QWheelEvent*) override { m_trace << QStringLiteral("widget wheel"); }
+    void closeEvent(QCloseEvent*) override { m_trace << "widget close"_q; }
+    void wheelEvent(QWheelEvent*) override { m_trace << "widget wheel"_q; }
 
 private:
     QStringList& m_trace;
@@ -41,25 +28,25 @@ public:
 
     BOOL PreTranslateMessage(tagMSG* pMsg) override
     {
-        m_trace << QStringLiteral("pre %1").arg(pMsg->message, 0, 16);
+        m_trace << "pre %1"_q.arg(pMsg->message, 0, 16);
         m_last = *pMsg;
         return m_bConsume;
     }
     void OnKeyDown(UINT nChar, UINT nRep, UINT nFlags)
     {
-        m_trace << QStringLiteral("key %1 %2 %3").arg(nChar, 0, 16).arg(nRep).arg(nFlags);
+        m_trace << "key %1 %2 %3"_q.arg(nChar, 0, 16).arg(nRep).arg(nFlags);
         if (m_bPassOn)
             CWnd_E::OnKeyDown(nChar, nRep, nFlags);
     }
-    void OnChar(UINT nChar, UINT, UINT) { m_trace << QStringLiteral("char %1").arg(nChar, 0, 16); }
+    void OnChar(UINT nChar, UINT, UINT) { m_trace << "char %1"_q.arg(nChar, 0, 16); }
     void OnClose()
     {
-        m_trace << QStringLiteral("close");
+        m_trace << "close"_q;
         SetCurrentEventAccepted(!m_bPassOn);
     }
     BOOL OnMouseWheel(UINT, short zDelta, CPoint_E)
     {
-        m_trace << QStringLiteral("wheel %1").arg(zDelta);
+        m_trace << "wheel %1"_q.arg(zDelta);
         return !m_bPassOn;
     }
     LRESULT OnSum(WPARAM wParam, LPARAM lParam)
@@ -91,47 +78,30 @@ END_MESSAGE_MAP_E()
 class DispatchTest : public testing::Test
 {
 protected:
-    DispatchTest() : m_widget(m_trace), m_window(m_trace) { m_window.SubclassWindow(&m_widget); }
+    DispatchTest() { m_window.SubclassWindow(&m_widget); }
 
-    QStringList take() { return std::exchange(m_trace, {}); }
-    static QStringList list(std::initializer_list<const char*> lines)
-    {
-        QStringList result;
-        for (const char* line : lines)
-            result << QLatin1String(line);
-        return result;
-    }
-    void press(int key, const QString& text)
-    {
-        QKeyEvent e(QEvent::KeyPress, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&m_widget, &e);
-    }
+    std::string take() { return std::exchange(m_trace, {}).join(u',').toStdString(); }
+    bool send(QEvent&& e) { return QCoreApplication::sendEvent(&m_widget, &e); }
 
     QStringList m_trace;
-    TraceWidget m_widget;
-    TraceWnd m_window;
+    TraceWidget m_widget{m_trace};
+    TraceWnd m_window{m_trace};
 };
 
-TEST_F(DispatchTest, AHandledKeyIsConsumedAndItsCharactersFollow)
+TEST_F(DispatchTest, AKeyEndsWithTheFirstThatTakesIt)
 {
-    press(Qt::Key_A, QStringLiteral("ab"));
-    vxtest::deliverPosted();
-    EXPECT_EQ(take(), list({"pre 100", "key 41 1 0", "pre 102", "char 61", "pre 102", "char 62"}));
-}
-
-TEST_F(DispatchTest, AClearedAcceptedFlagLetsTheEventReachTheWidgetAsItWas)
-{
-    m_window.m_bPassOn = true;
-    press(Qt::Key_A, {});
-    EXPECT_EQ(take(), list({"pre 100", "key 41 1 0", "widget key"}));
-}
-
-TEST_F(DispatchTest, PreTranslateMessageConsumesBeforeAnythingElse)
-{
-    m_window.m_bConsume = true;
-    press(Qt::Key_A, QStringLiteral("a"));
-    vxtest::deliverPosted();
-    EXPECT_EQ(take(), list({"pre 100"}));
+    const Row<bool, bool, QString, const char*> rows[] = {
+        {false, false, "ab"_q, "pre 100,key 41 1 0,pre 102,char 61,pre 102,char 62"},
+        {false, true, {}, "pre 100,key 41 1 0,widget key"}, // reaches the widget as it was
+        {true, false, "a"_q, "pre 100"},                    // consumed by PreTranslateMessage
+    };
+    for (const auto& [consume, passOn, text, trace] : rows) {
+        m_window.m_bConsume = consume;
+        m_window.m_bPassOn = passOn;
+        send(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, text));
+        vxtest::deliverPosted();
+        EXPECT_EQ(take(), trace);
+    }
 }
 
 TEST_F(DispatchTest, ACloseThatAHandlerDoesNotAcceptIsStoppedAndHiddenFromTheWidget)
@@ -140,21 +110,19 @@ TEST_F(DispatchTest, ACloseThatAHandlerDoesNotAcceptIsStoppedAndHiddenFromTheWid
     take();
     m_window.m_bPassOn = true;
     EXPECT_FALSE(m_widget.close());
-    EXPECT_TRUE(take().endsWith(QStringLiteral("close")));
+    EXPECT_TRUE(m_trace.endsWith("close"_q));
     m_window.m_bPassOn = false;
     EXPECT_TRUE(m_widget.close());
-    EXPECT_FALSE(m_trace.contains(QStringLiteral("widget close")));
+    EXPECT_FALSE(m_trace.contains("widget close"_q));
 }
 
 TEST_F(DispatchTest, AWheelHandlerThatGivesFalseLeavesTheWheelToTheWidget)
 {
     for (const bool passOn : {false, true}) {
         m_window.m_bPassOn = passOn;
-        QWheelEvent e(QPointF(5, 6), QPointF(5, 6), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&m_widget, &e);
-        EXPECT_EQ(take(), passOn ? list({"pre 20a", "wheel -120", "widget wheel"})
-                                 : list({"pre 20a", "wheel -120"}));
+        send(QWheelEvent(QPointF(5, 6), QPointF(5, 6), QPoint(), QPoint(0, -120), Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false));
+        EXPECT_EQ(take(), passOn ? "pre 20a,wheel -120,widget wheel" : "pre 20a,wheel -120");
     }
 }
 
@@ -163,13 +131,12 @@ TEST_F(DispatchTest, AMessageThatCodeSeesIsStamped)
     const auto before = static_cast<DWORD>(QDateTime::currentSecsSinceEpoch());
     QCursor::setPos(33, 44);
     m_window.SendMessage(WM_APP + 7, 1, 2);
-    tagPOINT cursor{};
+    CPoint_E cursor;
     GetCursorPos_E(&cursor);
     EXPECT_EQ(m_window.m_last.hwnd, &m_widget);
     EXPECT_GE(m_window.m_last.time, before);
     EXPECT_LE(m_window.m_last.time, before + 60);
-    EXPECT_EQ(m_window.m_last.pt.x, cursor.x);
-    EXPECT_EQ(m_window.m_last.pt.y, cursor.y);
+    EXPECT_EQ(CPoint_E(m_window.m_last.pt), cursor);
 }
 
 TEST_F(DispatchTest, ResultsComeBackToTheSenderOnlyWhenTheMessageIsConsumed)
@@ -186,17 +153,17 @@ TEST_F(DispatchTest, ResultsComeBackToTheSenderOnlyWhenTheMessageIsConsumed)
 TEST_F(DispatchTest, AVirtualKeyWithoutAQtKeyIsSentAsAMessage)
 {
     EXPECT_EQ(m_window.SendMessage(WM_KEYDOWN, 0x41, 0x20003), 0);
-    EXPECT_EQ(take(), list({"pre 100", "key 41 1 0"})) << "a key event has its own lParam";
+    EXPECT_EQ(take(), "pre 100,key 41 1 0") << "a key event has its own lParam";
     m_window.SendMessage(WM_KEYDOWN, 0x07, 0x20003);
-    EXPECT_EQ(take(), list({"pre 100", "key 7 3 2"}));
+    EXPECT_EQ(take(), "pre 100,key 7 3 2");
 }
 
 TEST_F(DispatchTest, APostedMessageArrivesThroughTheEventLoop)
 {
     EXPECT_TRUE(m_window.PostMessage(WM_APP + 1, 1, 1));
-    EXPECT_TRUE(take().isEmpty());
+    EXPECT_EQ(take(), "");
     vxtest::deliverPosted();
-    EXPECT_EQ(take(), list({"pre 8001"}));
+    EXPECT_EQ(take(), "pre 8001");
 }
 
 TEST_F(DispatchTest, CompressedEventsWaitForEachOtherUntilTheDispatchIsOver)
@@ -206,7 +173,7 @@ TEST_F(DispatchTest, CompressedEventsWaitForEachOtherUntilTheDispatchIsOver)
     EXPECT_FALSE(m_window.PostEvent(message(2), Qt::NormalEventPriority, true));
     EXPECT_TRUE(m_window.PostEvent(message(3), Qt::NormalEventPriority, false));
     vxtest::deliverPosted();
-    EXPECT_EQ(take(), list({"pre 8009", "pre 8009"}));
+    EXPECT_EQ(take(), "pre 8009,pre 8009");
     EXPECT_EQ(m_window.m_last.wParam, 3U);
     EXPECT_TRUE(m_window.PostEvent(message(4), Qt::NormalEventPriority, true));
     CWnd_E unbound;
@@ -219,13 +186,13 @@ TEST(DispatchOfPlainWindowsTest, BindingAWindowChangesNothingInHowAWidgetWorks)
     QLineEdit edit;
     CWnd_E window;
     window.SubclassWindow(&edit);
-    for (const QChar c : QStringLiteral("Ab")) {
+    for (const QChar c : "Ab"_q) {
         QKeyEvent e(QEvent::KeyPress, c.toUpper().unicode(), Qt::NoModifier, c);
         QCoreApplication::sendEvent(&edit, &e);
         EXPECT_TRUE(e.isAccepted());
     }
     vxtest::deliverPosted();
-    EXPECT_EQ(edit.text(), QStringLiteral("Ab"));
+    EXPECT_EQ(edit.text(), "Ab"_q);
     QKeyEvent ignored(QEvent::KeyPress, Qt::Key_F7, Qt::NoModifier);
     QCoreApplication::sendEvent(&edit, &ignored);
     EXPECT_FALSE(ignored.isAccepted());
@@ -241,19 +208,16 @@ TEST(DispatchOfPlainWindowsTest, BindingAWindowChangesNothingInHowAWidgetWorks)
     EXPECT_TRUE(vxtest::waitUntil([&] { return area.verticalScrollBar()->maximum() > 0; }));
 }
 
-/// Notes the order in which windows are offered WM_SETCURSOR.
+/// Notes that it was offered WM_SETCURSOR.
 class CursorWnd : public CWnd_E
 {
 public:
-    CursorWnd(QStringList& trace, const char* name, LRESULT nResult)
-        : m_trace(trace), m_name(QLatin1String(name)), m_nResult(nResult)
+    CursorWnd(QString& trace, QWidget* widget, char name, LRESULT nResult)
+        : m_trace(trace), m_name(name), m_nResult(nResult)
     {
+        SubclassWindow(widget);
     }
-    LRESULT OnCursor(WPARAM, LPARAM)
-    {
-        m_trace << m_name;
-        return m_nResult;
-    }
+    LRESULT OnCursor(WPARAM, LPARAM) { return (m_trace += QLatin1Char(m_name), m_nResult); }
 
 protected:
     void OnMessageMap() override
@@ -264,45 +228,31 @@ protected:
     }
 
 private:
-    QStringList& m_trace;
-    QString m_name;
+    QString& m_trace;
+    char m_name;
     LRESULT m_nResult;
 };
 
 TEST(SetCursorTest, TheOutermostWindowThatWantsTheCursorWins)
 {
-    const struct
-    {
-        LRESULT top, middle;
-        const char* calls;
-        LRESULT result;
-    } rows[] = {{0, 0, "top middle child", 3}, {0, 2, "top middle", 2}, {1, 2, "top", 1}};
-    for (const auto& row : rows) {
-        QStringList trace;
+    // results of the top and the middle window, whether the child is a window of its own, which
+    // asks those that own it all the same; who was asked, result
+    const Row<LRESULT, LRESULT, bool, const char*, LRESULT> rows[] = {{0, 0, false, "tmc", 3},
+                                                                      {0, 2, false, "tm", 2},
+                                                                      {1, 2, false, "t", 1},
+                                                                      {4, 2, true, "t", 4}};
+    forRows(rows, [&](LRESULT topResult, LRESULT middleResult, bool isDialog, const char* calls,
+                      LRESULT result) {
+        QString trace;
         QWidget topWidget;
         auto* const middleWidget = new QWidget(&topWidget);
-        auto* const childWidget = new QWidget(middleWidget);
-        CursorWnd top(trace, "top", row.top), middle(trace, "middle", row.middle),
-            child(trace, "child", 3);
-        top.SubclassWindow(&topWidget);
-        middle.SubclassWindow(middleWidget);
-        child.SubclassWindow(childWidget);
-        EXPECT_EQ(child.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(childWidget)),
-                  row.result);
-        EXPECT_EQ(trace.join(QLatin1Char(' ')), QLatin1String(row.calls));
-    }
-}
-
-TEST(SetCursorTest, AWindowOfItsOwnAsksTheWindowThatOwnsIt)
-{
-    QStringList trace;
-    QWidget ownerWidget;
-    QWidget dialogWidget(&ownerWidget, Qt::Dialog);
-    CursorWnd owner(trace, "owner", 4), dialog(trace, "dialog", 3);
-    owner.SubclassWindow(&ownerWidget);
-    dialog.SubclassWindow(&dialogWidget);
-    EXPECT_EQ(dialog.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(dialog.GetSafeHwnd())), 4);
-    EXPECT_EQ(trace, QStringList(QStringLiteral("owner")));
+        auto* const childWidget = new QWidget(middleWidget, isDialog ? Qt::Dialog : Qt::Widget);
+        CursorWnd top(trace, &topWidget, 't', topResult);
+        CursorWnd middle(trace, middleWidget, 'm', middleResult);
+        CursorWnd child(trace, childWidget, 'c', 3);
+        EXPECT_EQ(child.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(childWidget)), result);
+        EXPECT_EQ(trace, QLatin1String(calls));
+    });
 }
 
 } // namespace

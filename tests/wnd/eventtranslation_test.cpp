@@ -1,17 +1,6 @@
-#include "support/waiting.h"
-
-#include <VxMFCEmu/wnd/eventtranslation.h>
-#include <VxMFCEmu/wnd/messageevent.h>
-
-#include <QtWidgets/QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <set>
+#include "support/test.h"
 
 namespace {
-
 using EventPtr = std::shared_ptr<QEvent>;
 
 EventPtr mouse(QEvent::Type type, QPointF at, Qt::MouseButton button,
@@ -50,76 +39,60 @@ protected:
 
 TEST_F(Translation, GivesEveryEventItsMessage)
 {
-    const auto L = Qt::LeftButton;
-    const auto R = Qt::RightButton;
-    const auto M = Qt::MiddleButton;
-    const auto X = Qt::XButton1;
-    const auto shift = Qt::ShiftModifier;
-    const auto control = Qt::ControlModifier;
-    const auto alt = Qt::AltModifier;
+    const auto L = Qt::LeftButton, R = Qt::RightButton, M = Qt::MiddleButton, X = Qt::XButton1;
+    const auto shift = Qt::ShiftModifier, control = Qt::ControlModifier, alt = Qt::AltModifier;
     using E = QEvent;
-    const struct
-    {
-        int line;
-        EventPtr event;
-        WPARAM message;
-        WPARAM wParam;
-        LPARAM lParam;
-    } rows[] = {
-        {__LINE__, std::make_shared<QTimerEvent>(77), 0x113, 77, 0},
-        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, L, L, shift), 0x201, 5, 0x40003},
-        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, R, L | R, alt), 0x204, 0x23, 0x40003},
-        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, M, M, control), 0x207, 0x18, 0x40003},
-        {__LINE__, mouse(E::MouseButtonPress, {3, 4}, X, X), 0xFFFFFFFF, 0, 0x40003},
-        {__LINE__, mouse(E::MouseButtonRelease, {0.4, 0.5}, L), 0x202, 0, 0x10000},
-        {__LINE__, mouse(E::MouseButtonRelease, {1.5, 2.5}, R, L), 0x205, 1, 0x30002},
-        {__LINE__, mouse(E::MouseButtonRelease, {1, 2}, M), 0x208, 0, 0x20001},
-        {__LINE__, mouse(E::MouseButtonRelease, {1, 2}, X), 0xFFFFFFFF, 0, 0x20001},
-        {__LINE__, mouse(E::MouseButtonDblClick, {1, 2}, L, L), 0x203, 1, 0x20001},
-        {__LINE__, mouse(E::MouseButtonDblClick, {1, 2}, R, R), 0x206, 2, 0x20001},
-        {__LINE__, mouse(E::MouseButtonDblClick, {1, 2}, M, M), 0x209, 0x10, 0x20001},
+    const Row<EventPtr, WPARAM, WPARAM, LPARAM> rows[] = {
+        {std::make_shared<QTimerEvent>(77), 0x113, 77, 0},
+        {mouse(E::MouseButtonPress, {3, 4}, L, L, shift), 0x201, 5, 0x40003},
+        {mouse(E::MouseButtonPress, {3, 4}, R, L | R, alt), 0x204, 0x23, 0x40003},
+        {mouse(E::MouseButtonPress, {3, 4}, M, M, control), 0x207, 0x18, 0x40003},
+        {mouse(E::MouseButtonPress, {3, 4}, X, X), 0xFFFFFFFF, 0, 0x40003},
+        {mouse(E::MouseButtonRelease, {0.4, 0.5}, L), 0x202, 0, 0x10000},
+        {mouse(E::MouseButtonRelease, {1.5, 2.5}, R, L), 0x205, 1, 0x30002},
+        {mouse(E::MouseButtonRelease, {1, 2}, M), 0x208, 0, 0x20001},
+        {mouse(E::MouseButtonRelease, {1, 2}, X), 0xFFFFFFFF, 0, 0x20001},
+        {mouse(E::MouseButtonDblClick, {1, 2}, L, L), 0x203, 1, 0x20001},
+        {mouse(E::MouseButtonDblClick, {1, 2}, R, R), 0x206, 2, 0x20001},
+        {mouse(E::MouseButtonDblClick, {1, 2}, M, M), 0x209, 0x10, 0x20001},
         // Halves away from zero, and nothing sign-extended.
-        {__LINE__, mouse(E::MouseMove, {-2.5, -0.5}, Qt::NoButton), 0x200, 0, 0xFFFFFFFD},
-        {__LINE__, mouse(E::MouseMove, {-1.5, 2.4}, Qt::NoButton), 0x200, 0, 0x2FFFE},
-        {__LINE__, mouse(E::MouseMove, {0.5, -2.5}, Qt::NoButton), 0x200, 0, 0xFFFD0001},
-        {__LINE__, key(E::KeyPress, Qt::Key_A), 0x100, 0x41, 1},
-        {__LINE__, key(E::KeyPress, Qt::Key_F4, alt), 0x104, 0x73, 0x200001},
-        {__LINE__, key(E::KeyPress, Qt::Key_A, alt | shift), 0x104, 0x41, 0x240001},
-        {__LINE__, key(E::KeyPress, Qt::Key_Exclam, control), 0x100, 0x31, 0x80001},
-        {__LINE__, key(E::KeyPress, Qt::Key_Aring), 0x100, 0xFFFFFFFF, 1},
-        {__LINE__, key(E::KeyRelease, Qt::Key_Return), 0x101, 0x0D, 0x80000001},
-        {__LINE__, key(E::KeyRelease, Qt::Key_A, alt), 0x105, 0x41, 0x80200001},
-        {__LINE__, key(E::KeyRelease, Qt::Key_unknown), 0x101, 0xFFFFFFFF, 0x80000001},
+        {mouse(E::MouseMove, {-2.5, -0.5}, Qt::NoButton), 0x200, 0, 0xFFFFFFFD},
+        {mouse(E::MouseMove, {-1.5, 2.4}, Qt::NoButton), 0x200, 0, 0x2FFFE},
+        {mouse(E::MouseMove, {0.5, -2.5}, Qt::NoButton), 0x200, 0, 0xFFFD0001},
+        {key(E::KeyPress, Qt::Key_A), 0x100, 0x41, 1},
+        {key(E::KeyPress, Qt::Key_F4, alt), 0x104, 0x73, 0x200001},
+        {key(E::KeyPress, Qt::Key_A, alt | shift), 0x104, 0x41, 0x240001},
+        {key(E::KeyPress, Qt::Key_Exclam, control), 0x100, 0x31, 0x80001},
+        {key(E::KeyPress, Qt::Key_Aring), 0x100, 0xFFFFFFFF, 1},
+        {key(E::KeyRelease, Qt::Key_Return), 0x101, 0x0D, 0x80000001},
+        {key(E::KeyRelease, Qt::Key_A, alt), 0x105, 0x41, 0x80200001},
+        {key(E::KeyRelease, Qt::Key_unknown), 0x101, 0xFFFFFFFF, 0x80000001},
         // The modifier keys themselves: a press of Alt is held, its release is not.
-        {__LINE__, key(E::KeyPress, Qt::Key_Alt), 0x104, 0x12, 0x200001},
-        {__LINE__, key(E::KeyRelease, Qt::Key_Alt, alt), 0x101, 0x12, 0x80000001},
-        {__LINE__, plain(E::Leave), 0x2A3, 0, 0},
-        {__LINE__, std::make_shared<QPaintEvent>(QRect(1, 2, 3, 4)), 0xF, 0, 0},
-        {__LINE__, std::make_shared<QResizeEvent>(QSize(640, 480), QSize(1, 2)), 5, 0, 0x1E00280},
-        {__LINE__, std::make_shared<QCloseEvent>(), 0x10, 0, 0},
-        {__LINE__, plain(E::WindowActivate), 6, 1, LPARAM(address())},
-        {__LINE__, plain(E::WindowDeactivate), 6, 0, LPARAM(address())},
-        {__LINE__, plain(E::ShowToParent), 0x18, 0, 0},
-        {__LINE__, wheel({5.5, 6}, {0, 120}), 0x20A, 0x780000, 0x60006},
-        {__LINE__, wheel({5, 6}, {0, -120}), 0x20A, 0xFF880000, 0x60005},
-        {__LINE__, wheel({5, 6}, {-240, 120}), 0x20A, 0xFF100000, 0x60005},
-        {__LINE__,
-         std::make_shared<QContextMenuEvent>(QContextMenuEvent::Mouse, QPoint(7, -1),
+        {key(E::KeyPress, Qt::Key_Alt), 0x104, 0x12, 0x200001},
+        {key(E::KeyRelease, Qt::Key_Alt, alt), 0x101, 0x12, 0x80000001},
+        {plain(E::Leave), 0x2A3, 0, 0},
+        {std::make_shared<QPaintEvent>(QRect(1, 2, 3, 4)), 0xF, 0, 0},
+        {std::make_shared<QResizeEvent>(QSize(640, 480), QSize(1, 2)), 5, 0, 0x1E00280},
+        {std::make_shared<QCloseEvent>(), 0x10, 0, 0},
+        {plain(E::WindowActivate), 6, 1, LPARAM(address())},
+        {plain(E::WindowDeactivate), 6, 0, LPARAM(address())},
+        {plain(E::ShowToParent), 0x18, 0, 0},
+        {wheel({5.5, 6}, {0, 120}), 0x20A, 0x780000, 0x60006},
+        {wheel({5, 6}, {0, -120}), 0x20A, 0xFF880000, 0x60005},
+        {wheel({5, 6}, {-240, 120}), 0x20A, 0xFF100000, 0x60005},
+        {std::make_shared<QContextMenuEvent>(QContextMenuEvent::Mouse, QPoint(7, -1),
                                              QPoint(70, 80)),
          0x7B, address(), 0xFFFF0007},
-        {__LINE__, hover(E::HoverEnter, {3.5, 1}, shift), 0x2A1, 4, 0x10004},
-        {__LINE__, hover(E::HoverLeave, {-1, -1}, alt), 0x2A3, 0x20, 0xFFFFFFFF},
-        {__LINE__, std::make_shared<VxWinMsgEvent>(0xC0DE, ~WPARAM(0), LPARAM(-5)), 0xC0DE,
-         ~WPARAM(0), -5},
+        {hover(E::HoverEnter, {3.5, 1}, shift), 0x2A1, 4, 0x10004},
+        {hover(E::HoverLeave, {-1, -1}, alt), 0x2A3, 0x20, 0xFFFFFFFF},
+        {std::make_shared<VxWinMsgEvent>(0xC0DE, ~WPARAM(0), LPARAM(-5)), 0xC0DE, ~WPARAM(0), -5},
     };
     for (const auto& row : rows) {
-        testing::ScopedTrace trace(__FILE__, row.line, "event");
+        const EventPtr event = std::get<0>(row);
         tagMSG msg{};
-        ASSERT_EQ(vxQEventToMsg(&w, row.event.get(), &msg), TRUE);
+        ASSERT_EQ(vxQEventToMsg(&w, event.get(), &msg), TRUE);
         EXPECT_EQ(msg.hwnd, &w);
-        EXPECT_EQ(msg.message, row.message);
-        EXPECT_EQ(msg.wParam, row.wParam);
-        EXPECT_EQ(msg.lParam, row.lParam);
+        EXPECT_EQ(std::tuple(event, msg.message, msg.wParam, msg.lParam), row);
     }
 }
 
@@ -147,27 +120,19 @@ TEST_F(Translation, RefusesNullArguments)
                  TranslateMessage(&w, &close, nullptr));
 }
 
-TEST_F(Translation, StampsTimeAndCursor)
+TEST_F(Translation, StampsTimeAndCursorAndKnowsWhatIsNoWindow)
 {
     tagMSG msg{};
+    msg.hwnd = &w;
+    QObject object;
     QCloseEvent close;
     QCursor::setPos(33, 44);
     const auto before = QDateTime::currentSecsSinceEpoch();
-    ASSERT_TRUE(vxQEventToMsg(&w, &close, &msg));
-    EXPECT_GE(msg.time, before);
-    EXPECT_LE(msg.time, QDateTime::currentSecsSinceEpoch());
-    EXPECT_EQ(msg.pt.x, 33);
-    EXPECT_EQ(msg.pt.y, 44);
-}
-
-TEST_F(Translation, OfAnObjectThatIsNoWindow)
-{
-    QObject object;
-    tagMSG msg{};
-    msg.hwnd = &w;
-    QCloseEvent close;
     ASSERT_TRUE(vxQEventToMsg(&object, &close, &msg));
     EXPECT_EQ(msg.hwnd, nullptr);
+    EXPECT_GE(msg.time, before);
+    EXPECT_LE(msg.time, QDateTime::currentSecsSinceEpoch());
+    EXPECT_EQ(CPoint_E(msg.pt), CPoint_E(33, 44));
     const EventPtr release = mouse(QEvent::NonClientAreaMouseButtonRelease, {}, Qt::LeftButton);
     ASSERT_TRUE(vxQEventToMsg(&object, release.get(), &msg));
     EXPECT_EQ(msg.wParam, 2U);
@@ -180,37 +145,30 @@ TEST_F(Translation, TellsThePartOfTheFrame)
     const int top = w.style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const int right = 200 - 7;
     const int bottom = 150 - 8;
-    const struct
-    {
-        int line;
-        int x, y; // from the window's corner
-        WPARAM code;
-    } rows[] = {
-        {__LINE__, 5, top + 1, 10},         {__LINE__, 5, bottom - 1, 10},
-        {__LINE__, 6, top + 1, 2},          {__LINE__, 5, top, 2},
-        {__LINE__, 5, bottom, 2},           {__LINE__, -20, -20, 2},
-        {__LINE__, 5, bottom + 1, 15},      {__LINE__, 50, bottom + 1, 15},
-        {__LINE__, 50, bottom, 2},          {__LINE__, right + 1, bottom + 1, 15},
-        {__LINE__, right + 1, top + 1, 11}, {__LINE__, right + 1, bottom - 1, 11},
-        {__LINE__, right, top + 1, 2},      {__LINE__, right + 1, top, 2},
-        {__LINE__, right + 1, bottom, 2},
+    const Row<QPoint, WPARAM> rows[] = {
+        {{5, top + 1}, 10},         {{5, bottom - 1}, 10},
+        {{6, top + 1}, 2},          {{5, top}, 2},
+        {{5, bottom}, 2},           {{-20, -20}, 2},
+        {{5, bottom + 1}, 15},      {{50, bottom + 1}, 15},
+        {{50, bottom}, 2},          {{right + 1, bottom + 1}, 15},
+        {{right + 1, top + 1}, 11}, {{right + 1, bottom - 1}, 11},
+        {{right, top + 1}, 2},      {{right + 1, top}, 2},
+        {{right + 1, bottom}, 2},
     };
-    for (const auto& row : rows) {
-        testing::ScopedTrace trace(__FILE__, row.line, "point");
-        QCursor::setPos(100 + row.x, 120 + row.y);
+    for (const auto& [point, code] : rows) { // from the window's corner
+        SCOPED_TRACE(testing::Message() << point.x() << ' ' << point.y());
+        const QPoint at = QPoint(100, 120) + point;
+        QCursor::setPos(at);
         for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
             tagMSG msg{};
             const EventPtr e = mouse(QEvent::NonClientAreaMouseButtonRelease, {1, 1}, button);
             ASSERT_TRUE(vxQEventToMsg(&w, e.get(), &msg));
             EXPECT_EQ(msg.message, button == Qt::LeftButton ? 0xA2U : 0xFFFFFFFFU);
-            EXPECT_EQ(msg.wParam, row.code);
-            EXPECT_EQ(msg.lParam, ((120 + row.y) << 16) | (100 + row.x));
+            EXPECT_EQ(msg.wParam, code);
+            EXPECT_EQ(msg.lParam, (at.y() << 16) | at.x());
         }
     }
-}
-
-TEST_F(Translation, PrefersTheRightEdgeOfANarrowWindow)
-{
+    // The right edge wins in a narrow window.
     w.setGeometry(100, 120, 4, 150);
     w.setContentsMargins(5, 0, 5, 0);
     QCursor::setPos(103, 220);
@@ -222,39 +180,29 @@ TEST_F(Translation, PrefersTheRightEdgeOfANarrowWindow)
 
 TEST_F(Translation, MakesKeyEvents)
 {
-    const QString musicalSign = QString::fromUtf8("\xF0\x9D\x84\x9E");
-    const struct
-    {
-        int line;
-        UINT message;
-        WPARAM wParam;
-        int type;
-        int key;
-        QString text;
-    } rows[] = {
-        {__LINE__, 0x100, 0x41, QEvent::KeyPress, Qt::Key_A, QStringLiteral("65")},
-        {__LINE__, 0x100, 0x30, QEvent::KeyPress, Qt::Key_ParenRight, QStringLiteral("41")},
-        {__LINE__, 0x100, 0x0D, QEvent::KeyPress, Qt::Key_Return, QStringLiteral("16777220")},
-        {__LINE__, 0x101, 0x0D, QEvent::KeyRelease, 0x0D, QStringLiteral("13")},
-        {__LINE__, 0x101, 0x30, QEvent::KeyRelease, Qt::Key_0, QStringLiteral("48")},
-        {__LINE__, 0x102, 0x61, QEvent::KeyPress, 0x61, QStringLiteral("a")},
-        {__LINE__, 0x102, 0, QEvent::KeyPress, 0, QString(QChar(0))},
-        {__LINE__, 0x102, 0xFEFF, QEvent::KeyPress, 0xFEFF, QString(QChar(0xFEFF))},
-        {__LINE__, 0x102, 0x1D11E, QEvent::KeyPress, 0x1D11E, musicalSign},
-        {__LINE__, 0x102, 0x110000, QEvent::KeyPress, 0x110000, QString(QChar(0xFFFD))},
-        {__LINE__, 0x104, 0x78, QEvent::KeyPress, 0x78, QStringLiteral("x")},
+    const Row<UINT, WPARAM, int, int, QString> rows[] = {
+        {0x100, 0x41, QEvent::KeyPress, Qt::Key_A, "65"_q},
+        {0x100, 0x30, QEvent::KeyPress, Qt::Key_ParenRight, "41"_q},
+        {0x100, 0x0D, QEvent::KeyPress, Qt::Key_Return, "16777220"_q},
+        {0x101, 0x0D, QEvent::KeyRelease, 0x0D, "13"_q},
+        {0x101, 0x30, QEvent::KeyRelease, Qt::Key_0, "48"_q},
+        {0x102, 0x61, QEvent::KeyPress, 0x61, "a"_q},
+        {0x102, 0, QEvent::KeyPress, 0, QString(QChar(0))},
+        {0x102, 0xFEFF, QEvent::KeyPress, 0xFEFF, QString(QChar(0xFEFF))},
+        {0x102, 0x1D11E, QEvent::KeyPress, 0x1D11E, "\U0001D11E"_q},
+        {0x102, 0x110000, QEvent::KeyPress, 0x110000, QString(QChar(0xFFFD))},
+        {0x104, 0x78, QEvent::KeyPress, 0x78, "x"_q},
     };
-    for (const auto& row : rows) {
-        testing::ScopedTrace trace(__FILE__, row.line, "message");
+    forRows(rows, [&](UINT message, WPARAM wParam, int type, int code, const QString& text) {
         for (const QWidget* target : {&w, static_cast<QWidget*>(nullptr)}) {
-            const EventPtr e(vxMsgToQEvent(target, row.message, row.wParam, 0x12345678));
-            ASSERT_EQ(e->type(), row.type);
+            const EventPtr e(vxMsgToQEvent(target, message, wParam, 0x12345678));
+            ASSERT_EQ(e->type(), type);
             const auto& event = static_cast<const QKeyEvent&>(*e);
-            EXPECT_EQ(event.key(), row.key);
-            EXPECT_EQ(event.text(), row.text);
+            EXPECT_EQ(event.key(), code);
+            EXPECT_EQ(event.text(), text);
             EXPECT_EQ(event.modifiers(), Qt::NoModifier);
         }
-    }
+    });
 }
 
 TEST_F(Translation, MakesMouseEvents)
@@ -313,18 +261,6 @@ TEST_F(Translation, CarriesOtherMessagesAsTheyAre)
         check(0x100, key);
 }
 
-TEST_F(Translation, LeavesTheMessageBoxEventAlone)
-{
-    CString_E text(L"Text");
-    VxMsgBoxEvent e(text, L"Caption");
-    text = L"changed";
-    tagMSG msg{};
-    EXPECT_EQ(int(e.type()), 1129);
-    EXPECT_FALSE(vxQEventToMsg(&w, &e, &msg));
-    EXPECT_STREQ(e.text.GetString(), L"Text");
-    EXPECT_STREQ(e.caption.GetString(), L"Caption");
-}
-
 /// Notes the messages that arrive, as text.
 class Recorder : public QObject
 {
@@ -334,61 +270,56 @@ public:
         if (e->type() != VxWinMsgEvent::EventType)
             return QObject::event(e);
         const auto& m = static_cast<const VxWinMsgEvent&>(*e);
-        const QString sender = m.wParam == reinterpret_cast<WPARAM>(this)
-                                   ? QStringLiteral("self")
-                                   : QString::number(m.wParam, 16);
-        seen << QStringLiteral("%1 %2 %3").arg(m.message, 0, 16).arg(sender).arg(m.lParam, 0, 16);
+        const QString sender =
+            m.wParam == reinterpret_cast<WPARAM>(this) ? "self"_q : QString::number(m.wParam, 16);
+        seen << "%1 %2 %3"_q.arg(m.message, 0, 16).arg(sender).arg(m.lParam, 0, 16);
         return true;
     }
-    std::string translate(const EventPtr& e, BOOL expected = TRUE)
+    std::string translate(const EventPtr& e, BOOL expected)
     {
         tagMSG msg{};
         vxQEventToMsg(this, e.get(), &msg);
         EXPECT_EQ(TranslateMessage(this, e.get(), &msg), expected);
         EXPECT_TRUE(seen.isEmpty()) << "sent, not posted";
         vxtest::deliverPosted();
-        return std::exchange(seen, {}).join(QStringLiteral("; ")).toStdString();
+        return std::exchange(seen, {}).join("; "_q).toStdString();
     }
     QStringList seen;
 };
 
-TEST(TranslateMessage, PostsTheCharactersOfAKeyPress)
+TEST(TranslateMessage, PostsCharactersAndAsksForACursor)
 {
-    Recorder r;
     const auto press = [](const QString& text, Qt::KeyboardModifiers mods = Qt::NoModifier) {
         return key(QEvent::KeyPress, Qt::Key_A, mods, text);
     };
-    EXPECT_EQ(r.translate(press(QStringLiteral("ab"))), "102 61 1; 102 62 1");
-    EXPECT_EQ(r.translate(press(QString())), "");
-    EXPECT_EQ(r.translate(press(QStringLiteral("A"), Qt::ShiftModifier)), "102 41 40001");
-    EXPECT_EQ(r.translate(press(QStringLiteral("x"), Qt::AltModifier | Qt::ControlModifier)),
-              "106 78 280001");
-    EXPECT_EQ(r.translate(press(QString::fromUtf8("\xF0\x9D\x84\x9E!"))), "102 1d11e 1; 102 21 1");
     const QChar broken[] = {QChar(0xD834), QChar(u'a'), QChar(0xDD1E), QChar(0xD834)};
-    EXPECT_EQ(r.translate(press(QString(broken, 4))),
-              "102 fffd 1; 102 61 1; 102 fffd 1; 102 fffd 1");
-    EXPECT_EQ(r.translate(key(QEvent::KeyRelease, Qt::Key_A, {}, QStringLiteral("a")), FALSE), "");
-}
-
-TEST(TranslateMessage, AsksForACursorAfterMouseMessages)
-{
+    const QPointF at(1, 2);
+    const Row<EventPtr, BOOL, const char*> rows[] = {
+        {press("ab"_q), TRUE, "102 61 1; 102 62 1"},
+        {press({}), TRUE, ""},
+        {press("A"_q, Qt::ShiftModifier), TRUE, "102 41 40001"},
+        {press("x"_q, Qt::AltModifier | Qt::ControlModifier), TRUE, "106 78 280001"},
+        {press("\U0001D11E!"_q), TRUE, "102 1d11e 1; 102 21 1"},
+        {press(QString(broken, 4)), TRUE, "102 fffd 1; 102 61 1; 102 fffd 1; 102 fffd 1"},
+        {key(QEvent::KeyRelease, Qt::Key_A, {}, "a"_q), FALSE, ""},
+        {mouse(QEvent::MouseMove, at, Qt::NoButton), TRUE, "20 self 2000000"},
+        {mouse(QEvent::MouseButtonPress, at, Qt::LeftButton), TRUE, "20 self 2010000"},
+        {mouse(QEvent::MouseButtonRelease, at, Qt::RightButton), TRUE, "20 self 2050000"},
+        {mouse(QEvent::MouseButtonDblClick, at, Qt::XButton2), TRUE, "20 self ffff0000"},
+        {wheel(at, {0, 120}), FALSE, ""},
+        {std::make_shared<QTimerEvent>(1), FALSE, ""},
+        {plain(0), FALSE, ""},
+        {std::make_shared<VxWinMsgEvent>(0x201, 0, 0), FALSE, ""},
+    };
     Recorder r;
-    const auto at = QPointF(1, 2);
-    EXPECT_EQ(r.translate(mouse(QEvent::MouseMove, at, Qt::NoButton)), "20 self 2000000");
-    EXPECT_EQ(r.translate(mouse(QEvent::MouseButtonPress, at, Qt::LeftButton)), "20 self 2010000");
-    EXPECT_EQ(r.translate(mouse(QEvent::MouseButtonRelease, at, Qt::RightButton)),
-              "20 self 2050000");
-    EXPECT_EQ(r.translate(mouse(QEvent::MouseButtonDblClick, at, Qt::XButton2)),
-              "20 self ffff0000");
+    forRows(rows, [&](const EventPtr& event, BOOL translated, const char* posted) {
+        EXPECT_EQ(r.translate(event, translated), posted);
+    });
     QWidget grabber;
     grabber.show();
     grabber.grabMouse();
-    EXPECT_EQ(r.translate(mouse(QEvent::MouseMove, at, Qt::NoButton)), "");
+    EXPECT_EQ(r.translate(mouse(QEvent::MouseMove, at, Qt::NoButton), TRUE), "");
     grabber.releaseMouse();
-    EXPECT_EQ(r.translate(wheel(at, {0, 120}), FALSE), "");
-    EXPECT_EQ(r.translate(std::make_shared<QTimerEvent>(1), FALSE), "");
-    EXPECT_EQ(r.translate(plain(0), FALSE), "");
-    EXPECT_EQ(r.translate(std::make_shared<VxWinMsgEvent>(0x201, 0, 0), FALSE), "");
 }
 
 } // namespace

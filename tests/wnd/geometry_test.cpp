@@ -1,6 +1,4 @@
-#include <VxMFCEmu/wnd/geometry.h>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <climits>
 #include <ostream>
@@ -14,33 +12,29 @@ TEST(Geometry, SetOperations)
 {
     const CRect_E a(0, 0, 10, 10);
     const CRect_E none;
-    struct
-    {
-        int line;
-        CRect_E other, intersection, all, rest;
-        BOOL meets, hasRest;
-    } const rows[] = {
-        {__LINE__, {5, 5, 15, 15}, {5, 5, 10, 10}, {0, 0, 15, 15}, a, TRUE, TRUE},
-        {__LINE__, {10, 0, 20, 10}, none, {0, 0, 20, 10}, a, FALSE, TRUE}, // sides touch
-        {__LINE__, {-5, -5, 4, 20}, {0, 0, 4, 10}, {-5, -5, 10, 20}, {4, 0, 10, 10}, TRUE, TRUE},
-        {__LINE__, {7, -5, 12, 20}, {7, 0, 10, 10}, {0, -5, 12, 20}, {0, 0, 7, 10}, TRUE, TRUE},
-        {__LINE__, {-1, -1, 11, 3}, {0, 0, 10, 3}, {-1, -1, 11, 10}, {0, 3, 10, 10}, TRUE, TRUE},
-        {__LINE__, {0, 6, 10, 10}, {0, 6, 10, 10}, a, {0, 0, 10, 6}, TRUE, TRUE},
-        {__LINE__, {3, 0, 6, 10}, {3, 0, 6, 10}, a, a, TRUE, TRUE}, // a hole in the middle
-        {__LINE__, {-1, -1, 11, 11}, a, {-1, -1, 11, 11}, none, TRUE, FALSE},
-        {__LINE__, {5, 5, 5, 50}, none, a, a, FALSE, TRUE}, // an empty one counts nowhere
+    // other, intersection, union, rest; whether there is an intersection and a rest
+    const Row<CRect_E, CRect_E, CRect_E, CRect_E, BOOL, BOOL> rows[] = {
+        {{5, 5, 15, 15}, {5, 5, 10, 10}, {0, 0, 15, 15}, a, TRUE, TRUE},
+        {{10, 0, 20, 10}, none, {0, 0, 20, 10}, a, FALSE, TRUE}, // sides touch
+        {{-5, -5, 4, 20}, {0, 0, 4, 10}, {-5, -5, 10, 20}, {4, 0, 10, 10}, TRUE, TRUE},
+        {{7, -5, 12, 20}, {7, 0, 10, 10}, {0, -5, 12, 20}, {0, 0, 7, 10}, TRUE, TRUE},
+        {{-1, -1, 11, 3}, {0, 0, 10, 3}, {-1, -1, 11, 10}, {0, 3, 10, 10}, TRUE, TRUE},
+        {{0, 6, 10, 10}, {0, 6, 10, 10}, a, {0, 0, 10, 6}, TRUE, TRUE},
+        {{3, 0, 6, 10}, {3, 0, 6, 10}, a, a, TRUE, TRUE}, // a hole in the middle
+        {{-1, -1, 11, 11}, a, {-1, -1, 11, 11}, none, TRUE, FALSE},
+        {{5, 5, 5, 50}, none, a, a, FALSE, TRUE}, // an empty one counts nowhere
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    forRows(rows, [&](const CRect_E& other, const CRect_E& intersection, const CRect_E& all,
+                      const CRect_E& rest, BOOL meets, BOOL hasRest) {
         CRect_E rc(1, 2, 3, 4);
-        EXPECT_EQ(rc.IntersectRect(a, row.other), row.meets);
-        EXPECT_EQ(rc, row.intersection);
-        EXPECT_EQ(rc.UnionRect(row.other, a), TRUE);
-        EXPECT_EQ(rc, row.all);
+        EXPECT_EQ(rc.IntersectRect(a, other), meets);
+        EXPECT_EQ(rc, intersection);
+        EXPECT_EQ(rc.UnionRect(other, a), TRUE);
+        EXPECT_EQ(rc, all);
         rc = a;
-        EXPECT_EQ(rc.SubtractRect(rc, row.other), row.hasRest);
-        EXPECT_EQ(rc, row.rest);
-    }
+        EXPECT_EQ(rc.SubtractRect(rc, other), hasRest);
+        EXPECT_EQ(rc, rest);
+    });
     CRect_E rc(1, 2, 3, 4);
     EXPECT_FALSE(rc.UnionRect(none, CRect_E(5, 5, 5, 9)));
     EXPECT_EQ(rc, none);
@@ -118,21 +112,16 @@ TEST(Geometry, PointsAndSizes)
 
 TEST(Geometry, MulDiv)
 {
-    struct
-    {
-        int line, number, numerator, denominator, result;
-    } const rows[] = {
-        {__LINE__, 7, 1, 2, 4},
-        {__LINE__, -7, 1, 2, -4},
-        {__LINE__, 7, 1, -2, -4},
-        {__LINE__, 1, 1, 3, 0},
-        {__LINE__, INT_MAX, 2, 4, 1 << 30},
-        {__LINE__, 5, 5, 0, -1},
-        {__LINE__, INT_MAX, 2, 1, -1},
-        {__LINE__, INT_MIN, INT_MIN, INT_MIN, INT_MIN},
+    const Row<int, int, int, int> rows[] = {
+        {7, 1, 2, 4},
+        {1, 1, 3, 0},
+        {5, 5, 0, -1},
+        {-7, 1, 2, -4},
+        {7, 1, -2, -4},
+        {INT_MAX, 2, 1, -1},
+        {INT_MAX, 2, 4, 1 << 30},
+        {INT_MIN, INT_MIN, INT_MIN, INT_MIN},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(MulDiv_E(row.number, row.numerator, row.denominator), row.result);
-    }
+    for (const auto& [number, numerator, denominator, result] : rows)
+        EXPECT_EQ(MulDiv_E(number, numerator, denominator), result) << number;
 }

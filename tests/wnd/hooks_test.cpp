@@ -1,12 +1,5 @@
 // Message functions and keyboard hooks, which see the events of the host's main windows.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/waiting.h"
-
-#include <QtGui/QKeyEvent>
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 // The host's windows are told by the names of their classes.
 class CTolmView : public QWidget
@@ -34,51 +27,40 @@ tagMSG g_last;
 
 LRESULT note(const char* name, WPARAM wParam, LPARAM lParam, LRESULT result)
 {
-    g_calls << QStringLiteral("%1 %2 %3")
-                   .arg(QLatin1String(name))
-                   .arg(wParam, 0, 16)
-                   .arg(lParam, 0, 16);
+    g_calls << "%1 %2 %3"_q.arg(QLatin1String(name)).arg(wParam, 0, 16).arg(lParam, 0, 16);
     return result;
 }
-LRESULT hookA(int, WPARAM wParam, LPARAM lParam) { return note("A", wParam, lParam, 0); }
-LRESULT hookB(int, WPARAM wParam, LPARAM lParam) { return note("B", wParam, lParam, -1); }
-LRESULT hookTaking(int nCode, WPARAM wParam, LPARAM lParam)
-{
-    return note("taking", wParam, lParam, nCode + 1);
-}
-LRESULT hookRemoving(int, WPARAM wParam, LPARAM lParam)
+LRESULT hookA(int, WPARAM w, LPARAM l) { return note("A", w, l, 0); }
+LRESULT hookB(int, WPARAM w, LPARAM l) { return note("B", w, l, -1); }
+LRESULT hookTaking(int nCode, WPARAM w, LPARAM l) { return note("taking", w, l, nCode + 1); }
+LRESULT hookRemoving(int, WPARAM w, LPARAM l)
 {
     UnhookWindowsHookEx_E(&hookRemoving);
     UnhookWindowsHookEx_E(&hookA);
-    return note("removing", wParam, lParam, 0);
+    return note("removing", w, l, 0);
 }
-LRESULT hookDeleting(int, WPARAM wParam, LPARAM lParam)
+LRESULT hookDeleting(int, WPARAM w, LPARAM l)
 {
     delete g_victim;
-    return note("deleting", wParam, lParam, 0);
+    return note("deleting", w, l, 0);
 }
-bool fnSees(tagMSG* pMsg)
+bool noteFn(const char* name, tagMSG* pMsg, bool result)
 {
     g_last = *pMsg;
-    g_calls << QStringLiteral("sees %1").arg(pMsg->message, 0, 16);
-    return false;
+    g_calls << "%1 %2"_q.arg(QLatin1String(name)).arg(pMsg->message, 0, 16);
+    return result;
 }
-bool fnTakes(tagMSG* pMsg)
+bool fnSees(tagMSG* pMsg) { return noteFn("sees", pMsg, false); }
+bool fnTakes(tagMSG* pMsg) { return noteFn("takes", pMsg, true); }
+bool fnRemoves(tagMSG* pMsg)
 {
-    g_calls << QStringLiteral("takes %1").arg(pMsg->message, 0, 16);
-    return true;
-}
-bool fnRemoves(tagMSG*)
-{
-    g_calls << QStringLiteral("removes");
     RemoveWinMsgFn(&fnSees);
-    return false;
+    return noteFn("removes", pMsg, false);
 }
-bool fnDeletes(tagMSG*)
+bool fnDeletes(tagMSG* pMsg)
 {
-    g_calls << QStringLiteral("deletes");
     delete g_victim;
-    return false;
+    return noteFn("deletes", pMsg, false);
 }
 
 class HooksTest : public testing::Test
@@ -107,7 +89,7 @@ protected:
         QKeyEvent e(type, key, modifiers);
         return QCoreApplication::sendEvent(&widget, &e) && e.isAccepted();
     }
-    static QString take() { return std::exchange(g_calls, {}).join(QLatin1String(", ")); }
+    static std::string take() { return std::exchange(g_calls, {}).join(", "_q).toStdString(); }
 
     CTolmView m_view;
     QWidget m_other;
@@ -120,12 +102,12 @@ TEST_F(HooksTest, HooksAreCalledFromTheLastToTheFirstBeforeTheMessageFunctions)
     EXPECT_EQ(SetWindowsHookEx_E(WH_KEYBOARD, &hookA), &hookA);
     EXPECT_EQ(SetWindowsHookEx_E(WH_KEYBOARD, &hookB), &hookB);
     EXPECT_TRUE(send(m_view, QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier));
-    EXPECT_EQ(take(), QStringLiteral("B 41 40001, A 41 40001, sees 100, takes 100"));
+    EXPECT_EQ(take(), "B 41 40001, A 41 40001, sees 100, takes 100");
     EXPECT_EQ(g_last.hwnd, &m_view);
     EXPECT_GT(g_last.time, 1600000000U);
     SetWindowsHookEx_E(WH_KEYBOARD, &hookTaking);
     EXPECT_TRUE(send(m_view, QEvent::KeyRelease, Qt::Key_A));
-    EXPECT_EQ(take(), QStringLiteral("taking 41 80000001"));
+    EXPECT_EQ(take(), "taking 41 80000001");
     EXPECT_TRUE(UnhookWindowsHookEx_E(&hookTaking));
     EXPECT_FALSE(UnhookWindowsHookEx_E(&hookTaking));
     EXPECT_EQ(CallNextHookEx_E(&hookA, 0, 1, 1), 0);
@@ -137,10 +119,10 @@ TEST_F(HooksTest, AHeldKeyReachesTheHooksOnceAndTheMessageFunctionsAlways)
     SetWindowsHookEx_E(WH_KEYBOARD, &hookA);
     for (int i = 0; i < 3; ++i)
         send(m_view, QEvent::KeyPress, Qt::Key_B);
-    EXPECT_EQ(take(), QStringLiteral("A 42 1, sees 100, sees 100, sees 100"));
+    EXPECT_EQ(take(), "A 42 1, sees 100, sees 100, sees 100");
     send(m_view, QEvent::KeyRelease, Qt::Key_B);
     send(m_view, QEvent::KeyPress, Qt::Key_B);
-    EXPECT_EQ(take(), QStringLiteral("A 42 80000001, sees 101, A 42 1, sees 100"));
+    EXPECT_EQ(take(), "A 42 80000001, sees 101, A 42 1, sees 100");
 }
 
 TEST_F(HooksTest, OnlyTheHostsOwnClassesCount)
@@ -149,31 +131,26 @@ TEST_F(HooksTest, OnlyTheHostsOwnClassesCount)
     CTolmMainFrame frame;
     VxQtCommandBar bar;
     CTolmViewChild derived;
-    const struct
-    {
-        QWidget& widget;
-        bool seen;
-    } rows[] = {{m_view, true}, {frame, true}, {bar, true}, {derived, false}, {m_other, false}};
-    for (const auto& row : rows)
-        EXPECT_EQ(send(row.widget, QEvent::KeyPress, Qt::Key_C), row.seen)
-            << row.widget.metaObject()->className();
+    const Row<QWidget*, bool> rows[] = {
+        {&m_view, true}, {&frame, true}, {&bar, true}, {&derived, false}, {&m_other, false}};
+    for (const auto& [widget, seen] : rows)
+        EXPECT_EQ(send(*widget, QEvent::KeyPress, Qt::Key_C), seen)
+            << widget->metaObject()->className();
 }
 
 TEST_F(HooksTest, EventsThatSayNothingToTheHostAreIgnored)
 {
     AppendWinMsgFn(&fnTakes);
-    for (const int type : {11, 12, 14, 24, 25, 26, 103, 104, 127, 128}) {
+    VxWinMsgEvent message(WM_APP, 0, 0);
+    EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &message));
+    for (const int type : {11, 12, 14, 24, 25, 26, 103, 104, 127, 128, int(QEvent::User)}) {
         QEvent e(static_cast<QEvent::Type>(type));
         EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &e)) << type;
     }
-    VxWinMsgEvent message(WM_APP, 0, 0);
-    EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &message));
-    QEvent untranslated(QEvent::User);
-    EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &untranslated));
-    EXPECT_EQ(take(), QString());
+    EXPECT_EQ(take(), "");
     QEvent close(QEvent::Close);
     EXPECT_TRUE(GetGlobalEventHandler()->eventFilter(&m_view, &close));
-    EXPECT_EQ(take(), QStringLiteral("takes 10"));
+    EXPECT_EQ(take(), "takes 10");
 }
 
 TEST_F(HooksTest, OnlyKeyboardHooksAreKnown)
@@ -185,7 +162,7 @@ TEST_F(HooksTest, OnlyKeyboardHooksAreKnown)
     EXPECT_FALSE(UnhookWindowsHookEx_E(nullptr));
     EXPECT_TRUE(GetGlobalEventHandler()->IsEmptyHookChain());
     EXPECT_FALSE(send(m_view, QEvent::KeyPress, Qt::Key_D));
-    EXPECT_EQ(take(), QString());
+    EXPECT_EQ(take(), "");
 }
 
 TEST_F(HooksTest, WhatIsRemovedInACallIsNotCalledAnyMore)
@@ -195,7 +172,7 @@ TEST_F(HooksTest, WhatIsRemovedInACallIsNotCalledAnyMore)
     AppendWinMsgFn(&fnRemoves);
     AppendWinMsgFn(&fnSees);
     send(m_view, QEvent::KeyPress, Qt::Key_E);
-    EXPECT_EQ(take(), QStringLiteral("removing 45 1, removes"));
+    EXPECT_EQ(take(), "removing 45 1, removes 100");
 }
 
 TEST_F(HooksTest, AWindowDeletedInACallGetsNothingMore)
@@ -209,7 +186,7 @@ TEST_F(HooksTest, AWindowDeletedInACallGetsNothingMore)
             AppendWinMsgFn(&fnDeletes);
         AppendWinMsgFn(&fnSees);
         send(*view, QEvent::KeyPress, Qt::Key_F);
-        EXPECT_EQ(take(), inHook ? QStringLiteral("deleting 46 1") : QStringLiteral("deletes"));
+        EXPECT_EQ(take(), inHook ? "deleting 46 1" : "deletes 100");
         TearDown();
         SetUp();
     }
@@ -228,7 +205,7 @@ TEST_F(HooksTest, OneMoreFunctionDoesNotMoveTheFilterBeforeThoseOfOthers)
     qApp->installEventFilter(&eater);
     AppendWinMsgFn(&fnTakes);
     EXPECT_TRUE(send(m_view, QEvent::KeyPress, Qt::Key_G));
-    EXPECT_EQ(take(), QString());
+    EXPECT_EQ(take(), "");
 }
 
 } // namespace

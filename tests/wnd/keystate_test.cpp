@@ -1,50 +1,28 @@
+#include "support/test.h"
 #include "support/xinput.h"
-
-#include <VxMFCEmu/wnd/input.h>
-
-#include <QtCore/QByteArray>
-
-#include <gtest/gtest.h>
 
 #include <X11/keysym.h>
 
 namespace {
 
-struct KeyRange
-{
-    int line;
-    int vk;
-    int count;
-    unsigned long keysym;
-};
-
-// The keys that every PC keyboard layout has.
-// clang-format off
+// The keys that every PC keyboard layout has: first virtual key, count, first key symbol.
+using KeyRange = Row<int, int, unsigned long>;
 const KeyRange keyRanges[] = {
-    {__LINE__, 0x08, 2, XK_BackSpace},  {__LINE__, 0x0D, 1, XK_Return},
-    {__LINE__, 0x10, 1, XK_Shift_L},    {__LINE__, 0x10, 1, XK_Shift_R},
-    {__LINE__, 0x11, 1, XK_Control_L},  {__LINE__, 0x11, 1, XK_Control_R},
-    {__LINE__, 0x12, 1, XK_Alt_L},      {__LINE__, 0x12, 1, XK_Alt_R},
-    {__LINE__, 0x13, 1, XK_Pause},      {__LINE__, 0x1B, 1, XK_Escape},
-    {__LINE__, 0x20, 1, XK_space},      {__LINE__, 0x21, 2, XK_Prior},
-    {__LINE__, 0x23, 1, XK_End},        {__LINE__, 0x24, 1, XK_Home},
-    {__LINE__, 0x25, 4, XK_Left},       {__LINE__, 0x2A, 1, XK_Print},
-    {__LINE__, 0x2D, 1, XK_Insert},     {__LINE__, 0x2E, 1, XK_Delete},
-    {__LINE__, 0x30, 10, XK_0},         {__LINE__, 0x41, 16, XK_A},
-    {__LINE__, 0x52, 9, XK_R},          {__LINE__, 0x70, 12, XK_F1},
-    {__LINE__, 0xBA, 1, XK_semicolon},  {__LINE__, 0xBA, 1, XK_colon},
-    {__LINE__, 0xBB, 1, XK_plus},       {__LINE__, 0xBB, 1, XK_equal},
-    {__LINE__, 0xBC, 1, XK_comma},      {__LINE__, 0xBC, 1, XK_less},
-    {__LINE__, 0xBD, 1, XK_minus},      {__LINE__, 0xBD, 1, XK_underscore},
-    {__LINE__, 0xBE, 1, XK_period},     {__LINE__, 0xBE, 1, XK_greater},
-    {__LINE__, 0xBF, 1, XK_slash},      {__LINE__, 0xBF, 1, XK_question},
-    {__LINE__, 0xC0, 1, XK_grave},      {__LINE__, 0xC0, 1, XK_asciitilde},
-    {__LINE__, 0xDB, 1, XK_bracketleft},  {__LINE__, 0xDB, 1, XK_braceleft},
-    {__LINE__, 0xDC, 1, XK_backslash},    {__LINE__, 0xDC, 1, XK_bar},
-    {__LINE__, 0xDD, 1, XK_bracketright}, {__LINE__, 0xDD, 1, XK_braceright},
-    {__LINE__, 0xDE, 1, XK_apostrophe},   {__LINE__, 0xDE, 1, XK_quotedbl},
-};
-// clang-format on
+    {0x08, 2, XK_BackSpace},   {0x0D, 1, XK_Return},       {0x10, 1, XK_Shift_L},
+    {0x10, 1, XK_Shift_R},     {0x11, 1, XK_Control_L},    {0x11, 1, XK_Control_R},
+    {0x12, 1, XK_Alt_L},       {0x12, 1, XK_Alt_R},        {0x13, 1, XK_Pause},
+    {0x1B, 1, XK_Escape},      {0x20, 1, XK_space},        {0x21, 2, XK_Prior},
+    {0x23, 1, XK_End},         {0x24, 1, XK_Home},         {0x25, 4, XK_Left},
+    {0x2A, 1, XK_Print},       {0x2D, 1, XK_Insert},       {0x2E, 1, XK_Delete},
+    {0x30, 10, XK_0},          {0x41, 16, XK_A},           {0x52, 9, XK_R},
+    {0x70, 12, XK_F1},         {0xBA, 1, XK_semicolon},    {0xBA, 1, XK_colon},
+    {0xBB, 1, XK_plus},        {0xBB, 1, XK_equal},        {0xBC, 1, XK_comma},
+    {0xBC, 1, XK_less},        {0xBD, 1, XK_minus},        {0xBD, 1, XK_underscore},
+    {0xBE, 1, XK_period},      {0xBE, 1, XK_greater},      {0xBF, 1, XK_slash},
+    {0xBF, 1, XK_question},    {0xC0, 1, XK_grave},        {0xC0, 1, XK_asciitilde},
+    {0xDB, 1, XK_bracketleft}, {0xDB, 1, XK_braceleft},    {0xDC, 1, XK_backslash},
+    {0xDC, 1, XK_bar},         {0xDD, 1, XK_bracketright}, {0xDD, 1, XK_braceright},
+    {0xDE, 1, XK_apostrophe},  {0xDE, 1, XK_quotedbl}};
 
 unsigned state(int vk) { return static_cast<unsigned short>(GetKeyState_E(vk)); }
 
@@ -53,9 +31,8 @@ class HeldKey
 {
 public:
     explicit HeldKey(unsigned long keysym) : m_keysym(keysym) { vxtest::setKey(m_keysym, true); }
+    Q_DISABLE_COPY_MOVE(HeldKey)
     ~HeldKey() { vxtest::setKey(m_keysym, false); }
-    HeldKey(const HeldKey&) = delete;
-    HeldKey& operator=(const HeldKey&) = delete;
 
 private:
     unsigned long m_keysym;
@@ -64,13 +41,12 @@ private:
 TEST(KeyState, FollowsRealKeys)
 {
     VXTEST_NEEDS_X11();
-    for (const KeyRange& range : keyRanges) {
-        testing::ScopedTrace trace(__FILE__, range.line, "key");
-        for (int i = 0; i < range.count; ++i) {
-            const int vk = range.vk + i;
+    for (const auto& [first, count, keysym] : keyRanges) {
+        for (int i = 0; i < count; ++i) {
+            const int vk = first + i;
             EXPECT_EQ(state(vk), 0U) << vk;
             {
-                const HeldKey held(range.keysym + static_cast<unsigned>(i));
+                const HeldKey held(keysym + static_cast<unsigned>(i));
                 EXPECT_EQ(state(vk), 0x8000U) << vk;
                 EXPECT_LT(GetKeyStateByX11(vk), 0) << vk;
             }

@@ -1,49 +1,45 @@
-#include <VxMFCEmu/wnd/input.h>
-
-#include <QtGui/QKeyEvent>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <climits>
 #include <cstdlib>
-#include <map>
-#include <set>
+#include <string_view>
 
 namespace {
 
 using KeyMap = std::map<int, int>; // Qt key -> virtual key
 
-// The Qt code of a printable key is its character.
-void addCharacters(KeyMap& map, const char* characters, int vk, int step)
+/// Enters keys whose virtual keys follow each other.
+template <typename Keys = std::initializer_list<int>>
+void addRun(KeyMap& map, int vk, const Keys& keys)
 {
-    for (const char* c = characters; *c; ++c, vk += step)
-        map.emplace(*c, vk);
+    for (const int key : keys)
+        map.emplace(key, vk++);
 }
 
 KeyMap expectedKeys()
 {
-    KeyMap map{{Qt::Key_Backspace, 0x08},  {Qt::Key_Tab, 0x09},        {Qt::Key_Clear, 0x0C},
-               {Qt::Key_Return, 0x0D},     {Qt::Key_Enter, 0x0D},      {Qt::Key_Shift, 0x10},
-               {Qt::Key_Control, 0x11},    {Qt::Key_Alt, 0x12},        {Qt::Key_Pause, 0x13},
-               {Qt::Key_CapsLock, 0x14},   {Qt::Key_Escape, 0x1B},     {Qt::Key_PageUp, 0x21},
-               {Qt::Key_PageDown, 0x22},   {Qt::Key_End, 0x23},        {Qt::Key_Home, 0x24},
-               {Qt::Key_Left, 0x25},       {Qt::Key_Up, 0x26},         {Qt::Key_Right, 0x27},
-               {Qt::Key_Down, 0x28},       {Qt::Key_Select, 0x29},     {Qt::Key_Print, 0x2A},
-               {Qt::Key_Execute, 0x2B},    {Qt::Key_Printer, 0x2C},    {Qt::Key_Insert, 0x2D},
-               {Qt::Key_Delete, 0x2E},     {Qt::Key_Help, 0x2F},       {Qt::Key_multiply, 0x6A},
-               {Qt::Key_NumLock, 0x90},    {Qt::Key_ScrollLock, 0x91}, {Qt::Key_VolumeMute, 0xAD},
-               {Qt::Key_VolumeDown, 0xAE}, {Qt::Key_VolumeUp, 0xAF},   {Qt::Key_MediaStop, 0xB2},
-               {Qt::Key_MediaPlay, 0xB3}};
-    addCharacters(map, " ", 0x20, 0);
-    addCharacters(map, "0123456789", 0x30, 1);
-    addCharacters(map, ")!@#$%^&*(", 0x30, 1);
-    addCharacters(map, "ABCDEFGHIJKLMNOPQRSTUVWXYZ", 0x41, 1);
-    const char* const shared[] = {";:", "+=", ",<", "-_", ".>", "/?", "`~"};
-    for (int i = 0; i < 7; ++i)
-        addCharacters(map, shared[i], 0xBA + i, 0);
-    const char* const brackets[] = {"[{", "\\|", "]}", "'\""};
-    for (int i = 0; i < 4; ++i)
-        addCharacters(map, brackets[i], 0xDB + i, 0);
+    using namespace Qt;
+    KeyMap map;
+    addRun(map, 0x08, {Key_Backspace, Key_Tab});
+    addRun(map, 0x0C, {Key_Clear, Key_Return});
+    addRun(map, 0x0D, {Key_Enter});
+    addRun(map, 0x10, {Key_Shift, Key_Control, Key_Alt, Key_Pause, Key_CapsLock});
+    addRun(map, 0x1B, {Key_Escape});
+    addRun(map, 0x21,
+           {Key_PageUp, Key_PageDown, Key_End, Key_Home, Key_Left, Key_Up, Key_Right, Key_Down,
+            Key_Select, Key_Print, Key_Execute, Key_Printer, Key_Insert, Key_Delete, Key_Help});
+    addRun(map, 0x6A, {Key_multiply});
+    addRun(map, 0x90, {Key_NumLock, Key_ScrollLock});
+    addRun(map, 0xAD, {Key_VolumeMute, Key_VolumeDown, Key_VolumeUp});
+    addRun(map, 0xB2, {Key_MediaStop, Key_MediaPlay});
+    // The Qt code of a printable key is its character.
+    const std::pair<int, std::string_view> characters[] = {
+        {0x20, " "},          {0x30, "0123456789"},
+        {0x30, ")!@#$%^&*("}, {0x41, "ABCDEFGHIJKLMNOPQRSTUVWXYZ"},
+        {0xBA, ";+,-./`"},    {0xBA, ":=<_>?~"},
+        {0xDB, "[\\]'"},      {0xDB, "{|}\""}};
+    for (const auto& [vk, keys] : characters)
+        addRun(map, vk, keys);
     for (int i = 0; i < 24; ++i)
         map.emplace(Qt::Key_F1 + i, 0x70 + i);
     return map;
@@ -81,17 +77,17 @@ TEST(KeyTable, GivesEveryVirtualKeyTheLowestOfItsKeys)
 
 TEST(KeyFlags, KeepWhatMessagesCanSay)
 {
-    EXPECT_EQ(qt_kb_flag_2_flag(0), 0U);
-    EXPECT_EQ(qt_kb_flag_2_flag(0x02000000), 0x4U);
-    EXPECT_EQ(qt_kb_flag_2_flag(0x04000000), 0x8U);
-    EXPECT_EQ(qt_kb_flag_2_flag(0x08000000), 0x20U);
-    EXPECT_EQ(qt_kb_flag_2_flag(0xFFFFFFFF), 0x2CU);
-    EXPECT_EQ(qt_kb_flag_2_flag(0xF1FFFFFF), 0U);
-    EXPECT_EQ(qt_mouse_flag_2_flag(1), 0x1U);
-    EXPECT_EQ(qt_mouse_flag_2_flag(2), 0x2U);
-    EXPECT_EQ(qt_mouse_flag_2_flag(4), 0x10U);
-    EXPECT_EQ(qt_mouse_flag_2_flag(0xFFFFFFFF), 0x13U);
-    EXPECT_EQ(qt_mouse_flag_2_flag(0xFFFFFFF8), 0U);
+    using Pairs = std::pair<UINT, UINT>[];
+    for (const auto& [qt, mfc] : Pairs{{0, 0},
+                                       {0x02000000, 4},
+                                       {0x04000000, 8},
+                                       {0x08000000, 0x20},
+                                       {0xFFFFFFFF, 0x2C},
+                                       {0xF1FFFFFF, 0}})
+        EXPECT_EQ(qt_kb_flag_2_flag(qt), mfc) << qt;
+    for (const auto& [qt, mfc] :
+         Pairs{{1, 1}, {2, 2}, {4, 0x10}, {0xFFFFFFFF, 0x13}, {0xFFFFFFF8, 0}})
+        EXPECT_EQ(qt_mouse_flag_2_flag(qt), mfc) << qt;
     EXPECT_EQ(mfc_flag_2_qt_kb_flag(0xFFFFFFFF), Qt::NoModifier);
     EXPECT_EQ(mfc_flag_2_qt_mouse_flag(0xFFFFFFFF),
               Qt::LeftButton | Qt::RightButton | Qt::MiddleButton);
@@ -112,12 +108,11 @@ TEST(MapVirtualKey, IsTheCharacterItselfForPrintableCodes)
 
 TEST(VkKeyScan, IsTheUpperCaseForm)
 {
-    EXPECT_EQ(VkKeyScan_E(L'a'), 0x41);
-    EXPECT_EQ(VkKeyScan_E(L'A'), 0x41);
-    EXPECT_EQ(VkKeyScan_E(L'1'), 0x31);
-    EXPECT_EQ(VkKeyScan_E(L'!'), 0x21);
-    EXPECT_EQ(VkKeyScan_E(L'\u00E9'), 0xC9);
-    EXPECT_EQ(VkKeyScan_E(static_cast<wchar_t>(0x10061)), 0x41); // the low 16 bits count
+    // Only the low 16 bits of a character count.
+    const std::pair<wchar_t, short> rows[] = {{L'a', 0x41}, {L'A', 0x41},      {L'1', 0x31},
+                                              {L'!', 0x21}, {L'\u00E9', 0xC9}, {0x10061, 0x41}};
+    for (const auto& [c, vk] : rows)
+        EXPECT_EQ(VkKeyScan_E(c), vk) << c;
 }
 
 BOOL repeats(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
@@ -129,17 +124,18 @@ BOOL repeats(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::N
 
 TEST(RepeatFilter, ReportsAKeyHeldDownOnce)
 {
-    repeats(QEvent::KeyRelease, Qt::Key_Z);
-    EXPECT_FALSE(repeats(QEvent::KeyPress, Qt::Key_A));
-    EXPECT_TRUE(repeats(QEvent::KeyPress, Qt::Key_A));
-    EXPECT_TRUE(repeats(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a")));
+    constexpr auto press = QEvent::KeyPress, release = QEvent::KeyRelease;
+    repeats(release, Qt::Key_Z);
+    EXPECT_FALSE(repeats(press, Qt::Key_A));
+    EXPECT_TRUE(repeats(press, Qt::Key_A));
+    EXPECT_TRUE(repeats(press, Qt::Key_A, Qt::NoModifier, "a"_q));
     EXPECT_FALSE(IsRepeatFilterKeyEvent(nullptr));
-    EXPECT_TRUE(repeats(QEvent::KeyPress, Qt::Key_A));
-    EXPECT_FALSE(repeats(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier));
-    EXPECT_FALSE(repeats(QEvent::KeyPress, Qt::Key_B, Qt::ShiftModifier));
-    EXPECT_FALSE(repeats(QEvent::KeyRelease, Qt::Key_B, Qt::ShiftModifier));
-    EXPECT_TRUE(repeats(QEvent::KeyRelease, Qt::Key_B, Qt::ShiftModifier));
-    EXPECT_FALSE(repeats(QEvent::KeyPress, Qt::Key_B, Qt::ShiftModifier));
+    EXPECT_TRUE(repeats(press, Qt::Key_A));
+    EXPECT_FALSE(repeats(press, Qt::Key_A, Qt::ShiftModifier));
+    EXPECT_FALSE(repeats(press, Qt::Key_B, Qt::ShiftModifier));
+    EXPECT_FALSE(repeats(release, Qt::Key_B, Qt::ShiftModifier));
+    EXPECT_TRUE(repeats(release, Qt::Key_B, Qt::ShiftModifier));
+    EXPECT_FALSE(repeats(press, Qt::Key_B, Qt::ShiftModifier));
 }
 
 TEST(RepeatFilterDeathTest, BeginsWithAPressOfTheUnknownKey)

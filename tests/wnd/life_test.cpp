@@ -1,20 +1,40 @@
 // Binding, finding, destroying: windows that live, die and die inside their own handlers.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/waiting.h"
-
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QMainWindow>
-#include <QtWidgets/QMenuBar>
-#include <QtWidgets/QScrollBar>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <random>
+#include "support/test.h"
 
 namespace {
+
+constexpr CRect_E kPlace{10, 20, 110, 100};
+
+/// Tells what happens to it, by the name of what it is told; ends nothing by itself.
+class TellingWnd : public CWnd_E
+{
+public:
+    using Act = std::function<void(const QString&)>;
+    explicit TellingWnd(Act act) : m_act(std::move(act)) {}
+    void OnDestroy()
+    {
+        m_act("destroy"_q);
+        CWnd_E::OnDestroy();
+    }
+    void OnShowWindow(BOOL, UINT) { m_act("show"_q); }
+    void OnVScroll(UINT nCode, UINT nPos, QAbstractSlider* pBar)
+    {
+        m_act("scroll %1 %2 %3"_q.arg(nCode).arg(nPos).arg(pBar != nullptr));
+    }
+    void PostNcDestroy() override { m_act("gone"_q); }
+
+protected:
+    void OnMessageMap() override;
+
+private:
+    Act m_act;
+};
+
+BEGIN_MESSAGE_MAP_E(TellingWnd, CWnd_E)
+ON_WM_DESTROY_E()
+ON_WM_SHOWWINDOW_E()
+ON_WM_VSCROLL_E()
+END_MESSAGE_MAP_E()
 
 TEST(BindingTest, AWindowOwnsTheWidgetItMade)
 {
@@ -35,50 +55,38 @@ TEST(BindingTest, AWindowOwnsTheWidgetItMade)
     EXPECT_FALSE(widget);
 }
 
-TEST(BindingTest, AWindowLeavesAForeignWidgetAlone)
-{
-    QWidget widget;
-    {
-        CWnd_E window;
-        ASSERT_TRUE(window.SubclassWindow(&widget));
-        EXPECT_TRUE(window.IsExternalImpObj());
-    }
-    vxtest::deliverPosted();
-    EXPECT_FALSE(widget.property("owner").isValid());
-    EXPECT_FALSE(widget.property("parent").isValid());
-    CWnd_E window;
-    EXPECT_FALSE(window.SubclassWindow(nullptr));
-    EXPECT_FALSE(window.SubclassDlgItem("nobody", nullptr));
-}
-
-TEST(BindingTest, AWidgetDestroyedByQtIsForgotten)
+TEST(BindingTest, AWindowLeavesAForeignWidgetAloneAndForgetsADestroyedOne)
 {
     CWnd_E window;
     {
         QWidget widget;
-        window.SubclassWindow(&widget);
+        for (int i = 0; i < 2; ++i) {
+            ASSERT_TRUE(window.SubclassWindow(&widget));
+            EXPECT_TRUE(window.IsExternalImpObj());
+            if (i == 0)
+                window.Detach();
+            vxtest::deliverPosted();
+        }
     }
     EXPECT_EQ(window.GetSafeHwnd(), nullptr);
     EXPECT_FALSE(window.IsExternalImpObj());
     EXPECT_EQ(window.SendMessage(WM_APP), 0);
-    EXPECT_FALSE(window.PostMessage(WM_APP));
-    EXPECT_FALSE(window.DestroyWindow());
+    EXPECT_FALSE(window.PostMessage(WM_APP) || window.DestroyWindow());
+    EXPECT_FALSE(window.SubclassWindow(nullptr) || window.SubclassDlgItem("nobody", nullptr));
 }
-
-class RefusingWnd : public CWnd_E
-{
-public:
-    int OnCreate(tagCREATESTRUCTW* pCreate) override
-    {
-        m_nStyle = pCreate->style;
-        return m_nResult;
-    }
-    int m_nResult = 0;
-    UINT m_nStyle = 0;
-};
 
 TEST(BindingTest, AnyResultOfOnCreateButZeroStopsCreation)
 {
+    struct RefusingWnd : CWnd_E
+    {
+        int OnCreate(tagCREATESTRUCTW* pCreate) override
+        {
+            m_nStyle = pCreate->style;
+            return m_nResult;
+        }
+        int m_nResult = 0;
+        UINT m_nStyle = 0;
+    };
     for (const int nResult : {-1, 1, 7}) {
         QWidget parent;
         RefusingWnd window;
@@ -95,8 +103,9 @@ TEST(BindingTest, StyleWordsPlaceShowAndScroll)
 {
     QWidget parent;
     CWnd_E window;
-    ASSERT_TRUE(
-        window.Create(WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, CRect_E(10, 20, 110, 100), &parent));
+    for (int i = 0; i < 2; ++i) // bound again, it gets scroll bars of its own
+        ASSERT_TRUE(window.Create(WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, kPlace, &parent));
+    vxtest::deliverPosted();
     EXPECT_EQ(window.GetSafeHwnd()->geometry(), QRect(10, 20, 100, 80));
     EXPECT_FALSE(window.GetSafeHwnd()->isHidden());
     EXPECT_EQ(window.GetSafeHwnd()->findChildren<QScrollBar*>().size(), 2);
@@ -111,7 +120,7 @@ TEST(BindingTest, AWindowWithoutParentGoesToTheHostsMainFrame)
     ASSERT_TRUE(orphan.Create(WS_CHILD, nullptr));
     EXPECT_EQ(orphan.GetSafeHwnd()->parentWidget(), nullptr);
     QMainWindow frame;
-    frame.setObjectName(QStringLiteral("CTolmMainFrame"));
+    frame.setObjectName("CTolmMainFrame"_q);
     CWnd_E window;
     ASSERT_TRUE(window.Create(WS_CHILD, nullptr));
     EXPECT_EQ(window.GetSafeHwnd()->parentWidget(), &frame);
@@ -152,7 +161,7 @@ TEST(FromHandleTest, IdleTimeClearsThePoolUnlessAHostCommandRuns)
     running = true;
     bool (*const isRunning)() = [] { return running; };
     QMainWindow frame;
-    frame.setObjectName(QStringLiteral("CTolmMainFrame"));
+    frame.setObjectName("CTolmMainFrame"_q);
     frame.setProperty("IsTolmCmdActive",
                       static_cast<qulonglong>(reinterpret_cast<quintptr>(isRunning)));
     QWidget widget;
@@ -185,84 +194,42 @@ TEST(HandleMapTest, TheWindowMapMakesWindowsOverAHandle)
     EXPECT_EQ(pMap->LookupTemporary(&widget), nullptr);
 }
 
-/// Notes WM_DESTROY and WM_NCDESTROY, and ends itself as MFC windows do.
-class DyingWnd : public CWnd_E
-{
-public:
-    DyingWnd(QStringList& trace, const char* name) : m_trace(trace), m_name(QLatin1String(name)) {}
-    ~DyingWnd() override { m_trace << m_name + QLatin1String(" gone"); }
-    void OnDestroy()
-    {
-        m_trace << m_name + QLatin1String(" destroy");
-        CWnd_E::OnDestroy();
-    }
-    void PostNcDestroy() override { delete this; }
-
-protected:
-    void OnMessageMap() override;
-
-private:
-    QStringList& m_trace;
-    QString m_name;
-};
-
-BEGIN_MESSAGE_MAP_E(DyingWnd, CWnd_E)
-ON_WM_DESTROY_E()
-END_MESSAGE_MAP_E()
-
 TEST(DestroyTest, ParentsHearFirstAndEndLast)
 {
     QStringList trace;
-    auto* const parent = new DyingWnd(trace, "parent");
-    auto* const child = new DyingWnd(trace, "child");
+    TellingWnd *parent = nullptr, *child = nullptr;
+    const auto mortal = [&trace](const char* name, TellingWnd*& window) {
+        window = new TellingWnd([&trace, &window, name](const QString& what) {
+            trace << QLatin1String(name) + u' ' + what;
+            if (what == "gone"_q)
+                delete window; // as MFC windows do
+        });
+    };
+    mortal("parent", parent);
+    mortal("child", child);
     parent->Create(static_cast<QWidget*>(nullptr));
     child->Create(parent->GetSafeHwnd());
     const QPointer<QWidget> widget(parent->GetSafeHwnd());
     EXPECT_TRUE(parent->DestroyWindow());
-    EXPECT_EQ(trace.join(QLatin1String(", ")),
-              QStringLiteral("parent destroy, child destroy, child gone, parent gone"));
+    EXPECT_EQ(trace.join(u','), "parent destroy,child destroy,child gone,parent gone"_q);
     EXPECT_FALSE(DestroyWindow_E(nullptr));
     vxtest::deliverPosted();
     EXPECT_FALSE(widget);
 }
-
-/// Does one thing when it is destroyed, shown or scrolled.
-class ActingWnd : public CWnd_E
-{
-public:
-    explicit ActingWnd(std::function<void()> act) : m_act(std::move(act)) {}
-    void OnDestroy()
-    {
-        ++m_destroyed;
-        CWnd_E::OnDestroy();
-        m_act();
-    }
-    void OnShowWindow(BOOL, UINT) { m_act(); }
-    void OnVScroll(UINT, UINT, QAbstractSlider*) { m_act(); }
-    int m_destroyed = 0;
-
-protected:
-    void OnMessageMap() override;
-
-private:
-    std::function<void()> m_act;
-};
-
-BEGIN_MESSAGE_MAP_E(ActingWnd, CWnd_E)
-ON_WM_DESTROY_E()
-ON_WM_SHOWWINDOW_E()
-ON_WM_VSCROLL_E()
-END_MESSAGE_MAP_E()
 
 TEST(DestroyTest, DestroyingAWindowAgainInItsOwnDestructionEnds)
 {
     QWidget top;
     CWnd_E parent;
     parent.Create(&top);
-    ActingWnd child([&parent] { parent.DestroyWindow(); });
+    QString seen;
+    TellingWnd child([&](const QString& what) {
+        seen += what;
+        parent.DestroyWindow();
+    });
     child.Create(parent.GetSafeHwnd());
     EXPECT_TRUE(parent.DestroyWindow());
-    EXPECT_EQ(child.m_destroyed, 1);
+    EXPECT_EQ(seen.count("destroy"_q), 1);
     EXPECT_EQ(parent.GetSafeHwnd(), nullptr);
 }
 
@@ -270,8 +237,8 @@ TEST(DestroyTest, AWindowMayDieWhileItIsCreated)
 {
     QWidget top;
     top.show();
-    QPointer<ActingWnd> window;
-    window = new ActingWnd([&window] { delete window; });
+    QPointer<TellingWnd> window;
+    window = new TellingWnd([&window](const QString&) { delete window; });
     EXPECT_TRUE(window->Create(WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, &top));
     EXPECT_FALSE(window);
 }
@@ -280,10 +247,11 @@ TEST(DestroyTest, AWindowMayBeDestroyedByItsOwnScrollBar)
 {
     QWidget top;
     for (const bool bDelete : {false, true}) {
-        QPointer<ActingWnd> window;
-        window = new ActingWnd(
-            [&] { bDelete ? delete window : void(DestroyWindow_E(window->GetSafeHwnd())); });
-        window->Create(WS_VSCROLL, CRect_E(0, 0, 100, 80), &top);
+        QPointer<TellingWnd> window;
+        window = new TellingWnd([&](const QString&) {
+            bDelete ? delete window : void(DestroyWindow_E(window->GetSafeHwnd()));
+        });
+        window->Create(WS_VSCROLL, kPlace, &top);
         const QPointer<QScrollBar> bar(window->GetSafeHwnd()->findChild<QScrollBar*>());
         bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
         vxtest::deliverPosted();
@@ -292,62 +260,25 @@ TEST(DestroyTest, AWindowMayBeDestroyedByItsOwnScrollBar)
     }
 }
 
-/// Ends the window in one of several ways from inside a handler.
+/// Ends itself from inside a handler, once.
 class SuicideWnd : public CWnd_E
 {
 public:
-    enum Way
-    {
-        DeleteWindow,
-        DeleteWidget,
-        DeleteBoth,
-        DetachOnly,
-        Destroy,
-        Rebind,
-        WayCount
-    };
-    explicit SuicideWnd(int way) : m_way(way) {}
-    LRESULT OnEnd(WPARAM, LPARAM)
-    {
-        if (!std::exchange(m_armed, false))
-            return 0;
-        QWidget* const widget = GetSafeHwnd();
-        switch (m_way) {
-        case DeleteWindow:
-            delete this;
-            break;
-        case DeleteWidget:
-            delete widget;
-            break;
-        case DeleteBoth:
-            delete widget;
-            delete this;
-            break;
-        case DetachOnly:
-            Detach();
-            break;
-        case Destroy:
-            DestroyWindow();
-            break;
-        default:
-            SubclassWindow(&m_other);
-            break;
-        }
-        return 1;
-    }
+    using Way = void (*)(SuicideWnd*);
+    explicit SuicideWnd(Way way) : m_way(way) {}
+    LRESULT OnEnd(WPARAM, LPARAM) { return std::exchange(m_armed, false) ? (m_way(this), 1) : 0; }
     void OnKeyDown(UINT, UINT, UINT) { OnEnd(0, 0); }
     void OnLButtonDown(UINT, CPoint_E) { OnEnd(0, 0); }
     void OnSize(UINT, int, int) { OnEnd(0, 0); }
 
+    bool m_armed = false; // Qt itself cannot bear the death of a widget that it is showing
+    QWidget m_other;
+
 protected:
     void OnMessageMap() override;
 
-public:
-    bool m_armed = false; // Qt itself cannot bear the death of a widget that it is showing
-
 private:
-    int m_way;
-    QWidget m_other;
+    Way m_way;
 };
 
 BEGIN_MESSAGE_MAP_E(SuicideWnd, CWnd_E)
@@ -357,47 +288,47 @@ ON_WM_LBUTTONDOWN_E()
 ON_WM_SIZE_E()
 END_MESSAGE_MAP_E()
 
-void deliver(int how, QWidget* widget)
+void deleteBoth(SuicideWnd* window)
 {
-    switch (how) {
-    case 0:
-        SendMessage_E(widget, WM_APP);
-        break;
-    case 1:
-        PostMessage_E(widget, WM_APP);
-        break;
-    case 2:
-        SendMessage_E(widget, WM_KEYDOWN, 0x41);
-        break;
-    case 3:
-        PostMessage_E(widget, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 4));
-        break;
-    case 4:
-        SendMessage_E(widget, WM_SIZE, 0, MAKELPARAM(60, 50));
-        break;
-    default:
-        DestroyWindow_E(widget);
-        break;
-    }
+    delete window->GetSafeHwnd();
+    delete window;
 }
+
+constexpr SuicideWnd::Way kWays[] = {
+    [](SuicideWnd* window) { delete window; },
+    [](SuicideWnd* window) { delete window->GetSafeHwnd(); },
+    &deleteBoth,
+    [](SuicideWnd* window) { window->Detach(); },
+    [](SuicideWnd* window) { window->DestroyWindow(); },
+    [](SuicideWnd* window) { window->SubclassWindow(&window->m_other); },
+};
+
+constexpr void (*kMessages[])(QWidget*) = {
+    [](QWidget* w) { SendMessage_E(w, WM_APP); },
+    [](QWidget* w) { PostMessage_E(w, WM_APP); },
+    [](QWidget* w) { SendMessage_E(w, WM_KEYDOWN, 0x41); },
+    [](QWidget* w) { PostMessage_E(w, WM_LBUTTONDOWN, 0, MAKELPARAM(3, 4)); },
+    [](QWidget* w) { SendMessage_E(w, WM_SIZE, 0, MAKELPARAM(60, 50)); },
+    [](QWidget* w) { DestroyWindow_E(w); },
+};
 
 TEST(DestroyTest, AWindowMayDieInsideItsOwnHandler)
 {
     QWidget top;
     top.show();
-    for (int way = 0; way < SuicideWnd::WayCount; ++way) {
-        for (int how = 0; how < 6; ++how) {
+    for (std::size_t way = 0; way < std::size(kWays); ++way) {
+        for (std::size_t how = 0; how < std::size(kMessages); ++how) {
             SCOPED_TRACE(testing::Message() << "way " << way << ", message " << how);
-            const QPointer<SuicideWnd> window(new SuicideWnd(way));
+            const QPointer<SuicideWnd> window(new SuicideWnd(kWays[way]));
             const QPointer<QWidget> widget(new QWidget(&top));
             window->SubclassWindow(widget);
             widget->show();
             window->m_armed = true;
-            deliver(how, widget);
+            kMessages[how](widget);
             vxtest::deliverPosted();
-            if (how < 4 && way <= SuicideWnd::DeleteBoth) {
-                EXPECT_EQ(window.isNull(), way != SuicideWnd::DeleteWidget);
-                EXPECT_EQ(widget.isNull(), way != SuicideWnd::DeleteWindow);
+            if (how < 4 && way < 3) {
+                EXPECT_EQ(window.isNull(), way != 1);
+                EXPECT_EQ(widget.isNull(), way != 0);
             }
             delete window;
             delete widget;
@@ -408,27 +339,23 @@ TEST(DestroyTest, AWindowMayDieInsideItsOwnHandler)
 TEST(DestroyTest, RandomEventSequencesNeverCrash)
 {
     std::mt19937 random(20240229);
-    const auto pick = [&random](int n) {
-        return static_cast<int>(random() % static_cast<unsigned>(n));
-    };
+    const auto pick = [&random](std::size_t n) { return random() % n; };
     for (int round = 0; round < 200; ++round) {
         QWidget top;
         std::vector<QPointer<QWidget>> widgets;
         std::vector<QPointer<CWnd_E>> windows;
-        for (int i = 0; i < 6; ++i) {
-            QWidget* const parent = i == 0 || !widgets.back()
-                                        ? &top
-                                        : widgets[static_cast<std::size_t>(pick(i))].data();
-            auto* const mortal = new SuicideWnd(pick(SuicideWnd::WayCount));
+        for (std::size_t i = 0; i < 6; ++i) {
+            QWidget* const parent = i == 0 || !widgets.back() ? &top : widgets[pick(i)].data();
+            auto* const mortal = new SuicideWnd(kWays[pick(std::size(kWays))]);
             windows.emplace_back(mortal);
             windows.back()->AttachDefault(parent ? parent : &top);
             widgets.emplace_back(windows.back()->GetSafeHwnd());
             mortal->m_armed = pick(2) != 0;
         }
         for (int step = 0; step < 20; ++step) {
-            const auto i = static_cast<std::size_t>(pick(6));
+            const std::size_t i = pick(6);
             if (widgets[i])
-                deliver(pick(6), widgets[i]);
+                kMessages[pick(std::size(kMessages))](widgets[i]);
             if (windows[i] && pick(8) == 0)
                 windows[i]->PostEvent(new VxWinMsgEvent(WM_APP, 0, 0), Qt::NormalEventPriority,
                                       true);
@@ -462,50 +389,24 @@ TEST(DestroyTest, TenThousandWindowsComeAndGo)
 
 TEST(EdgesTest, AScrollBarTellsItsWindow)
 {
-    class ScrollWnd : public CWnd_E
-    {
-    public:
-        void OnVScroll(UINT nCode, UINT nPos, QAbstractSlider* pBar)
-        {
-            m_seen << QStringLiteral("%1 %2 %3").arg(nCode).arg(nPos).arg(pBar != nullptr);
-        }
-        QStringList m_seen;
-
-    protected:
-        void OnMessageMap() override
-        {
-            using ThisClass_E = ScrollWnd;
-            CWnd_E::OnMessageMap();
-            ON_WM_VSCROLL_E()
-        }
-    };
     QWidget top;
-    ScrollWnd window;
-    window.Create(WS_VSCROLL, CRect_E(0, 0, 100, 80), &top);
+    QStringList seen;
+    TellingWnd window([&seen](const QString& what) { seen << what; });
+    window.Create(WS_VSCROLL, kPlace, &top);
     window.SetScrollRange(SB_VERT, 0, 50);
     EXPECT_EQ(window.SetScrollPos(SB_VERT, 7), 0);
     EXPECT_EQ(window.GetScrollPos(SB_VERT), 7);
-    EXPECT_TRUE(window.m_seen.isEmpty()) << "programmatic changes are silent";
+    EXPECT_TRUE(seen.isEmpty()) << "programmatic changes are silent";
     auto* const bar = window.GetSafeHwnd()->findChild<QScrollBar*>();
     ASSERT_TRUE(bar);
     bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     bar->triggerAction(QAbstractSlider::SliderPageStepSub);
-    EXPECT_EQ(window.m_seen, QStringList({QStringLiteral("1 8 1"), QStringLiteral("2 0 1")}));
+    EXPECT_EQ(seen.join(u','), "scroll 1 8 1,scroll 2 0 1"_q);
     window.ShowWindow(SW_SHOW);
     top.show();
     window.MoveWindow(0, 0, 200, 150);
     EXPECT_EQ(bar->geometry().right(), 199);
     EXPECT_EQ(bar->geometry().bottom(), 149);
-}
-
-TEST(EdgesTest, AWindowBoundAgainGetsScrollBarsOfItsOwn)
-{
-    QWidget top;
-    CWnd_E window;
-    for (int i = 0; i < 2; ++i)
-        window.Create(WS_VSCROLL, CRect_E(0, 0, 100, 80), &top);
-    vxtest::deliverPosted();
-    EXPECT_EQ(window.GetSafeHwnd()->findChildren<QScrollBar*>().size(), 1);
 }
 
 TEST(EdgesTest, AMenuBarShowsTheMenusEntries)
@@ -516,7 +417,7 @@ TEST(EdgesTest, AMenuBarShowsTheMenusEntries)
     EXPECT_FALSE(window.SetMenu(&menu)) << "no widget yet";
     window.Create(&top);
     ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.GetSafeHmenu()->addMenu(QStringLiteral("File"));
+    menu.GetSafeHmenu()->addMenu("File"_q);
     EXPECT_EQ(CMenu_E::FromHandle(menu.GetSafeHmenu()), &menu);
     EXPECT_TRUE(window.SetMenu(&menu));
     auto* const bar = window.GetSafeHwnd()->findChild<QMenuBar*>();

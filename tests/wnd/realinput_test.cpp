@@ -1,12 +1,6 @@
 // Real keys, clicks, wheel turns, resizes and closes: through the X server to a window's handlers.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/waiting.h"
+#include "support/test.h"
 #include "support/xinput.h"
-
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
 
 #include <X11/keysym.h>
 
@@ -54,7 +48,7 @@ private:
     {
         QString line = QLatin1String(name);
         for (const UINT value : values)
-            line += QStringLiteral(" %1").arg(value, 0, 16);
+            line += " %1"_q.arg(value, 0, 16);
         m_seen << line;
     }
     void Mouse(const char* name, UINT nFlags, CPoint_E at)
@@ -100,10 +94,10 @@ protected:
     /// Waits for what is expected, so that a failure shows what came instead.
     void expect(const char* lines)
     {
-        const QString wanted = QLatin1String(lines);
-        vxtest::waitUntil([&] { return m_window.m_seen.join(QLatin1String(", ")) == wanted; },
-                          2000);
-        EXPECT_EQ(std::exchange(m_window.m_seen, {}).join(QLatin1String(", ")), wanted);
+        const auto seen = [this] { return m_window.m_seen.join(QLatin1String(", ")); };
+        vxtest::waitUntil([&] { return seen() == QLatin1String(lines); }, 2000);
+        EXPECT_EQ(seen(), QLatin1String(lines));
+        m_window.m_seen.clear();
     }
 
     QWidget m_widget;
@@ -143,26 +137,22 @@ TEST_F(RealInputTest, ClicksAndTheWheel)
     vxtest::movePointer(&m_widget, {31, 42});
     vxtest::setButton(1, false);
     expect("left 1 1e 28, move 1 1f 2a, left up 0 1f 2a");
-    vxtest::click(&m_widget, {31, 42});
+    vxtest::clickButton(1);
     expect("left double 1 1f 2a, left up 0 1f 2a");
-    vxtest::setButton(2, true);
-    vxtest::setButton(2, false);
+    vxtest::clickButton(2);
     expect("middle 10 1f 2a");
-    vxtest::setButton(3, true);
-    vxtest::setButton(3, false);
+    vxtest::clickButton(3);
     expect("right 2 1f 2a, right up 0 1f 2a");
-    vxtest::setButton(4, true);
-    vxtest::setButton(4, false);
-    vxtest::setButton(5, true);
-    vxtest::setButton(5, false);
+    vxtest::clickButton(4);
+    vxtest::clickButton(5);
     expect("wheel up 0 1f 2a, wheel down 0 1f 2a");
 }
 
 TEST_F(RealInputTest, ResizeAndClose)
 {
-    vxtest::resizeWindow(&m_widget, {320, 240});
+    vxtest::resizeWindow(m_widget.winId(), {320, 240});
     expect("size 140 f0");
-    vxtest::closeWindow(&m_widget);
+    vxtest::closeWindow(m_widget.winId());
     expect("close");
     EXPECT_TRUE(m_widget.isVisible()) << "the handler did not accept the close";
 }

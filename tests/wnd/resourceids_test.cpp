@@ -1,36 +1,22 @@
-#include <VxMFCEmu/wnd/resourceids.h>
-#include <VxMFCEmu/wnd/windowtree.h>
-
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "support/test.h"
 
 TEST(ResourceIds, NamesAndIds)
 {
-    struct
-    {
-        int line;
-        UINT id;
-        const char* name;
-        UINT idOfName;
-    } const rows[] = {
-        {__LINE__, 1001, "m_edit", 1001},
-        {__LINE__, 4294967295U, "m_last", 4294967295U},
-        {__LINE__, 1030, "Größe", 1030},
-        {__LINE__, 1031, "left,right", 1031},
-        {__LINE__, 1041, "m_twice", 1040}, // the lowest id wins
-        {__LINE__, 999, "", 0},
-        {__LINE__, 0, "", 0},
+    const Row<UINT, const char*, UINT> rows[] = {
+        {1001, "m_edit", 1001},
+        {4294967295U, "m_last", 4294967295U},
+        {1030, "Größe", 1030},
+        {1031, "left,right", 1031},
+        {1041, "m_twice", 1040}, // the lowest id wins
+        {999, "", 0},
+        {0, "", 0},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(ToStringId(row.id), QString::fromUtf8(row.name));
-        EXPECT_EQ(ToCtrlId(QString::fromUtf8(row.name)), row.idOfName);
+    for (const auto& [id, name, idOfName] : rows) {
+        EXPECT_EQ(ToStringId(id), QString::fromUtf8(name)) << id;
+        EXPECT_EQ(ToCtrlId(QString::fromUtf8(name)), idOfName) << id;
     }
-    EXPECT_EQ(ToCtrlId(QStringLiteral("M_EDIT")), 0U);
-    EXPECT_EQ(ToCtrlId(QStringLiteral("no number")), 0U);
+    EXPECT_EQ(ToCtrlId("M_EDIT"_q), 0U);
+    EXPECT_EQ(ToCtrlId("no number"_q), 0U);
     EXPECT_EQ(GetResourceIDMap().size(), 13);
 }
 
@@ -39,9 +25,9 @@ TEST(ResourceIds, DialogItems)
     QWidget dialog;
     auto* const pInner = new QWidget(&dialog);
     auto* const pEdit = new QWidget(pInner);
-    pEdit->setObjectName(QStringLiteral("m_edit"));
+    pEdit->setObjectName("m_edit"_q);
     auto* const pUmlaut = new QWidget(&dialog);
-    pUmlaut->setObjectName(QString::fromUtf8("Größe"));
+    pUmlaut->setObjectName("Größe"_q);
 
     EXPECT_EQ(GetDlgItem_E(&dialog, 1001), pEdit);
     EXPECT_EQ(GetDlgItem_E(&dialog, 1030), pUmlaut);

@@ -1,21 +1,5 @@
-#include "support/waiting.h"
+#include "support/test.h"
 #include "support/xinput.h"
-
-#include <VxMFCEmu/wnd/geometry.h>
-#include <VxMFCEmu/wnd/hostwindows.h>
-#include <VxMFCEmu/wnd/windowfunctions.h>
-#include <VxMFCEmu/wnd/winstyles.h>
-
-#include <QtGui/QFontMetrics>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QMainWindow>
-#include <QtWidgets/QMdiArea>
-#include <QtWidgets/QMdiSubWindow>
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace {
 
@@ -93,31 +77,22 @@ TEST_F(WindowTest, DialogUnits)
 
 TEST_F(WindowTest, SetWindowPosFlags)
 {
-    struct
-    {
-        int line;
-        UINT flags;
-        QRect geometry;
-        bool visible;
-    } const rows[] = {
-        {__LINE__, 0, {1, 2, 5, 6}, true},
-        {__LINE__, SWP_NOSIZE, {1, 2, 30, 40}, true},
-        {__LINE__, SWP_NOMOVE, {10, 20, 5, 6}, true},
-        {__LINE__, SWP_NOMOVE | SWP_NOSIZE | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
-        {__LINE__,
-         SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW | SWP_HIDEWINDOW,
-         {10, 20, 30, 40},
-         false},
+    constexpr UINT keep = SWP_NOSIZE | SWP_NOMOVE;
+    const Row<UINT, QRect, bool> rows[] = {
+        {0, {1, 2, 5, 6}, true},
+        {SWP_NOSIZE, {1, 2, 30, 40}, true},
+        {SWP_NOMOVE, {10, 20, 5, 6}, true},
+        {keep | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
+        {keep | SWP_SHOWWINDOW | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    forRows(rows, [&](UINT flags, const QRect& geometry, bool visible) {
         m_child->setGeometry(10, 20, 30, 40);
         m_child->show();
-        EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 1, 2, 5, 6, row.flags));
-        EXPECT_EQ(m_child->geometry(), row.geometry);
-        EXPECT_EQ(m_child->isVisible(), row.visible);
-        EXPECT_EQ(IsWindowVisible_E(m_child), row.visible);
-    }
+        EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 1, 2, 5, 6, flags));
+        EXPECT_EQ(m_child->geometry(), geometry);
+        EXPECT_EQ(m_child->isVisible(), visible);
+        EXPECT_EQ(IsWindowVisible_E(m_child), visible);
+    });
     EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW));
     EXPECT_TRUE(m_child->isVisible());
     EXPECT_FALSE(SetWindowPos_E(nullptr, m_child, 0, 0, 0, 0, 0));
@@ -128,27 +103,20 @@ TEST_F(WindowTest, StackingOrder)
     constexpr UINT keep = SWP_NOSIZE | SWP_NOMOVE;
     auto* const pSecond = new QWidget(&m_top);
     auto* const pThird = new QWidget(&m_top);
-    struct
-    {
-        int line;
-        HWND after;
-        UINT flags;
-        HWND top;
-    } const rows[] = {
-        {__LINE__, m_child, keep | SWP_NOZORDER, pThird},
-        {__LINE__, m_child, keep | SWP_NOOWNERZORDER, pThird},
-        {__LINE__, HWND_TOP, keep, pThird},
-        {__LINE__, m_child, keep, pSecond}, // the third goes under the first
-        {__LINE__, HWND_TOPMOST, keep, pThird},
-        {__LINE__, HWND_NOTOPMOST, keep, pThird},
-        {__LINE__, HWND_BOTTOM, keep, pSecond},
+    const Row<HWND, UINT, HWND> rows[] = {
+        {m_child, keep | SWP_NOZORDER, pThird},
+        {m_child, keep | SWP_NOOWNERZORDER, pThird},
+        {HWND_TOP, keep, pThird},
+        {m_child, keep, pSecond}, // the third goes under the first
+        {HWND_TOPMOST, keep, pThird},
+        {HWND_NOTOPMOST, keep, pThird},
+        {HWND_BOTTOM, keep, pSecond},
     };
     new QDialog(&m_top); // a window of its own is no child to be on top
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_TRUE(SetWindowPos_E(pThird, row.after, 0, 0, 0, 0, row.flags));
-        EXPECT_EQ(GetTopWindow_E(&m_top), row.top);
-    }
+    forRows(rows, [&](HWND after, UINT flags, HWND top) {
+        EXPECT_TRUE(SetWindowPos_E(pThird, after, 0, 0, 0, 0, flags));
+        EXPECT_EQ(GetTopWindow_E(&m_top), top);
+    });
 }
 
 TEST_F(WindowTest, ShowWindowKeepsThePlaceOfTopLevelWindows)
@@ -224,17 +192,15 @@ TEST_F(WindowTest, ParentProperty)
 {
     QWidget other;
     auto pGone = std::make_unique<QWidget>();
+    QWidget* const pDangling = pGone.get();
     QObject noWidget;
     EXPECT_EQ(GetParent_E(m_child), &m_top);
-    setParentProperty(m_child, &other);
-    EXPECT_EQ(GetParent_E(m_child), &other);
-    setParentProperty(m_child, nullptr);
-    EXPECT_EQ(GetParent_E(m_child), &m_top);
-    setParentProperty(m_child, &noWidget);
-    EXPECT_EQ(GetParent_E(m_child), &m_top);
-    setParentProperty(m_child, pGone.get());
-    EXPECT_EQ(GetParent_E(m_child), pGone.get());
-    QWidget* const pDangling = pGone.get();
+    const Row<const QObject*, QWidget*> rows[] = {
+        {&other, &other}, {nullptr, &m_top}, {&noWidget, &m_top}, {pDangling, pDangling}};
+    for (const auto& [pSet, pParent] : rows) {
+        setParentProperty(m_child, pSet);
+        EXPECT_EQ(GetParent_E(m_child), pParent);
+    }
     EXPECT_TRUE(IsWindow_E(pDangling));
     pGone.reset();
     EXPECT_FALSE(IsWindow_E(pDangling));
@@ -268,7 +234,7 @@ TEST_F(WindowTest, SetParent)
 
 TEST(HostWindows, FoundByNameAmongTopLevelWidgets)
 {
-    const QString strName = QStringLiteral("CTolmMainFrame");
+    const QString strName = "CTolmMainFrame"_q;
     EXPECT_EQ(TolmGetMainFrame(), nullptr);
     EXPECT_EQ(TolmGetViewWindow(), nullptr);
     QWidget holder;

@@ -1,10 +1,4 @@
-#include <VxMFCEmu/wnd/windowstyle.h>
-
-#include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
-#include <QtWidgets/QWidget>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -18,43 +12,33 @@ void setStyle(QWidget& widget, const char* style)
 TEST(WindowStyle, FlagsAndStates)
 {
     constexpr Qt::WindowFlags none;
-    struct
-    {
-        int line;
-        const char* style;
-        Qt::WindowFlags flags;
-        Qt::WindowStates states;
-    } const rows[] = {
-        {__LINE__, "WS_MAXIMIZE", none, Qt::WindowMaximized},
-        {__LINE__, "WS_ICONIC", none, Qt::WindowMinimized},
-        {__LINE__, "WS_MINIMIZEBOX", Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
-        {__LINE__, "WS_MAXIMIZEBOX", Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
-        {__LINE__, "WS_MAXIMIZE|WS_ICONIC", none, Qt::WindowMinimized},
-        {__LINE__, "WS_THICKFRAME", Qt::Window, {}},
-        {__LINE__, "WS_SIZEBOX", Qt::Window, {}},
-        {__LINE__, "WS_DLGFRAME", Qt::Window, {}},
-        {__LINE__, "WS_CHILDWINDOW", Qt::SubWindow, {}},
-        {__LINE__, "WS_CHILD|WS_POPUP", none, {}},
-        {__LINE__, "WS_POPUP", Qt::FramelessWindowHint, {}},
-        {__LINE__, "WS_POPUP|WS_CAPTION", none, {}},
-        {__LINE__,
-         "WS_POPUPWINDOW",
-         Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint,
-         {}},
-        {__LINE__, "ws_popup", none, {}},
-        {__LINE__, "", none, {}},
+    const Row<const char*, Qt::WindowFlags, Qt::WindowStates> rows[] = {
+        {"WS_MAXIMIZE", none, Qt::WindowMaximized},
+        {"WS_ICONIC", none, Qt::WindowMinimized},
+        {"WS_MINIMIZEBOX", Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
+        {"WS_MAXIMIZEBOX", Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
+        {"WS_MAXIMIZE|WS_ICONIC", none, Qt::WindowMinimized},
+        {"WS_THICKFRAME", Qt::Window, {}},
+        {"WS_SIZEBOX", Qt::Window, {}},
+        {"WS_DLGFRAME", Qt::Window, {}},
+        {"WS_CHILDWINDOW", Qt::SubWindow, {}},
+        {"WS_CHILD|WS_POPUP", none, {}},
+        {"WS_POPUP", Qt::FramelessWindowHint, {}},
+        {"WS_POPUP|WS_CAPTION", none, {}},
+        {"WS_POPUPWINDOW", Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint, {}},
+        {"ws_popup", none, {}},
+        {"", none, {}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    forRows(rows, [&](const char* style, Qt::WindowFlags flags, Qt::WindowStates states) {
         // A child starts without flags of its own.
         QWidget parent;
         auto* const pChild = new QWidget(&parent);
         const Qt::WindowFlags before = pChild->windowFlags();
-        setStyle(*pChild, row.style);
+        setStyle(*pChild, style);
         setupStyle(pChild);
-        EXPECT_EQ(int(pChild->windowFlags()), int(before | row.flags));
-        EXPECT_EQ(int(pChild->windowState()), int(row.states));
-    }
+        EXPECT_EQ(int(pChild->windowFlags()), int(before | flags));
+        EXPECT_EQ(int(pChild->windowState()), int(states));
+    });
 }
 
 TEST(WindowStyle, StateOfTheWidget)
@@ -66,7 +50,7 @@ TEST(WindowStyle, StateOfTheWidget)
     setupStyle(pChild);
     EXPECT_FALSE(pChild->isEnabled());
     EXPECT_FALSE(pChild->isHidden());
-    EXPECT_EQ(pChild->styleSheet(), QStringLiteral("border: 1px solid black;"));
+    EXPECT_EQ(pChild->styleSheet(), "border: 1px solid black;"_q);
     EXPECT_EQ(pChild->windowModality(), Qt::ApplicationModal);
 }
 
@@ -85,8 +69,8 @@ TEST(WindowStyle, DirectChildrenOnly)
     EXPECT_TRUE(top.isEnabled());
     EXPECT_EQ(pGrandChild->styleSheet(), QString());
     setupStyle(nullptr);
-    setupDialogStyleData(nullptr, QStringLiteral("DS_CENTER"));
-    setupWindowStyleData(nullptr, QStringLiteral("WS_VISIBLE"));
+    setupDialogStyleData(nullptr, "DS_CENTER"_q);
+    setupWindowStyleData(nullptr, "WS_VISIBLE"_q);
 }
 
 TEST(WindowStyle, Centre)
@@ -95,7 +79,7 @@ TEST(WindowStyle, Centre)
     parent.setGeometry(100, 50, 301, 200);
     auto* const pChild = new QWidget(&parent);
     pChild->resize(51, 40);
-    setupDialogStyleData(pChild, QStringLiteral("DS_CENTER"));
+    setupDialogStyleData(pChild, "DS_CENTER"_q);
     // (100 + 400) / 2 - 51 / 2, (50 + 249) / 2 - 40 / 2, in the coordinates of the parent's own
     // place.
     EXPECT_EQ(pChild->pos(), QPoint(225, 129));
@@ -103,7 +87,7 @@ TEST(WindowStyle, Centre)
     QWidget alone;
     alone.resize(100, 80);
     alone.move(1, 1);
-    setupDialogStyleData(&alone, QStringLiteral("DS_CENTERMOUSE")); // holds DS_CENTER
+    setupDialogStyleData(&alone, "DS_CENTERMOUSE"_q); // holds DS_CENTER
     const QPoint middle = QGuiApplication::primaryScreen()->geometry().center();
     EXPECT_EQ(alone.pos(), middle - QPoint(50, 40));
 }

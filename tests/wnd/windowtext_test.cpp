@@ -1,13 +1,4 @@
-#include <VxMFCEmu/text/cstring.h>
-#include <VxMFCEmu/wnd/controlmessages.h>
-#include <VxMFCEmu/wnd/wincodes.h>
-#include <VxMFCEmu/wnd/windowtext.h>
-
-#include <QtWidgets/QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "support/test.h"
 
 namespace {
 
@@ -25,39 +16,33 @@ TEST(WindowText, WhatTheTextIs)
 {
     const auto pCombo = std::make_shared<QComboBox>();
     pCombo->setEditable(true);
-    struct
-    {
-        int line;
-        std::shared_ptr<QWidget> pWidget;
-        const char* property;
-    } const rows[] = {
-        {__LINE__, std::make_shared<QWidget>(), "windowTitle"},
-        {__LINE__, std::make_shared<QDialog>(), "windowTitle"},
-        {__LINE__, std::make_shared<QPushButton>(), "text"},
-        {__LINE__, std::make_shared<QLineEdit>(), "text"},
-        {__LINE__, std::make_shared<QLabel>(), "text"},
-        {__LINE__, std::make_shared<QGroupBox>(), "title"},
-        {__LINE__, std::make_shared<QTextEdit>(), "plainText"},
-        {__LINE__, std::make_shared<QPlainTextEdit>(), "plainText"},
-        {__LINE__, pCombo, "currentText"},
+    const Row<std::shared_ptr<QWidget>, const char*> rows[] = {
+        {std::make_shared<QWidget>(), "windowTitle"},
+        {std::make_shared<QDialog>(), "windowTitle"},
+        {std::make_shared<QPushButton>(), "text"},
+        {std::make_shared<QLineEdit>(), "text"},
+        {std::make_shared<QLabel>(), "text"},
+        {std::make_shared<QGroupBox>(), "title"},
+        {std::make_shared<QTextEdit>(), "plainText"},
+        {std::make_shared<QPlainTextEdit>(), "plainText"},
+        {pCombo, "currentText"},
     };
-    for (const auto& [line, pWidget, property] : rows) {
-        SCOPED_TRACE(line);
+    forRows(rows, [&](const std::shared_ptr<QWidget>& pWidget, const char* property) {
         EXPECT_TRUE(SetWindowText_E(pWidget.get(), L"<b>&x\x1F600"));
-        EXPECT_EQ(pWidget->property(property), QString::fromUtf8("<b>&x\xF0\x9F\x98\x80"));
+        EXPECT_EQ(pWidget->property(property), "<b>&x\U0001F600"_q);
         EXPECT_EQ(GetWindowTextLength_E(pWidget.get()), 6);
         CString_E strText;
         EXPECT_EQ(GetWindowText_E(pWidget.get(), strText), 6);
         EXPECT_EQ(strText.Compare(L"<b>&x\x1F600"), 0);
         EXPECT_TRUE(SetWindowText_E(pWidget.get(), nullptr));
         EXPECT_EQ(GetWindowTextLength_E(pWidget.get()), 0);
-    }
+    });
 }
 
 TEST(WindowText, FixedComboAndSpinBox)
 {
     QComboBox combo;
-    combo.addItems({QStringLiteral("one"), QStringLiteral("two")});
+    combo.addItems({"one"_q, "two"_q});
     EXPECT_FALSE(SetWindowText_E(&combo, L"two"));
     EXPECT_EQ(GetWindowTextLength_E(&combo), 3);
     EXPECT_EQ(combo.currentIndex(), 0);
@@ -69,20 +54,15 @@ TEST(WindowText, FixedComboAndSpinBox)
 TEST(WindowText, Buffers)
 {
     QWidget widget;
-    widget.setWindowTitle(QStringLiteral("abcdef"));
-    struct
-    {
-        int line, room, length;
-        const wchar_t* text;
-    } const rows[] = {
-        {__LINE__, 10, 6, L"abcdef"}, {__LINE__, 7, 6, L"abcdef"}, {__LINE__, 6, 5, L"abcde"},
-        {__LINE__, 1, 0, L""},        {__LINE__, 0, 0, L"#"},      {__LINE__, -1, 0, L"#"},
+    widget.setWindowTitle("abcdef"_q);
+    const Row<int, int, const wchar_t*> rows[] = {
+        {10, 6, L"abcdef"}, {7, 6, L"abcdef"}, {6, 5, L"abcde"},
+        {1, 0, L""},        {0, 0, L"#"},      {-1, 0, L"#"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    for (const auto& [room, length, text] : rows) {
         wchar_t buffer[10] = L"#";
-        EXPECT_EQ(GetWindowText_E(&widget, buffer, row.room), row.length);
-        EXPECT_STREQ(buffer, row.text);
+        EXPECT_EQ(GetWindowText_E(&widget, buffer, room), length);
+        EXPECT_STREQ(buffer, text) << room;
     }
     CString_E strText(L"old");
     EXPECT_EQ(GetWindowText_E(nullptr, strText), 0);
@@ -95,36 +75,27 @@ TEST(DialogItems, Numbers)
 {
     QWidget dialog;
     auto* const pEdit = named<QLineEdit>(&dialog, "m_edit");
-    struct
-    {
-        int line;
-        const wchar_t* text;
-        BOOL isSigned;
-        UINT value;
-        BOOL translated;
-    } const rows[] = {
-        {__LINE__, L"12", TRUE, 12, TRUE},
-        {__LINE__, L" \t-12 mm", TRUE, static_cast<UINT>(-12), TRUE},
-        {__LINE__, L"-12", FALSE, 0, FALSE},
-        {__LINE__, L"4294967295", FALSE, 4294967295U, TRUE},
-        {__LINE__, L"4294967296", FALSE, 0, FALSE},
-        {__LINE__, L"2147483648", TRUE, 0, FALSE},
-        {__LINE__, L"-2147483648", TRUE, 0x80000000U, TRUE},
-        {__LINE__, L"99999999999999999999999", TRUE, 0, FALSE},
-        {__LINE__, L"", TRUE, 0, FALSE},
-        {__LINE__, L"-", TRUE, 0, FALSE},
-        {__LINE__, L"x1", TRUE, 0, FALSE},
-        {__LINE__, L"0", TRUE, 0, TRUE},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_TRUE(SetDlgItemText_E(&dialog, 1001, row.text));
+    const Row<const wchar_t*, BOOL, UINT, BOOL> rows[] = {
+        {L"12", TRUE, 12, TRUE},
+        {L" \t-12 mm", TRUE, static_cast<UINT>(-12), TRUE},
+        {L"-12", FALSE, 0, FALSE},
+        {L"4294967295", FALSE, 4294967295U, TRUE},
+        {L"4294967296", FALSE, 0, FALSE},
+        {L"2147483648", TRUE, 0, FALSE},
+        {L"-2147483648", TRUE, 0x80000000U, TRUE},
+        {L"99999999999999999999999", TRUE, 0, FALSE},
+        {L"", TRUE, 0, FALSE},
+        {L"-", TRUE, 0, FALSE},
+        {L"x1", TRUE, 0, FALSE},
+        {L"0", TRUE, 0, TRUE}};
+    forRows(rows, [&](const wchar_t* text, BOOL isSigned, UINT value, BOOL isNumber) {
+        EXPECT_TRUE(SetDlgItemText_E(&dialog, 1001, text));
         BOOL translated = 2;
-        EXPECT_EQ(GetDlgItemInt_E(&dialog, 1001, &translated, row.isSigned), row.value);
-        EXPECT_EQ(translated, row.translated);
-    }
+        EXPECT_EQ(GetDlgItemInt_E(&dialog, 1001, &translated, isSigned), value);
+        EXPECT_EQ(translated, isNumber);
+    });
     EXPECT_TRUE(SetDlgItemInt_E(&dialog, 1001, static_cast<UINT>(-7)));
-    EXPECT_EQ(pEdit->text(), QStringLiteral("-7"));
+    EXPECT_EQ(pEdit->text(), "-7"_q);
     EXPECT_TRUE(SetDlgItemInt_E(&dialog, 1001, static_cast<UINT>(-7), FALSE));
     wchar_t buffer[6];
     EXPECT_EQ(GetDlgItemText_E(&dialog, 1001, buffer, 6), 5);
@@ -144,26 +115,20 @@ TEST(DialogItems, Checks)
     pThree->setTristate(true);
     int clicks = 0;
     QObject::connect(pCheck, &QCheckBox::clicked, [&clicks] { ++clicks; });
-    struct
-    {
-        int line, id;
-        UINT check, checked;
-        BOOL done;
-    } const rows[] = {
-        {__LINE__, 1003, BST_CHECKED, BST_CHECKED, TRUE},
-        {__LINE__, 1003, BST_UNCHECKED, BST_UNCHECKED, TRUE},
-        {__LINE__, 1003, BST_INDETERMINATE, BST_CHECKED, TRUE},
-        {__LINE__, 1004, BST_INDETERMINATE, BST_INDETERMINATE, TRUE},
-        {__LINE__, 1004, BST_CHECKED, BST_CHECKED, TRUE},
-        {__LINE__, 1004, BST_UNCHECKED, BST_UNCHECKED, TRUE},
-        {__LINE__, 1001, BST_CHECKED, BST_UNCHECKED, FALSE}, // no button
-        {__LINE__, 77, BST_CHECKED, BST_UNCHECKED, FALSE},
+    const Row<int, UINT, UINT, BOOL> rows[] = {
+        {1003, BST_CHECKED, BST_CHECKED, TRUE},
+        {1003, BST_UNCHECKED, BST_UNCHECKED, TRUE},
+        {1003, BST_INDETERMINATE, BST_CHECKED, TRUE},
+        {1004, BST_INDETERMINATE, BST_INDETERMINATE, TRUE},
+        {1004, BST_CHECKED, BST_CHECKED, TRUE},
+        {1004, BST_UNCHECKED, BST_UNCHECKED, TRUE},
+        {1001, BST_CHECKED, BST_UNCHECKED, FALSE}, // no button
+        {77, BST_CHECKED, BST_UNCHECKED, FALSE},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(CheckDlgButton_E(&dialog, row.id, row.check), row.done);
-        EXPECT_EQ(IsDlgButtonChecked_E(&dialog, row.id), row.checked);
-    }
+    forRows(rows, [&](int id, UINT check, UINT checked, BOOL done) {
+        EXPECT_EQ(CheckDlgButton_E(&dialog, id, check), done);
+        EXPECT_EQ(IsDlgButtonChecked_E(&dialog, id), checked);
+    });
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(IsDlgButtonChecked_E(nullptr, 1003), UINT{BST_UNCHECKED});
 }
@@ -181,11 +146,11 @@ TEST(DialogItems, RadioButtons)
         return which;
     };
     EXPECT_TRUE(CheckRadioButton_E(&dialog, 1010, 1012, 1011));
-    EXPECT_EQ(checked(), QStringLiteral("010"));
+    EXPECT_EQ(checked(), "010"_q);
     EXPECT_TRUE(CheckRadioButton_E(&dialog, 0, -1, 1012));
-    EXPECT_EQ(checked(), QStringLiteral("001"));
+    EXPECT_EQ(checked(), "001"_q);
     EXPECT_TRUE(CheckDlgButton_E(&dialog, 1012, BST_UNCHECKED));
-    EXPECT_EQ(checked(), QStringLiteral("000"));
+    EXPECT_EQ(checked(), "000"_q);
     EXPECT_TRUE(buttons[2]->autoExclusive());
     EXPECT_FALSE(CheckRadioButton_E(nullptr, 1010, 1012, 1011));
 }
@@ -194,8 +159,8 @@ TEST(Controls, TextLimit)
 {
     QLineEdit edit;
     EXPECT_TRUE(SetEditLimitText_E(&edit, 3));
-    edit.insert(QStringLiteral("abcdef"));
-    EXPECT_EQ(edit.text(), QStringLiteral("abc"));
+    edit.insert("abcdef"_q);
+    EXPECT_EQ(edit.text(), "abc"_q);
     EXPECT_TRUE(SetEditLimitText_E(&edit, 0));
     edit.setText(QString(40000, QLatin1Char('x')));
     EXPECT_EQ(edit.text().size(), 40000);
@@ -212,30 +177,24 @@ TEST(Controls, ScrollBars)
     QScrollArea area;
     QWidget plain;
     auto* const pBar = new QScrollBar(Qt::Vertical, &plain);
-    struct
-    {
-        int line;
-        HWND window;
-        UINT bars, arrows;
-        BOOL changed;
-        bool horizontal, vertical, own; // enabled afterwards
-    } const rows[] = {
-        {__LINE__, &area, SB_HORZ, ESB_DISABLE_BOTH, TRUE, false, true, true},
-        {__LINE__, &area, SB_HORZ, ESB_DISABLE_BOTH, FALSE, false, true, true},
-        {__LINE__, &area, SB_VERT, ESB_DISABLE_LTUP, FALSE, false, true, true},
-        {__LINE__, &area, SB_BOTH, ESB_DISABLE_BOTH, TRUE, false, false, true},
-        {__LINE__, &area, SB_BOTH, ESB_ENABLE_BOTH, TRUE, true, true, true},
-        {__LINE__, &area, SB_CTL, ESB_DISABLE_BOTH, FALSE, true, true, true},
-        {__LINE__, &plain, SB_HORZ, ESB_DISABLE_BOTH, FALSE, true, true, true},
-        {__LINE__, &plain, SB_BOTH, ESB_DISABLE_BOTH, TRUE, true, true, false},
-        {__LINE__, pBar, SB_CTL, ESB_ENABLE_BOTH, TRUE, true, true, true},
-        {__LINE__, nullptr, SB_BOTH, ESB_DISABLE_BOTH, FALSE, true, true, true},
+    // the last three: whether the bars of the area and the plain widget's own are enabled then
+    const Row<HWND, UINT, UINT, BOOL, bool, bool, bool> rows[] = {
+        {&area, SB_HORZ, ESB_DISABLE_BOTH, TRUE, false, true, true},
+        {&area, SB_HORZ, ESB_DISABLE_BOTH, FALSE, false, true, true},
+        {&area, SB_VERT, ESB_DISABLE_LTUP, FALSE, false, true, true},
+        {&area, SB_BOTH, ESB_DISABLE_BOTH, TRUE, false, false, true},
+        {&area, SB_BOTH, ESB_ENABLE_BOTH, TRUE, true, true, true},
+        {&area, SB_CTL, ESB_DISABLE_BOTH, FALSE, true, true, true},
+        {&plain, SB_HORZ, ESB_DISABLE_BOTH, FALSE, true, true, true},
+        {&plain, SB_BOTH, ESB_DISABLE_BOTH, TRUE, true, true, false},
+        {pBar, SB_CTL, ESB_ENABLE_BOTH, TRUE, true, true, true},
+        {nullptr, SB_BOTH, ESB_DISABLE_BOTH, FALSE, true, true, true},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(EnableScrollBar_E(row.window, row.bars, row.arrows), row.changed);
-        EXPECT_EQ(area.horizontalScrollBar()->isEnabled(), row.horizontal);
-        EXPECT_EQ(area.verticalScrollBar()->isEnabled(), row.vertical);
-        EXPECT_EQ(pBar->isEnabled(), row.own);
-    }
+    forRows(rows, [&](HWND window, UINT bars, UINT arrows, BOOL changed, bool horizontal,
+                      bool vertical, bool own) {
+        EXPECT_EQ(EnableScrollBar_E(window, bars, arrows), changed);
+        EXPECT_EQ(area.horizontalScrollBar()->isEnabled(), horizontal);
+        EXPECT_EQ(area.verticalScrollBar()->isEnabled(), vertical);
+        EXPECT_EQ(pBar->isEnabled(), own);
+    });
 }
