@@ -6,7 +6,8 @@ namespace {
 class TickingWnd : public CWnd_E
 {
 public:
-    explicit TickingWnd(std::function<void(TickingWnd&, UINT_PTR)> onTick) : m_onTick(std::move(onTick))
+    explicit TickingWnd(std::function<void(TickingWnd&, UINT_PTR)> onTick)
+        : m_onTick(std::move(onTick))
     {
         SubclassWindow(new QWidget);
     }
@@ -80,12 +81,14 @@ TEST_F(TimerTest, WhatATickMayDo)
         {"kill", [](TickingWnd& w, UINT_PTR id) { w.KillTimer(id); }},
         {"delete the widget", [](TickingWnd& w, UINT_PTR) { delete w.GetSafeHwnd(); }},
         {"destroy", [](TickingWnd& w, UINT_PTR) { w.DestroyWindow(); }},
-        {"delete the timer", [](TickingWnd& w, UINT_PTR) { delete w.GetSafeHwnd()->findChild<QTimer*>(); }},
+        {"delete the timer",
+         [](TickingWnd& w, UINT_PTR) { delete w.GetSafeHwnd()->findChild<QTimer*>(); }},
     };
     for (const auto& [name, act] : rows) {
         SCOPED_TRACE(name);
         int count = 0;
-        TickingWnd ticking([&count, act = act](TickingWnd& w, UINT_PTR id) { ++count, act(w, id); });
+        TickingWnd ticking(
+            [&count, act = act](TickingWnd& w, UINT_PTR id) { ++count, act(w, id); });
         const QPointer<QWidget> guard = ticking.GetSafeHwnd();
         ticking.SetTimer(5, 1);
         EXPECT_TRUE(vxtest::waitUntil([&] { return count > 0; }));
@@ -107,7 +110,8 @@ TEST_F(TimerTest, AThousandAtOnce)
 {
     for (UINT_PTR id = 1; id <= 1000; ++id)
         wnd.SetTimer(id, 1);
-    EXPECT_TRUE(vxtest::waitUntil([this] { return std::set<UINT_PTR>(ticks.begin(), ticks.end()).size() == 1000; }));
+    EXPECT_TRUE(vxtest::waitUntil(
+        [this] { return std::set<UINT_PTR>(ticks.begin(), ticks.end()).size() == 1000; }));
     delete widget;
     EXPECT_FALSE(KillTimer_E(nullptr, 500));
 }
@@ -116,7 +120,9 @@ std::tuple<QWidget*, UINT, UINT_PTR, DWORD> g_call;
 
 TEST_F(TimerTest, CallsAProcedureInstead)
 {
-    const auto proc = [](QWidget* w, UINT message, UINT_PTR id, DWORD time) { g_call = {w, message, id, time}; };
+    const auto proc = [](QWidget* w, UINT message, UINT_PTR id, DWORD time) {
+        g_call = {w, message, id, time};
+    };
     SetTimer_E(widget, 9, 1, proc);
     EXPECT_TRUE(vxtest::waitUntil([] { return std::get<2>(g_call) == 9; }));
     KillTimer_E(nullptr, 9);
@@ -137,7 +143,8 @@ TEST(CmdUITest, SetsActionsAndButtons)
     action.setCheckable(true);
     button.setCheckable(true);
     QObject neither;
-    for (QObject* object : {static_cast<QObject*>(&action), static_cast<QObject*>(&button), &neither, static_cast<QObject*>(nullptr)}) {
+    for (QObject* object : {static_cast<QObject*>(&action), static_cast<QObject*>(&button),
+                            &neither, static_cast<QObject*>(nullptr)}) {
         CCmdUI_E ui(object);
         // Intended: only 1 enables and checks.
         for (const int value : {1, 0, 1, 2}) {
