@@ -14,7 +14,7 @@ namespace {
 // What only looks as if it were terminated is found by the address sanitizer.
 using Buffer = std::vector<wchar_t>;
 
-CString_E wide(const std::string& text) { return CString_E(QString::fromStdString(text)); }
+CString_E wide(const std::string& text) { return CString_E(QString::fromUtf8(text.c_str())); }
 
 struct Fuzzed
 {

@@ -3,6 +3,7 @@
 #include <VxMFCEmu/text/vxqstring.h>
 
 #include <QtCore/QSettings>
+#include <QtCore/QStringBuilder>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -29,7 +30,7 @@ public:
 
 QString keyPath(LPCWSTR lpSection, const QString& key)
 {
-    return VxQString(lpSection) + QLatin1Char('/') + key;
+    return QString(VxQString(lpSection)) % QLatin1Char('/') % key;
 }
 
 QString keyPath(LPCWSTR lpSection, LPCWSTR lpKey) { return keyPath(lpSection, VxQString(lpKey)); }
@@ -88,7 +89,7 @@ DWORD GetPrivateProfileSection_E(LPCWSTR lpSection, LPWSTR lpBuffer, DWORD nSize
     for (const QString& key : keys) {
         nPosition +=
             putText(lpBuffer, nPosition,
-                    key + QLatin1Char('=') + file.value(key).toString() + QLatin1Char('\r'));
+                    key % QLatin1Char('=') % file.value(key).toString() % QLatin1Char('\r'));
         if (nPosition > nSize)
             return nSize - 2; // Intended: without regard to what has been written
     }

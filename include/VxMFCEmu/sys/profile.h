@@ -31,8 +31,8 @@ VXMFC_EXPORT DWORD GetPrivateProfileString_E(LPCWSTR lpSection, LPCWSTR lpKey, L
                                              LPWSTR lpBuffer, DWORD nSize, LPCWSTR lpFileName);
 
 /// The value of a key as a decimal number, @p nDefault when there is no such key. Differs from
-/// Win32: a value that is not a number as a whole, or too large, gives 0; negative ones stay
-/// negative.
+/// Win32: a value that is not such a number as a whole gives 0; of one with more than 32 bits the
+/// lower ones are taken, negative ones stay negative.
 VXMFC_EXPORT INT GetPrivateProfileInt_E(LPCWSTR lpSection, LPCWSTR lpKey, INT nDefault,
                                         LPCWSTR lpFileName);
 
@@ -62,7 +62,7 @@ VXMFC_EXPORT BOOL GetPrivateProfileStruct_E(LPCWSTR lpSection, LPCWSTR lpKey, LP
 
 /// Sets a key. FALSE, with the reason as last error, when the file does not exist or its name has
 /// 1024 bytes or no form in the present locale's encoding. Differs from Win32: TRUE also when the
-/// file could not be written.
+/// file could not be written; this process may go on to read the new value then.
 VXMFC_EXPORT BOOL WritePrivateProfileString_E(LPCWSTR lpSection, LPCWSTR lpKey, LPCWSTR lpValue,
                                               LPCWSTR lpFileName);
 
