@@ -18,8 +18,8 @@ struct ResourceIds
 
 void load(const QString& strResource, ResourceIds& ids)
 {
-    ids.names = vx::detail::readIdTable(QStringLiteral(":/%1/%1IDs").arg(strResource),
-                                        QStringLiteral(","));
+    ids.names =
+        vx::detail::readIdTable(QStringLiteral(":/%1/%1IDs").arg(strResource), QStringLiteral(","));
     for (auto it = ids.names.cbegin(); it != ids.names.cend(); ++it) {
         if (!ids.ids.contains(it.value()))
             ids.ids.insert(it.value(), it.key());
