@@ -12,11 +12,11 @@
 /// - Sections and keys are case-sensitive.
 /// - Lines of a section are separated by a carriage return each, not by zeros.
 /// - The syntax is that of `QSettings`. The keys before the first section and those of [General]
-/// are
-///   in the section with the empty name, and the name "General" is that of a section [%General]. A
-///   backslash or "/" inside a name leads to a section within a section, other characters than
+///   are in the section with the empty name; the name "General" is that of a section [%General]. A
+///   backslash or "/" inside a name leads to a section within a section; other characters than
 ///   letters, digits and "_-." are written as "%XX" or "%UXXXX". A value with a comma stands in
-///   double quotes, or it is a list; a backslash starts an escape sequence; ";" starts a comment.
+///   double quotes, or it is a list; a backslash starts an escape sequence, ";" a comment; a "@"
+///   that begins a text is doubled.
 ///
 /// Threads: any; each call has settings of its own.
 #pragma once
