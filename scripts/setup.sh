@@ -2,6 +2,7 @@
 # Installs the Debian packages that are missing; says and does nothing where all are there.
 #   scripts/setup.sh           what building, testing and measuring need
 #   scripts/setup.sh --lint    what scripts/lint.sh needs as well
+#   scripts/setup.sh --fuzz    what scripts/fuzz.sh needs as well
 set -euo pipefail
 
 packages=(
@@ -16,6 +17,7 @@ packages=(
   libqt5gui5
   libx11-dev
   libxtst-dev
+  locales
   ninja-build
   pkg-config
   python3
@@ -29,12 +31,17 @@ lint_packages=(
   clang-format
   clang-tidy
 )
+fuzz_packages=(
+  clang
+  libclang-rt-dev
+)
 
 case "${1-}" in
   '') ;;
   --lint) packages+=("${lint_packages[@]}") ;;
+  --fuzz) packages+=("${fuzz_packages[@]}") ;;
   *)
-    echo "usage: scripts/setup.sh [--lint]" >&2
+    echo "usage: scripts/setup.sh [--lint | --fuzz]" >&2
     exit 2
     ;;
 esac

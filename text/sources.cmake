@@ -11,6 +11,7 @@ vxmfc_sources(FOLDER text
     vxformatnumber.cpp
     vxformat.cpp
     vxresourcename.cpp
+    vxidtable.cpp
     vxstringtable.cpp
     vxqstring.cpp
     vxconversions.cpp

@@ -1,34 +1,21 @@
 #include "text/vxstringtable_p.h"
 
+#include "text/vxidtable_p.h"
+
 #include <VxMFCEmu/text/resourcename.h>
 
 #include <QtCore/QHash>
-#include <QtCore/QSettings>
-#include <QtCore/QStringList>
 
 #include <mutex>
 
 namespace vx::detail {
 namespace {
 
-using StringTable = QHash<UINT, QString>;
+using StringTable = QMap<UINT, QString>;
 
 StringTable readTable(const QString& strName)
 {
-    QSettings file(QLatin1String(":/") + strName + QLatin1Char('/') + strName +
-                       QLatin1String("Strings"),
-                   QSettings::IniFormat);
-    file.setIniCodec("UTF-8");
-    StringTable table;
-    const QStringList keys = file.allKeys();
-    for (const QString& key : keys) {
-        bool isId = false;
-        const UINT id = key.toUInt(&isId);
-        // A text with commas that is not quoted reads as a list.
-        if (isId)
-            table.insert(id, file.value(key).toStringList().join(QLatin1String(", ")));
-    }
-    return table;
+    return readIdTable(QStringLiteral(":/%1/%1Strings").arg(strName), QStringLiteral(", "));
 }
 
 struct Tables

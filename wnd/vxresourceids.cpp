@@ -1,11 +1,10 @@
 #include <VxMFCEmu/wnd/resourceids.h>
 
+#include "text/vxidtable_p.h"
+
 #include <VxMFCEmu/text/resourcename.h>
 
-#include <QtCore/QFile>
 #include <QtCore/QHash>
-#include <QtCore/QSettings>
-#include <QtCore/QStringList>
 
 #include <map>
 
@@ -19,19 +18,8 @@ struct ResourceIds
 
 void load(const QString& strResource, ResourceIds& ids)
 {
-    const QString strPath = QStringLiteral(":/%1/%1IDs").arg(strResource);
-    if (!QFile::exists(strPath))
-        return;
-    QSettings settings(strPath, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    const QStringList keys = settings.allKeys();
-    for (const QString& strKey : keys) {
-        bool isNumber = false;
-        const UINT nID = strKey.toUInt(&isNumber);
-        // A value with a comma arrives as a list.
-        if (isNumber)
-            ids.names.insert(nID, settings.value(strKey).toStringList().join(QLatin1Char(',')));
-    }
+    ids.names =
+        vx::detail::readIdTable(QStringLiteral(":/%1/%1IDs").arg(strResource), QStringLiteral(","));
     for (auto it = ids.names.cbegin(); it != ids.names.cend(); ++it) {
         if (!ids.ids.contains(it.value()))
             ids.ids.insert(it.value(), it.key());

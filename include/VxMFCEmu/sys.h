@@ -4,4 +4,5 @@
 
 #include <VxMFCEmu/sys/criticalsection.h>
 #include <VxMFCEmu/sys/memory.h>
+#include <VxMFCEmu/sys/profile.h>
 #include <VxMFCEmu/sys/tls.h>

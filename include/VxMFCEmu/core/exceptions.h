@@ -85,7 +85,7 @@ private:
     mutable BOOL m_bInitialized = FALSE;
     mutable BOOL m_bLoaded = FALSE;
     mutable wchar_t m_szMessage[128] = {};
-    UINT m_nResourceID = 0;
+    [[maybe_unused]] UINT m_nResourceID = 0;
 };
 
 class VXMFC_EXPORT CMemoryException_E : public CSimpleException_E

@@ -72,7 +72,7 @@ private:
     ObjectFn m_pfnDestructObject;
     CMapPtrToPtr_E m_permanentMap;
     CMapPtrToPtr_E m_temporaryMap;
-    CRuntimeClass_E* m_pClass;
+    [[maybe_unused]] CRuntimeClass_E* m_pClass;
     std::size_t m_nOffset;
     int m_nHandles;
 };

@@ -39,8 +39,8 @@ public:
 
 private:
     QPainter m_painter;
-    int m_x = 0;
-    int m_y = 0;
+    [[maybe_unused]] int m_x = 0;
+    [[maybe_unused]] int m_y = 0;
 
 public:
     HDC m_hDC = nullptr;
