@@ -7,7 +7,10 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
 #include <mutex>
+#include <string>
+#include <type_traits>
 #include <unordered_set>
 
 // Intended: the names as they stand when the library is loaded, later ones do not count.
@@ -111,7 +114,7 @@ bool openBelowRoot(HKEY hKey, LPCSTR pSubKey, PHKEY phkResult)
     if (path.isEmpty() || !phkResult)
         return false;
     if (pSubKey && *pSubKey)
-        path = registryPath(path, QString::fromUtf8(pSubKey));
+        path = registryPath(path, pSubKey);
     *phkResult = g_openKeys.Open(path);
     return true;
 }
@@ -119,6 +122,23 @@ bool openBelowRoot(HKEY hKey, LPCSTR pSubKey, PHKEY phkResult)
 LONG openRoot(HKEY hRoot, PHKEY phkResult)
 {
     return openBelowRoot(hRoot, nullptr, phkResult) ? ERROR_SUCCESS : ERROR_INVALID_PARAMETER;
+}
+
+// Most names: in one go. Empty when the name is not all ASCII.
+template <typename Char>
+QString asciiPath(const QString& path, const Char* pName)
+{
+    const std::size_t length = pName ? std::char_traits<Char>::length(pName) : 0;
+    QString result(path.size() + 1 + static_cast<int>(length), Qt::Uninitialized);
+    QChar* pOut = std::copy(path.cbegin(), path.cend(), result.begin());
+    *pOut++ = QLatin1Char('/');
+    for (std::size_t i = 0; i < length; ++i) {
+        const auto code = static_cast<std::make_unsigned_t<Char>>(pName[i]);
+        if (code >= 0x80)
+            return {};
+        *pOut++ = QLatin1Char(code == '\\' ? '/' : static_cast<char>(code));
+    }
+    return result;
 }
 
 std::string narrowName(LPCWSTR pName) { return pName ? _W2A(pName) : std::string(); }
@@ -141,7 +161,23 @@ QString registryPath(const QString& path, QString name)
     return result.append(path).append(QLatin1Char('/')).append(name);
 }
 
-QString registryName(LPCWSTR pName) { return pName ? wideToQString(pName) : QString(); }
+QString registryPath(const QString& path, LPCWSTR pName)
+{
+    QString result = asciiPath(path, pName);
+    return result.isEmpty() ? registryPath(path, wideToQString(pName)) : result;
+}
+
+QString registryPath(const QString& path, LPCSTR pName)
+{
+    QString result = asciiPath(path, pName);
+    return result.isEmpty() ? registryPath(path, QString::fromUtf8(pName)) : result;
+}
+
+QString narrowRegistryPath(const QString& path, LPCWSTR pName)
+{
+    QString result = asciiPath(path, pName); // every locale leaves ASCII as it is
+    return result.isEmpty() ? registryPath(path, _W2A(pName).c_str()) : result;
+}
 
 void storeInRegistry(const QString& key, const QVariant& value)
 {

@@ -14,10 +14,13 @@ QString registryPath(HKEY hKey);
 /// Makes an open key go by another path.
 void setRegistryPath(HKEY hKey, const QString& path);
 
-/// Path and sub-key or value name in one, with "/" for each backslash of @p name.
+/// Path and sub-key or value name in one, with "/" for each backslash of the name. Null is empty.
 QString registryPath(const QString& path, QString name);
-/// An empty name for null.
-QString registryName(LPCWSTR pName);
+QString registryPath(const QString& path, LPCWSTR pName);
+/// The same of a name in UTF-8.
+QString registryPath(const QString& path, LPCSTR pName);
+/// The same of a name that is to pass through the narrow form in locale "chs".
+QString narrowRegistryPath(const QString& path, LPCWSTR pName);
 
 /// What `QSettings::allKeys()` lists in the group @p path.
 QStringList registryListing(const QString& path);

@@ -21,7 +21,7 @@ LONG removeBelow(HKEY hKey, LPCWSTR pSubKey)
     const QString path = registryPath(hKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;
-    removeFromRegistry(registryPath(path, registryName(pSubKey)));
+    removeFromRegistry(registryPath(path, pSubKey));
     return ERROR_SUCCESS;
 }
 
@@ -52,7 +52,7 @@ LONG renameOpenKey(HKEY hKey, const QString& path, LPCWSTR pNewName)
     const int separator = from.lastIndexOf(QLatin1Char('/'));
     if (separator < 0)
         return ERROR_ACCESS_DENIED;
-    const QString to = registryPath(from.left(separator), registryName(pNewName));
+    const QString to = registryPath(from.left(separator), pNewName);
     if (!move(from, to))
         return ERROR_FILE_NOT_FOUND;
     setRegistryPath(hKey, to);
@@ -84,8 +84,7 @@ LONG RegRenameKey_E(HKEY hKey, LPCWSTR pSubKeyName, LPCWSTR pNewKeyName)
         return ERROR_INVALID_PARAMETER;
     if (!pSubKeyName)
         return renameOpenKey(hKey, path, pNewKeyName);
-    const bool isMoved = move(registryPath(path, registryName(pSubKeyName)),
-                              registryPath(path, registryName(pNewKeyName)));
+    const bool isMoved = move(registryPath(path, pSubKeyName), registryPath(path, pNewKeyName));
     return isMoved ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
 }
 
@@ -95,7 +94,7 @@ LONG RegCopyTree_E(HKEY hKeySrc, LPCWSTR pSubKey, HKEY hKeyDest)
     const QString target = registryPath(hKeyDest);
     if (path.isEmpty() || target.isEmpty())
         return ERROR_INVALID_HANDLE;
-    const QString source = registryPath(path, registryName(pSubKey));
+    const QString source = registryPath(path, pSubKey);
     g_appRegistry.beginGroup(source);
     const QStringList names = g_appRegistry.childKeys(); // Intended: no keys below
     g_appRegistry.endGroup();

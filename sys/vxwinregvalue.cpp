@@ -24,7 +24,7 @@ void give(Output* pOutput, Value value)
         *pOutput = static_cast<Output>(value);
 }
 
-QString defaultName() { return QStringLiteral("Default"); }
+constexpr wchar_t kDefaultName[] = L"Default";
 
 QString narrowText(const BYTE* pText)
 {
@@ -60,7 +60,8 @@ QVariant toStore(DWORD dwType, const BYTE* pData, QString (*textAt)(const BYTE*)
     }
 }
 
-LONG setValue(HKEY hKey, const QString& name, DWORD dwType, const BYTE* pData,
+template <typename Char>
+LONG setValue(HKEY hKey, const Char* pName, DWORD dwType, const BYTE* pData,
               QString (*textAt)(const BYTE*))
 {
     const QString path = registryPath(hKey);
@@ -68,7 +69,8 @@ LONG setValue(HKEY hKey, const QString& name, DWORD dwType, const BYTE* pData,
         return ERROR_INVALID_HANDLE;
     const QVariant value = toStore(dwType, pData, textAt);
     if (value.isValid()) // Intended: the other types are no error
-        storeInRegistry(registryPath(path, name), value);
+        storeInRegistry(pName ? registryPath(path, pName) : registryPath(path, kDefaultName),
+                        value);
     return ERROR_SUCCESS;
 }
 
@@ -113,6 +115,17 @@ void giveValue(const Output& output, const QVariant& value)
     }
 }
 
+template <typename Char, typename MakePath>
+LONG queryValue(HKEY hKey, const Char* pName, const Output& output, MakePath makePath)
+{
+    const QString path = registryPath(hKey);
+    if (path.isEmpty())
+        return ERROR_INVALID_HANDLE;
+    giveValue(output, g_appRegistry.value(pName ? makePath(path, pName)
+                                                : registryPath(path, kDefaultName)));
+    return ERROR_SUCCESS;
+}
+
 // The data as RegQueryValueExA_E() gives them, and a terminator in any case.
 std::vector<BYTE> dataOf(HKEY hKey, LPCSTR pName, LONG& result)
 {
@@ -130,15 +143,13 @@ std::vector<BYTE> dataOf(HKEY hKey, LPCSTR pName, LONG& result)
 LONG RegSetValueExA_E(HKEY hKey, LPCSTR pValueName, DWORD /*dwReserved*/, DWORD dwType,
                       const BYTE* pData, DWORD /*cbData*/)
 {
-    return setValue(hKey, pValueName ? QString::fromUtf8(pValueName) : defaultName(), dwType, pData,
-                    narrowText);
+    return setValue(hKey, pValueName, dwType, pData, narrowText);
 }
 
 LONG RegSetValueExW_E(HKEY hKey, LPCWSTR pValueName, DWORD /*dwReserved*/, DWORD dwType,
                       const BYTE* pData, DWORD /*cbData*/)
 {
-    return setValue(hKey, pValueName ? wideToQString(pValueName) : defaultName(), dwType, pData,
-                    wideText);
+    return setValue(hKey, pValueName, dwType, pData, wideText);
 }
 
 LONG RegSetValue_E(HKEY hKey, LPCWSTR pSubKey, DWORD dwType, LPCWSTR pData, DWORD cbData)
@@ -155,20 +166,14 @@ LONG RegSetKeyValue_E(HKEY hKey, LPCWSTR /*pSubKey*/, LPCWSTR pValueName, DWORD 
 LONG RegQueryValueExA_E(HKEY hKey, LPCSTR pValueName, LPDWORD /*pReserved*/, LPDWORD pdwType,
                         BYTE* pData, LPDWORD pcbData)
 {
-    const QString path = registryPath(hKey);
-    if (path.isEmpty())
-        return ERROR_INVALID_HANDLE;
-    const QString name = pValueName ? QString::fromUtf8(pValueName) : defaultName();
-    giveValue({pdwType, pData, pcbData}, g_appRegistry.value(registryPath(path, name)));
-    return ERROR_SUCCESS;
+    return queryValue(hKey, pValueName, {pdwType, pData, pcbData},
+                      [](const QString& path, LPCSTR pName) { return registryPath(path, pName); });
 }
 
-LONG RegQueryValueExW_E(HKEY hKey, LPCWSTR pValueName, LPDWORD pReserved, LPDWORD pdwType,
+LONG RegQueryValueExW_E(HKEY hKey, LPCWSTR pValueName, LPDWORD /*pReserved*/, LPDWORD pdwType,
                         BYTE* pData, LPDWORD pcbData)
 {
-    if (!pValueName)
-        return RegQueryValueExA_E(hKey, nullptr, pReserved, pdwType, pData, pcbData);
-    return RegQueryValueExA_E(hKey, _W2A(pValueName).c_str(), pReserved, pdwType, pData, pcbData);
+    return queryValue(hKey, pValueName, {pdwType, pData, pcbData}, narrowRegistryPath);
 }
 
 LONG RegGetValue_E(HKEY hKey, LPCWSTR pSubKey, LPCWSTR /*pValue*/, DWORD /*dwFlags*/,

@@ -77,24 +77,19 @@ private:
     locale_t m_previous = nullptr;
 };
 
-// Both directions: most texts fit into a buffer on the stack and are converted once. @p most is the
-// greatest length that the result can have.
+// Both directions: converts once, into a buffer for a result of @p most characters, the greatest
+// length that it can have.
 template <typename Target, typename Source, typename Convert>
 std::basic_string<Target> convert(const Source* source, std::size_t most, Convert convertText)
 {
-    std::array<Target, 1024>
-        buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written below
-    if (most < buffer.size()) {
-        const std::size_t length = convertText(buffer.data(), source, buffer.size());
-        return length == kUnconvertible ? std::basic_string<Target>()
-                                        : std::basic_string<Target>(buffer.data(), length);
-    }
-    const std::size_t length = convertText(nullptr, source, 0);
-    if (length == kUnconvertible)
-        return {};
-    std::basic_string<Target> result(length, Target());
-    convertText(result.data(), source, length); // the string has its own terminator
-    return result;
+    std::array<Target, 1024> small; // NOLINT(cppcoreguidelines-pro-type-member-init): written below
+    std::unique_ptr<Target[]> large;
+    if (most >= small.size())
+        large.reset(new Target[most + 1]);
+    Target* const buffer = large ? large.get() : small.data();
+    const std::size_t length = convertText(buffer, source, most + 1);
+    return length == kUnconvertible ? std::basic_string<Target>()
+                                    : std::basic_string<Target>(buffer, length);
 }
 
 } // namespace
