@@ -86,11 +86,15 @@ public:
         delete pKey;
         return true;
     }
-    QString PathOf(HKEY hKey)
+    // What @p make makes of the path of a root or an open key; empty for other handles.
+    template <typename Make>
+    QString PathOf(HKEY hKey, Make make)
     {
+        if (const QString root = rootComponent(hKey); !root.isEmpty())
+            return make(root);
         const std::lock_guard lock(m_mutex);
         const auto found = m_keys.find(static_cast<Key*>(hKey));
-        return found == m_keys.end() ? QString() : (*found)->path;
+        return found == m_keys.end() ? QString() : make((*found)->path);
     }
     void SetPath(HKEY hKey, const QString& path)
     {
@@ -106,23 +110,6 @@ private:
 };
 
 OpenKeys g_openKeys;
-
-// False for what is no root.
-bool openBelowRoot(HKEY hKey, LPCSTR pSubKey, PHKEY phkResult)
-{
-    QString path = rootComponent(hKey);
-    if (path.isEmpty() || !phkResult)
-        return false;
-    if (pSubKey && *pSubKey)
-        path = registryPath(path, pSubKey);
-    *phkResult = g_openKeys.Open(path);
-    return true;
-}
-
-LONG openRoot(HKEY hRoot, PHKEY phkResult)
-{
-    return openBelowRoot(hRoot, nullptr, phkResult) ? ERROR_SUCCESS : ERROR_INVALID_PARAMETER;
-}
 
 // Most names: in one go. Empty when the name is not all ASCII.
 template <typename Char>
@@ -141,14 +128,37 @@ QString asciiPath(const QString& path, const Char* pName)
     return result;
 }
 
+// With a name in UTF-8.
+QString joined(const QString& path, LPCSTR pName)
+{
+    QString result = asciiPath(path, pName);
+    return result.isEmpty() ? registryPath(path, QString::fromUtf8(pName)) : result;
+}
+
+// False for what is no root.
+bool openBelowRoot(HKEY hKey, LPCSTR pSubKey, PHKEY phkResult)
+{
+    QString path = rootComponent(hKey);
+    if (path.isEmpty() || !phkResult)
+        return false;
+    if (pSubKey && *pSubKey)
+        path = joined(path, pSubKey);
+    *phkResult = g_openKeys.Open(path);
+    return true;
+}
+
+LONG openRoot(HKEY hRoot, PHKEY phkResult)
+{
+    return openBelowRoot(hRoot, nullptr, phkResult) ? ERROR_SUCCESS : ERROR_INVALID_PARAMETER;
+}
+
 std::string narrowName(LPCWSTR pName) { return pName ? _W2A(pName) : std::string(); }
 
 } // namespace
 
 QString registryPath(HKEY hKey)
 {
-    QString root = rootComponent(hKey);
-    return root.isEmpty() ? g_openKeys.PathOf(hKey) : root;
+    return g_openKeys.PathOf(hKey, [](const QString& path) { return path; });
 }
 
 void setRegistryPath(HKEY hKey, const QString& path) { g_openKeys.SetPath(hKey, path); }
@@ -167,16 +177,23 @@ QString registryPath(const QString& path, LPCWSTR pName)
     return result.isEmpty() ? registryPath(path, wideToQString(pName)) : result;
 }
 
-QString registryPath(const QString& path, LPCSTR pName)
+QString registryPath(HKEY hKey, LPCWSTR pName)
 {
-    QString result = asciiPath(path, pName);
-    return result.isEmpty() ? registryPath(path, QString::fromUtf8(pName)) : result;
+    return g_openKeys.PathOf(hKey,
+                             [pName](const QString& path) { return registryPath(path, pName); });
 }
 
-QString narrowRegistryPath(const QString& path, LPCWSTR pName)
+QString registryPath(HKEY hKey, LPCSTR pName)
 {
-    QString result = asciiPath(path, pName); // every locale leaves ASCII as it is
-    return result.isEmpty() ? registryPath(path, _W2A(pName).c_str()) : result;
+    return g_openKeys.PathOf(hKey, [pName](const QString& path) { return joined(path, pName); });
+}
+
+QString narrowRegistryPath(HKEY hKey, LPCWSTR pName)
+{
+    return g_openKeys.PathOf(hKey, [pName](const QString& path) {
+        QString result = asciiPath(path, pName); // every locale leaves ASCII as it is
+        return result.isEmpty() ? joined(path, _W2A(pName).c_str()) : result;
+    });
 }
 
 void storeInRegistry(const QString& key, const QVariant& value)

@@ -17,10 +17,12 @@ void setRegistryPath(HKEY hKey, const QString& path);
 /// Path and sub-key or value name in one, with "/" for each backslash of the name. Null is empty.
 QString registryPath(const QString& path, QString name);
 QString registryPath(const QString& path, LPCWSTR pName);
+/// The same for a handle; empty for what is no key.
+QString registryPath(HKEY hKey, LPCWSTR pName);
 /// The same of a name in UTF-8.
-QString registryPath(const QString& path, LPCSTR pName);
+QString registryPath(HKEY hKey, LPCSTR pName);
 /// The same of a name that is to pass through the narrow form in locale "chs".
-QString narrowRegistryPath(const QString& path, LPCWSTR pName);
+QString narrowRegistryPath(HKEY hKey, LPCWSTR pName);
 
 /// What `QSettings::allKeys()` lists in the group @p path.
 QStringList registryListing(const QString& path);

@@ -10,6 +10,7 @@
 #include <QtCore/QVariant>
 
 #include <algorithm>
+#include <atomic>
 #include <cwchar>
 #include <mutex>
 
@@ -33,14 +34,18 @@ public:
             m_listings.clear();
             m_contents.Take(g_appRegistry); // first: a change meanwhile makes the listing outdated
         }
+        m_isEmpty.store(false, std::memory_order_relaxed);
         return *m_listings.insert(path, Read(path));
     }
 
     void Forget()
     {
+        if (m_isEmpty.load(std::memory_order_relaxed)) // mostly: writes come in rows
+            return;
         const std::lock_guard lock(m_mutex);
         m_listings.clear();
         m_contents.Drop();
+        m_isEmpty.store(true, std::memory_order_relaxed);
     }
 
 private:
@@ -53,6 +58,7 @@ private:
     }
 
     std::mutex m_mutex;
+    std::atomic<bool> m_isEmpty{true};
     QHash<QString, QStringList> m_listings;
     SettingsContents m_contents;
 };

@@ -18,10 +18,10 @@ QString withoutEmptyParts(const QString& path)
 
 LONG removeBelow(HKEY hKey, LPCWSTR pSubKey)
 {
-    const QString path = registryPath(hKey);
+    const QString path = registryPath(hKey, pSubKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;
-    removeFromRegistry(registryPath(path, pSubKey));
+    removeFromRegistry(path);
     return ERROR_SUCCESS;
 }
 
@@ -90,11 +90,10 @@ LONG RegRenameKey_E(HKEY hKey, LPCWSTR pSubKeyName, LPCWSTR pNewKeyName)
 
 LONG RegCopyTree_E(HKEY hKeySrc, LPCWSTR pSubKey, HKEY hKeyDest)
 {
-    const QString path = registryPath(hKeySrc);
+    const QString source = registryPath(hKeySrc, pSubKey);
     const QString target = registryPath(hKeyDest);
-    if (path.isEmpty() || target.isEmpty())
+    if (source.isEmpty() || target.isEmpty())
         return ERROR_INVALID_HANDLE;
-    const QString source = registryPath(path, pSubKey);
     g_appRegistry.beginGroup(source);
     const QStringList names = g_appRegistry.childKeys(); // Intended: no keys below
     g_appRegistry.endGroup();

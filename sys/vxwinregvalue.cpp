@@ -24,8 +24,6 @@ void give(Output* pOutput, Value value)
         *pOutput = static_cast<Output>(value);
 }
 
-constexpr wchar_t kDefaultName[] = L"Default";
-
 QString narrowText(const BYTE* pText)
 {
     return QString::fromUtf8(reinterpret_cast<const char*>(pText));
@@ -60,17 +58,20 @@ QVariant toStore(DWORD dwType, const BYTE* pData, QString (*textAt)(const BYTE*)
     }
 }
 
-template <typename Char>
-LONG setValue(HKEY hKey, const Char* pName, DWORD dwType, const BYTE* pData,
-              QString (*textAt)(const BYTE*))
+// Where a value is stored; empty for what is no key.
+QString valuePath(HKEY hKey, LPCSTR pName) { return registryPath(hKey, pName ? pName : "Default"); }
+QString valuePath(HKEY hKey, LPCWSTR pName)
 {
-    const QString path = registryPath(hKey);
+    return registryPath(hKey, pName ? pName : L"Default");
+}
+
+LONG setValue(const QString& path, DWORD dwType, const BYTE* pData, QString (*textAt)(const BYTE*))
+{
     if (path.isEmpty() || (!pData && (dwType == REG_DWORD || dwType == REG_QWORD)))
         return ERROR_INVALID_HANDLE;
     const QVariant value = toStore(dwType, pData, textAt);
     if (value.isValid()) // Intended: the other types are no error
-        storeInRegistry(pName ? registryPath(path, pName) : registryPath(path, kDefaultName),
-                        value);
+        storeInRegistry(path, value);
     return ERROR_SUCCESS;
 }
 
@@ -115,14 +116,11 @@ void giveValue(const Output& output, const QVariant& value)
     }
 }
 
-template <typename Char, typename MakePath>
-LONG queryValue(HKEY hKey, const Char* pName, const Output& output, MakePath makePath)
+LONG queryValue(const QString& path, const Output& output)
 {
-    const QString path = registryPath(hKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;
-    giveValue(output, g_appRegistry.value(pName ? makePath(path, pName)
-                                                : registryPath(path, kDefaultName)));
+    giveValue(output, g_appRegistry.value(path));
     return ERROR_SUCCESS;
 }
 
@@ -143,13 +141,13 @@ std::vector<BYTE> dataOf(HKEY hKey, LPCSTR pName, LONG& result)
 LONG RegSetValueExA_E(HKEY hKey, LPCSTR pValueName, DWORD /*dwReserved*/, DWORD dwType,
                       const BYTE* pData, DWORD /*cbData*/)
 {
-    return setValue(hKey, pValueName, dwType, pData, narrowText);
+    return setValue(valuePath(hKey, pValueName), dwType, pData, narrowText);
 }
 
 LONG RegSetValueExW_E(HKEY hKey, LPCWSTR pValueName, DWORD /*dwReserved*/, DWORD dwType,
                       const BYTE* pData, DWORD /*cbData*/)
 {
-    return setValue(hKey, pValueName, dwType, pData, wideText);
+    return setValue(valuePath(hKey, pValueName), dwType, pData, wideText);
 }
 
 LONG RegSetValue_E(HKEY hKey, LPCWSTR pSubKey, DWORD dwType, LPCWSTR pData, DWORD cbData)
@@ -166,14 +164,15 @@ LONG RegSetKeyValue_E(HKEY hKey, LPCWSTR /*pSubKey*/, LPCWSTR pValueName, DWORD 
 LONG RegQueryValueExA_E(HKEY hKey, LPCSTR pValueName, LPDWORD /*pReserved*/, LPDWORD pdwType,
                         BYTE* pData, LPDWORD pcbData)
 {
-    return queryValue(hKey, pValueName, {pdwType, pData, pcbData},
-                      [](const QString& path, LPCSTR pName) { return registryPath(path, pName); });
+    return queryValue(valuePath(hKey, pValueName), {pdwType, pData, pcbData});
 }
 
 LONG RegQueryValueExW_E(HKEY hKey, LPCWSTR pValueName, LPDWORD /*pReserved*/, LPDWORD pdwType,
                         BYTE* pData, LPDWORD pcbData)
 {
-    return queryValue(hKey, pValueName, {pdwType, pData, pcbData}, narrowRegistryPath);
+    const QString path =
+        pValueName ? narrowRegistryPath(hKey, pValueName) : valuePath(hKey, LPCWSTR());
+    return queryValue(path, {pdwType, pData, pcbData});
 }
 
 LONG RegGetValue_E(HKEY hKey, LPCWSTR pSubKey, LPCWSTR /*pValue*/, DWORD /*dwFlags*/,
