@@ -83,6 +83,7 @@ public:
         const std::lock_guard lock(m_mutex);
         if (m_keys.erase(pKey) == 0)
             return false;
+        m_pLast = nullptr;
         delete pKey;
         return true;
     }
@@ -93,19 +94,28 @@ public:
         if (const QString root = rootComponent(hKey); !root.isEmpty())
             return make(root);
         const std::lock_guard lock(m_mutex);
-        const auto found = m_keys.find(static_cast<Key*>(hKey));
-        return found == m_keys.end() ? QString() : make((*found)->path);
+        const Key* const pKey = Find(hKey);
+        return pKey ? make(pKey->path) : QString();
     }
     void SetPath(HKEY hKey, const QString& path)
     {
         const std::lock_guard lock(m_mutex);
-        const auto found = m_keys.find(static_cast<Key*>(hKey));
-        if (found != m_keys.end())
-            (*found)->path = path;
+        if (Key* const pKey = Find(hKey))
+            pKey->path = path;
     }
 
 private:
+    Key* Find(HKEY hKey)
+    {
+        if (!hKey || hKey != m_pLast) {
+            const auto found = m_keys.find(static_cast<Key*>(hKey));
+            m_pLast = found == m_keys.end() ? nullptr : *found;
+        }
+        return m_pLast;
+    }
+
     std::mutex m_mutex;
+    Key* m_pLast = nullptr; // calls for one key come in rows
     std::unordered_set<Key*> m_keys;
 };
 
@@ -132,7 +142,9 @@ QString asciiPath(const QString& path, const Char* pName)
 QString joined(const QString& path, LPCSTR pName)
 {
     QString result = asciiPath(path, pName);
-    return result.isEmpty() ? registryPath(path, QString::fromUtf8(pName)) : result;
+    if (result.isEmpty())
+        return registryPath(path, QString::fromUtf8(pName));
+    return result;
 }
 
 // False for what is no root.
@@ -174,7 +186,9 @@ QString registryPath(const QString& path, QString name)
 QString registryPath(const QString& path, LPCWSTR pName)
 {
     QString result = asciiPath(path, pName);
-    return result.isEmpty() ? registryPath(path, wideToQString(pName)) : result;
+    if (result.isEmpty())
+        return registryPath(path, wideToQString(pName));
+    return result;
 }
 
 QString registryPath(HKEY hKey, LPCWSTR pName)
@@ -192,7 +206,9 @@ QString narrowRegistryPath(HKEY hKey, LPCWSTR pName)
 {
     return g_openKeys.PathOf(hKey, [pName](const QString& path) {
         QString result = asciiPath(path, pName); // every locale leaves ASCII as it is
-        return result.isEmpty() ? joined(path, _W2A(pName).c_str()) : result;
+        if (result.isEmpty())
+            return joined(path, _W2A(pName).c_str());
+        return result;
     });
 }
 
