@@ -133,7 +133,7 @@ QString asciiPath(const QString& path, const Char* pName)
         const auto code = static_cast<std::make_unsigned_t<Char>>(pName[i]);
         if (code >= 0x80)
             return {};
-        *pOut++ = QLatin1Char(code == '\\' ? '/' : static_cast<char>(code));
+        *pOut++ = code == L'\\' ? QLatin1Char('/') : QChar(static_cast<ushort>(code));
     }
     return result;
 }

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cwchar>
 #include <mutex>
 
 namespace vx::detail {
@@ -75,7 +74,7 @@ void giveText(const QString& text, LPWSTR pBuffer, LPDWORD pLength)
 {
     const std::wstring wide = qStringToWide(text);
     if (pBuffer)
-        std::wmemcpy(pBuffer, wide.data(), wide.size());
+        std::copy(wide.begin(), wide.end(), pBuffer);
     if (pLength)
         *pLength = static_cast<DWORD>(wide.size());
 }

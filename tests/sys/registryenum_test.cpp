@@ -3,7 +3,6 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
 // The registry's file between processes: hosts that load the library, plain readers, killed
 // writers.
-#include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -49,14 +48,6 @@ TEST_F(RegistryProcess, StoresUnderTheNamesAtLoadingTime)
     EXPECT_EQ(Run("print n - print a -"), "text 7\ntext 图层\n"); // the file holds text only
     EXPECT_EQ(Run("text a linked", true), "");
     EXPECT_EQ(Stored("a", "/Unknown Organization.ini").toString(), QStringLiteral("linked"));
-}
-
-TEST_F(RegistryProcess, AnotherProcessesWriteIsReadOnFlush)
-{
-    EXPECT_EQ(Run("number n 7 flush - - print n -"), "type 4, 7\n");
-    QSettings plain(m_home.path() + QStringLiteral("/Vertex/Host.ini"), QSettings::IniFormat);
-    EXPECT_EQ(plain.value(QStringLiteral("HKEY_CURRENT_USER/Script/n")).toString(),
-              QStringLiteral("7"));
 }
 
 TEST_F(RegistryProcess, TwoWritersLoseNothing)
