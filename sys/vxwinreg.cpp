@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <mutex>
 #include <string>
-#include <type_traits>
 #include <unordered_set>
 
 // Intended: the names as they stand when the library is loaded, later ones do not count.
@@ -130,10 +129,10 @@ QString asciiPath(const QString& path, const Char* pName)
     QChar* pOut = std::copy(path.cbegin(), path.cend(), result.begin());
     *pOut++ = QLatin1Char('/');
     for (std::size_t i = 0; i < length; ++i) {
-        const auto code = static_cast<std::make_unsigned_t<Char>>(pName[i]);
-        if (code >= 0x80)
+        const Char ch = pName[i];
+        if ((ch & 0x7F) != ch)
             return {};
-        *pOut++ = code == L'\\' ? QLatin1Char('/') : QChar(static_cast<ushort>(code));
+        *pOut++ = QLatin1Char(ch == '\\' ? '/' : static_cast<char>(ch));
     }
     return result;
 }
