@@ -3,9 +3,38 @@
 
 #include <private/qmetaobject_p.h>
 #include <private/qobject_p.h>
+#include <private/qsettings_p.h>
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
 
 namespace vx::detail {
 namespace {
+
+// The files of a store are private even in the private header; an explicit instantiation may name
+// them all the same.
+using SettingsFiles = QVector<QConfFile*> QConfFileSettingsPrivate::*;
+SettingsFiles settingsFiles();
+template <SettingsFiles pMember>
+struct SettingsFilesAccess
+{
+    friend SettingsFiles settingsFiles() { return pMember; }
+};
+template struct SettingsFilesAccess<&QConfFileSettingsPrivate::confFiles>;
+
+// UndefinedBehaviorSanitizer would want type information that Qt does not export.
+__attribute__((no_sanitize("vptr"))) const QVector<QConfFile*>& filesOf(const QSettings& settings)
+{
+    const auto* pPrivate = QObjectPrivate::get(const_cast<QSettings*>(&settings));
+    return static_cast<const QConfFileSettingsPrivate*>(pPrivate)->*settingsFiles();
+}
+
+bool hasUnreadSections(QConfFile* pFile)
+{
+    const std::lock_guard lock(pFile->mutex);
+    return !pFile->unparsedIniSections.isEmpty();
+}
 
 template <typename Visitor>
 void visitSlotConnections(const QObject* pReceiver, Visitor visit)
@@ -76,6 +105,53 @@ void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant
         names.removeAt(nIndex);
         values.removeAt(nIndex);
     }
+}
+
+struct SettingsContents::Files
+{
+    struct File
+    {
+        ParsedSettingsMap originalKeys;
+        ParsedSettingsMap addedKeys;
+        ParsedSettingsMap removedKeys;
+    };
+    std::vector<File> files;
+};
+
+SettingsContents::SettingsContents() = default;
+SettingsContents::~SettingsContents() = default;
+
+void SettingsContents::Take(const QSettings& settings)
+{
+    const auto& files = filesOf(settings);
+    // Reading a value may have its section moved to the keys. When all are there, it changes
+    // nothing.
+    if (std::any_of(files.begin(), files.end(), hasUnreadSections))
+        settings.allKeys();
+    auto pTaken = std::make_unique<Files>();
+    for (QConfFile* pFile : files) {
+        const std::lock_guard lock(pFile->mutex);
+        pTaken->files.push_back({pFile->originalKeys, pFile->addedKeys, pFile->removedKeys});
+    }
+    m_pFiles = std::move(pTaken);
+}
+
+void SettingsContents::Drop() { m_pFiles.reset(); }
+
+bool SettingsContents::IsOf(const QSettings& settings) const
+{
+    if (!m_pFiles)
+        return false;
+    const auto isSame = [](QConfFile* pFile, const Files::File& taken) {
+        const std::lock_guard lock(pFile->mutex);
+        return pFile->unparsedIniSections.isEmpty() &&
+               pFile->originalKeys.isSharedWith(taken.originalKeys) &&
+               pFile->addedKeys.isSharedWith(taken.addedKeys) &&
+               pFile->removedKeys.isSharedWith(taken.removedKeys);
+    };
+    const auto& files = filesOf(settings);
+    return std::equal(files.begin(), files.end(), m_pFiles->files.begin(), m_pFiles->files.end(),
+                      isSame);
 }
 
 } // namespace vx::detail

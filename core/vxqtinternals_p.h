@@ -4,7 +4,10 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QMetaMethod>
 
+#include <memory>
 #include <vector>
+
+class QSettings;
 
 namespace vx::detail {
 
@@ -33,5 +36,30 @@ const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name);
 /// Sets the dynamic property of this name, or takes it away when @p value is invalid. Neither
 /// compares the name with the class's properties nor sends the object an event of the change.
 void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant& value);
+
+/// The contents of a store of INI settings at one moment, to find out cheaply whether they have
+/// changed, whoever did it: stores of one file in one process share them.
+///
+/// They are kept in implicitly shared maps. A copy of such a map is never changed, and it keeps its
+/// data alive; so a store whose maps are still shared with the copies has not been written to,
+/// cleared or read from its file since.
+class SettingsContents
+{
+public:
+    SettingsContents();
+    ~SettingsContents();
+    SettingsContents(const SettingsContents&) = delete;
+    SettingsContents& operator=(const SettingsContents&) = delete;
+
+    void Take(const QSettings& settings);
+    /// Spares the store the copying of what is shared at its next change.
+    void Drop();
+    /// False as well when nothing has been taken.
+    bool IsOf(const QSettings& settings) const;
+
+private:
+    struct Files;
+    std::unique_ptr<const Files> m_pFiles;
+};
 
 } // namespace vx::detail

@@ -9,6 +9,9 @@ class QString;
 
 namespace vx::detail {
 
+/// Intended: a Windows name, mostly unknown to libc.
+inline constexpr char kSimplifiedChinese[] = "chs";
+
 /// Throws `std::range_error` ("wstring_convert::from_bytes") for invalid UTF-8: broken, overlong or
 /// cut-off sequences, surrogates, values above 0x10FFFF.
 std::wstring utf8ToWide(std::string_view bytes);

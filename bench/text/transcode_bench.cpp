@@ -3,6 +3,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include <clocale>
+#include <cstdlib>
+#include <vector>
+
 namespace {
 
 // ASCII, Latin and Greek, Chinese, and code points beyond 16 bits; each length in characters.
@@ -88,5 +92,24 @@ void fromQString_raw(benchmark::State& state)
     }
 }
 BENCHMARK(fromQString_raw)->Apply(grid);
+
+// To the narrow form in locale "chs", which libc does not know.
+void toNarrow(benchmark::State& state)
+{
+    const std::wstring text = sample(state).toStdWString();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(WideCharToMultiByte_E(text, "chs").data());
+}
+BENCHMARK(toNarrow)->ArgsProduct({{0, 2}, {12, 100, 2000}});
+void toNarrow_raw(benchmark::State& state)
+{
+    const std::wstring text = sample(state).toStdWString();
+    std::vector<char> bytes(4 * text.size() + 1);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(std::wcstombs(bytes.data(), text.c_str(), bytes.size()));
+}
+BENCHMARK(toNarrow_raw)->ArgsProduct({{0, 2}, {12, 100, 2000}});
+
+const char* const g_locale = std::setlocale(LC_CTYPE, "C.UTF-8"); // as a host's Qt sets one
 
 } // namespace

@@ -63,6 +63,7 @@ using LPVOID = void*;
 using LPCVOID = const void*;
 using LPBYTE = BYTE*;
 using LPDWORD = DWORD*;
+using PLONG = LONG*;
 using LPBOOL = BOOL*;
 
 using HWND = QWidget*;
@@ -124,6 +125,16 @@ struct tagRECT
 using RECT = tagRECT;
 using LPRECT = tagRECT*;
 using LPCRECT = const tagRECT*;
+
+/// A time in units of 100 nanoseconds since 1601.
+struct _FILETIME
+{
+    DWORD dwLowDateTime;
+    DWORD dwHighDateTime;
+};
+using FILETIME = _FILETIME;
+using PFILETIME = _FILETIME*;
+using LPFILETIME = _FILETIME*;
 
 /// One window message, as message functions and `PreTranslateMessage` see it.
 struct tagMSG

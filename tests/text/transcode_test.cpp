@@ -1,6 +1,9 @@
 #include "support/test.h"
 
+#include <clocale>
+#include <locale.h>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -100,6 +103,37 @@ TEST(Locale, ConvertsAndPutsThePresentLocaleBack)
     EXPECT_THROW(_wtof(nullptr), std::logic_error);
     EXPECT_EQ(_wtof(L" -12.5e1mm"), -125.0);
     EXPECT_EQ(_wtof(L"mm"), 0.0);
+}
+
+// What one thread converts in leaves the others and the process alone.
+TEST(Locale, ThreadsDoNotMeet)
+{
+    std::setlocale(LC_ALL, "C");
+    const auto convert = [](const char* locale, const std::string& expected) {
+        for (int i = 0; i < 2000; ++i) {
+            EXPECT_EQ(WideCharToMultiByte_E(L"\u4E2D", locale), expected);
+            EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "C");
+        }
+    };
+    std::thread other(convert, "C.UTF-8", "\u4E2D");
+    convert("chs", "");
+    other.join();
+
+    const locale_t own = newlocale(LC_ALL_MASK, "C.UTF-8", nullptr);
+    const locale_t before = uselocale(own);
+    EXPECT_EQ(WideCharToMultiByte_E(L"\u4E2D", "C"), "\u4E2D"); // setlocale() does not reach here
+    EXPECT_EQ(uselocale(before), own);
+    freelocale(own);
+}
+
+TEST(Locale, LongTexts)
+{
+    for (const std::size_t length : {169, 170, 171, 1022, 1023, 1024, 5000}) {
+        const std::wstring text(length, L'\u4E2D');
+        const std::string bytes = WideCharToMultiByte_E(text, "C.UTF-8");
+        EXPECT_EQ(bytes.size(), 3 * length);
+        EXPECT_EQ(MultiByteToWideChar_E(bytes, "C.UTF-8"), text);
+    }
 }
 
 } // namespace

@@ -4,8 +4,8 @@
 /// Differs from Win32: a code page is given by the name of a locale. The name "chs" that the last
 /// two pass is usually unknown to libc; then the process's own locale converts.
 ///
-/// Threads: GUI thread only, and only while no other thread depends on the locale: the process's
-/// locale is another one during the call.
+/// Threads: any. Another locale is set for the calling thread alone, for the time of the call; a
+/// thread that has a locale of its own (`uselocale`) converts in that.
 #pragma once
 
 #include <VxMFCEmu/export.h>
