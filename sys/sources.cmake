@@ -1,9 +1,30 @@
 vxmfc_sources(FOLDER sys
   HEADERS
+    sys/conditionvariable.h
     sys/criticalsection.h
+    sys/event.h
+    sys/handle.h
     sys/memory.h
+    sys/muldiv.h
+    sys/mutex.h
+    sys/pointerchecks.h
+    sys/securityattributes.h
+    sys/semaphore.h
+    sys/srwlock.h
+    sys/threads.h
     sys/tls.h
+    sys/wait.h
   SOURCES
     vxmemory.cpp
     vxtls.cpp
-    vxcriticalsection.cpp)
+    vxcriticalsection.cpp
+    vxsynchapi.cpp
+    vxevent.cpp
+    vxmutex.cpp
+    vxsemaphore.cpp
+    vxsrwlock.cpp
+    vxconditionvariable.cpp
+    vxthreads.cpp
+    vxmuldiv.cpp
+    vxpointerchecks.cpp
+)
