@@ -40,9 +40,9 @@ BOOL ReleaseSemaphore(HANDLE hSemaphore, int lReleaseCount, long* lpPreviousCoun
     auto* const pSemaphore = vx::detail::objectOf<SemaphoreObject>(hSemaphore);
     if (!pSemaphore || lReleaseCount < 1)
         return FALSE;
-    const long nCount = pSemaphore->count.atLeast();
-    if (nCount + lReleaseCount > pSemaphore->nMaximum)
+    if (pSemaphore->count.atLeast() + lReleaseCount > pSemaphore->nMaximum)
         return FALSE;
+    const long nCount = pSemaphore->count.atMost();
     if (lpPreviousCount)
         *lpPreviousCount = nCount;
     // Intended: up to the number, not by the number; and a unit that is refused counts.
@@ -60,10 +60,9 @@ namespace vx::detail {
 
 namespace {
 
-int acquire(sem_t* pSemaphore, DWORD dwMilliseconds)
+/// Apart, so that a wait without a time-out stays a short function.
+[[gnu::noinline]] int timedAcquire(sem_t* pSemaphore, DWORD dwMilliseconds)
 {
-    if (dwMilliseconds == INFINITE)
-        return sem_wait(pSemaphore);
     const int nError = errno;
     if (sem_trywait(pSemaphore) == 0)
         return 0;
@@ -78,8 +77,12 @@ DWORD wait(SemaphoreObject& semaphore, DWORD dwMilliseconds)
 {
     if (semaphore.pSemaphore == SEM_FAILED)
         return WAIT_FAILED;
-    if (acquire(semaphore.pSemaphore, dwMilliseconds) != 0)
-        return dwMilliseconds != INFINITE && errno == ETIMEDOUT ? WAIT_TIMEOUT : WAIT_FAILED;
+    if (dwMilliseconds == INFINITE) {
+        if (sem_wait(semaphore.pSemaphore) != 0)
+            return WAIT_FAILED;
+    } else if (timedAcquire(semaphore.pSemaphore, dwMilliseconds) != 0) {
+        return errno == ETIMEDOUT ? WAIT_TIMEOUT : WAIT_FAILED;
+    }
     semaphore.lastOwner.store(pthread_self(), std::memory_order_relaxed);
     if (semaphore.count.atMost() > 0)
         semaphore.count.down();

@@ -17,7 +17,7 @@ namespace {
 using vxtest::expectResults;
 
 // Far beyond what any of these waits takes, short enough to end a test that hangs.
-constexpr DWORD kLong = 60000;
+constexpr DWORD kLong = 30000;
 
 constexpr wchar_t kEvent[] = L"event";
 constexpr wchar_t kBack[] = L"back";
