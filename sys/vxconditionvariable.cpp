@@ -4,9 +4,7 @@
 
 #include <cerrno>
 
-static_assert(sizeof(SRWLOCK) >= sizeof(CRITICAL_SECTION) &&
-                  alignof(SRWLOCK) >= alignof(CRITICAL_SECTION),
-              "a lock stands in for a section");
+static_assert(sizeof(SRWLOCK) >= sizeof(CRITICAL_SECTION), "a lock stands in for a section");
 
 int InitializeConditionVariable(PCONDITION_VARIABLE pCondition)
 {

@@ -13,7 +13,7 @@ HANDLE CreateMutex(LPSECURITY_ATTRIBUTES, BOOL bInitialOwner, LPCWSTR lpName)
         if (pthread_mutex_init(&mutex.mutex, nullptr) != 0) {
             object.emplace<std::monostate>();
         } else if (bInitialOwner != 0) {
-            pthread_mutex_trylock(&mutex.mutex);
+            static_cast<void>(pthread_mutex_trylock(&mutex.mutex)); // Nobody else has it yet.
             mutex.owner = pthread_self();
         }
     });
