@@ -63,7 +63,7 @@ TEST(FileHandle, BadOnes)
               INVALID_HANDLE_VALUE);
     EXPECT_EQ(CreateFile_E(L"", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr),
               INVALID_HANDLE_VALUE);
-    EXPECT_EQ(CreateFile_E(L"/", GENERIC_READ, 0, nullptr, OPEN_ALWAYS, 0, nullptr),
+    EXPECT_EQ(CreateFile_E(L"/", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
               INVALID_HANDLE_VALUE);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(EACCES));
     EXPECT_EQ(CloseHandle_E(nullptr), FALSE);
