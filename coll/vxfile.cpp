@@ -1,7 +1,8 @@
 #include <VxMFCEmu/coll/file.h>
 
 #include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/text/vxqstring.h>
+
+#include "coll/vxfilename_p.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -14,14 +15,11 @@
 
 IMPLEMENT_DYNAMIC_E(CFile_E, CObject_E, QFile)
 
+using vx::detail::localFileName;
+
 namespace {
 
 constexpr UINT kAccessMask = 0x0003;
-
-QString localName(const wchar_t* lpszFileName)
-{
-    return VxQString(CString_E(lpszFileName).ToUnixSeperator());
-}
 
 void fillError(CFileException_E* pError, int nErrno, const wchar_t* lpszFileName)
 {
@@ -112,7 +110,7 @@ BOOL CFile_E::OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags, CFileExcept
     CFile_E::Abort();
     if (!GetImpQObject())
         CFile_E::AttachDefault(nullptr);
-    const QString name = localName(lpszFileName);
+    const QString name = localFileName(lpszFileName);
     const int fd = openDescriptor(name, nOpenFlags);
     if (fd < 0) {
         const int error = errno;
@@ -218,14 +216,14 @@ CString_E CFile_E::GetFileTitle() const
 
 void CFile_E::Remove(const wchar_t* lpszFileName)
 {
-    if (::unlink(QFile::encodeName(localName(lpszFileName)).constData()) != 0)
+    if (::unlink(QFile::encodeName(localFileName(lpszFileName)).constData()) != 0)
         throwErrno(errno, lpszFileName);
 }
 
 void CFile_E::Rename(const wchar_t* lpszOldName, const wchar_t* lpszNewName)
 {
-    const QString oldName = localName(lpszOldName);
-    const QString newName = localName(lpszNewName);
+    const QString oldName = localFileName(lpszOldName);
+    const QString newName = localFileName(lpszNewName);
     if (!QFileInfo::exists(oldName) || newName.isEmpty())
         throwErrno(ENOENT, lpszOldName);
     if (QFileInfo::exists(newName))

@@ -3,8 +3,9 @@
 // opens its settings before this is called.
 #include <VxMFCEmu/sys/registry.h>
 
+#include "require.h"
+
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -27,12 +28,6 @@ std::wstring widened(const std::string& text)
     return wide;
 }
 
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t size)
@@ -48,30 +43,33 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t siz
     wideData.append(2, L'\0');
 
     HKEY hKey = nullptr;
-    require(RegCreateKeyExA_E(HKEY_CURRENT_USER, subKey.c_str(), 0, nullptr, 0, 0, nullptr, &hKey,
-                              nullptr) == ERROR_SUCCESS);
+    VXMFC_REQUIRE(RegCreateKeyExA_E(HKEY_CURRENT_USER, subKey.c_str(), 0, nullptr, 0, 0, nullptr,
+                                    &hKey, nullptr) == ERROR_SUCCESS);
     const auto* const pNarrow = reinterpret_cast<const BYTE*>(data.data());
     const auto* const pWide = reinterpret_cast<const BYTE*>(wideData.data());
-    require(RegSetValueExA_E(hKey, name.c_str(), 0, type, pNarrow, 0) == ERROR_SUCCESS);
+    VXMFC_REQUIRE(RegSetValueExA_E(hKey, name.c_str(), 0, type, pNarrow, 0) == ERROR_SUCCESS);
     DWORD needed = 0;
-    require(RegQueryValueExA_E(hKey, name.c_str(), nullptr, nullptr, nullptr, &needed) == 0);
+    VXMFC_REQUIRE(RegQueryValueExA_E(hKey, name.c_str(), nullptr, nullptr, nullptr, &needed) == 0);
     std::vector<BYTE> read(needed);
-    require(RegQueryValueExA_E(hKey, name.c_str(), nullptr, nullptr, read.data(), nullptr) == 0);
-    require(RegSetValueExW_E(hKey, wideName.c_str(), 0, type, pWide, 0) == ERROR_SUCCESS);
-    require(RegQueryValueExW_E(hKey, wideName.c_str(), nullptr, nullptr, nullptr, &needed) == 0);
+    VXMFC_REQUIRE(RegQueryValueExA_E(hKey, name.c_str(), nullptr, nullptr, read.data(), nullptr) ==
+                  0);
+    VXMFC_REQUIRE(RegSetValueExW_E(hKey, wideName.c_str(), 0, type, pWide, 0) == ERROR_SUCCESS);
+    VXMFC_REQUIRE(RegQueryValueExW_E(hKey, wideName.c_str(), nullptr, nullptr, nullptr, &needed) ==
+                  0);
 
     DWORD index = 0;
     DWORD length = 0;
     while (RegEnumKey_E(HKEY_CURRENT_USER, index, nullptr, &length) == ERROR_SUCCESS) {
         std::wstring text(length, L'\0');
-        require(RegEnumKey_E(HKEY_CURRENT_USER, index, text.data(), &length) == ERROR_SUCCESS);
+        VXMFC_REQUIRE(RegEnumKey_E(HKEY_CURRENT_USER, index, text.data(), &length) ==
+                      ERROR_SUCCESS);
         ++index;
     }
     RegRenameKey_E(hKey, wideName.c_str(), L"renamed");
     RegCopyTree_E(HKEY_CURRENT_USER, wideName.c_str(), hKey);
-    require(RegDeleteValue_E(hKey, wideName.c_str()) == ERROR_SUCCESS);
-    require(RegCloseKey_E(hKey) == ERROR_SUCCESS);
-    require(RegCloseKey_E(hKey) == ERROR_INVALID_HANDLE);
-    require(RegDeleteTree_E(HKEY_CURRENT_USER, nullptr) == ERROR_SUCCESS);
+    VXMFC_REQUIRE(RegDeleteValue_E(hKey, wideName.c_str()) == ERROR_SUCCESS);
+    VXMFC_REQUIRE(RegCloseKey_E(hKey) == ERROR_SUCCESS);
+    VXMFC_REQUIRE(RegCloseKey_E(hKey) == ERROR_INVALID_HANDLE);
+    VXMFC_REQUIRE(RegDeleteTree_E(HKEY_CURRENT_USER, nullptr) == ERROR_SUCCESS);
     return 0;
 }

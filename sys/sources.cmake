@@ -1,12 +1,23 @@
 vxmfc_sources(FOLDER sys
   HEADERS
+    sys/conditionvariable.h
     sys/criticalsection.h
     sys/errorcodes.h
+    sys/event.h
+    sys/handle.h
     sys/memory.h
+    sys/muldiv.h
+    sys/mutex.h
+    sys/pointerchecks.h
     sys/profile.h
     sys/registry.h
     sys/registrytypes.h
+    sys/securityattributes.h
+    sys/semaphore.h
+    sys/srwlock.h
+    sys/threads.h
     sys/tls.h
+    sys/wait.h
   SOURCES
     vxmemory.cpp
     vxtls.cpp
@@ -15,4 +26,13 @@ vxmfc_sources(FOLDER sys
     vxwinreg.cpp
     vxwinregvalue.cpp
     vxwinregenum.cpp
-    vxwinregtree.cpp)
+    vxwinregtree.cpp
+    vxsynchapi.cpp
+    vxevent.cpp
+    vxmutex.cpp
+    vxsemaphore.cpp
+    vxsrwlock.cpp
+    vxconditionvariable.cpp
+    vxthreads.cpp
+    vxmuldiv.cpp
+    vxpointerchecks.cpp)

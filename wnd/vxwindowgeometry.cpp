@@ -1,5 +1,6 @@
 #include <VxMFCEmu/wnd/windowgeometry.h>
 
+#include <VxMFCEmu/sys/muldiv.h>
 #include <VxMFCEmu/wnd/rectfunctions.h>
 #include <VxMFCEmu/wnd/winstyles.h>
 

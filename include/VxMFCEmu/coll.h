@@ -3,3 +3,4 @@
 #pragma once
 
 #include <VxMFCEmu/coll/file.h>
+#include <VxMFCEmu/coll/filehandle.h>

@@ -20,7 +20,8 @@ if readelf -d "$library" | grep -E 'R(UN)?PATH' | grep -vF '[$ORIGIN]'; then
 fi
 
 exports=$(nm -DC --defined-only "$library" | cut -d' ' -f3-)
-for name in 'CObject_E::Attach(' 'vtable for CCmdTarget_E' 'g_mapCreateMethod'; do
+for name in 'CObject_E::Attach(' 'vtable for CCmdTarget_E' 'g_mapCreateMethod' \
+  'g_mapVxHandle' 'EnterCriticalSection_E('; do
   grep -qF "$name" <<<"$exports" || fail "not exported: $name"
 done
 helpers=$(grep -E '\bvx::' <<<"$exports" || true)

@@ -7,6 +7,7 @@
 /// Threads: any.
 #pragma once
 
+#include <VxMFCEmu/sys/muldiv.h>
 #include <VxMFCEmu/wnd/rectfunctions.h>
 
 class CPoint_E;
@@ -197,7 +198,7 @@ public:
         return SubtractRect_E(this, prc1, prc2);
     }
     /// Each coordinate multiplied and divided, see MulDiv_E().
-    constexpr CRect_E MulDiv(int nMultiplier, int nDivisor) const noexcept
+    CRect_E MulDiv(int nMultiplier, int nDivisor) const
     {
         return {MulDiv_E(left, nMultiplier, nDivisor), MulDiv_E(top, nMultiplier, nDivisor),
                 MulDiv_E(right, nMultiplier, nDivisor), MulDiv_E(bottom, nMultiplier, nDivisor)};

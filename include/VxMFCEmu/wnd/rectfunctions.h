@@ -39,20 +39,6 @@ constexpr tagRECT overlap(const tagRECT& a, const tagRECT& b) noexcept
 
 } // namespace vx::detail
 
-/// Multiplies and divides in 64 bits and rounds halves away from zero; -1 for a zero divisor and
-/// for a result that does not fit.
-constexpr int MulDiv_E(int nNumber, int nNumerator, int nDenominator) noexcept
-{
-    if (nDenominator == 0)
-        return -1;
-    const LONGLONG sign = nDenominator < 0 ? -1 : 1;
-    const LONGLONG divisor = sign * nDenominator;
-    const LONGLONG product = sign * nNumber * nNumerator;
-    const LONGLONG half = product < 0 ? -divisor / 2 : divisor / 2;
-    const LONGLONG result = (product + half) / divisor;
-    return result == static_cast<int>(result) ? static_cast<int>(result) : -1;
-}
-
 /// Stores the four coordinates.
 constexpr BOOL SetRect_E(LPRECT prc, int left, int top, int right, int bottom) noexcept
 {

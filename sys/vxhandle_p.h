@@ -1,0 +1,113 @@
+// The record behind the handle of an event, a mutex or a semaphore.
+#pragma once
+
+#include "sys/vxsemaphorecount_p.h"
+
+#include <VxMFCEmu/sys/handle.h>
+
+#include <pthread.h>
+#include <semaphore.h>
+
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <ctime>
+#include <string>
+#include <utility>
+#include <variant>
+
+namespace vx::detail {
+
+struct MutexObject
+{
+    pthread_mutex_t mutex;
+    std::atomic<pthread_t> owner{0};
+};
+
+/// Opening counts nothing, so a record is the only one of its semaphore.
+struct SemaphoreObject
+{
+    SemaphoreObject(std::string utf8Name, int nInitialCount, int nMaximumCount)
+        : name(std::move(utf8Name)), count(nInitialCount), nMaximum(nMaximumCount)
+    {
+    }
+
+    const std::string name;
+    sem_t* pSemaphore = SEM_FAILED;
+    SemaphoreCount count;
+    const long nMaximum;
+    std::atomic<pthread_t> lastOwner{0};
+};
+
+struct EventObject
+{
+    pthread_cond_t condition;
+    pthread_mutex_t mutex;
+    std::atomic<pthread_t> waiter{0};
+    bool bManualReset = false;
+    /// Not 0 when signalled.
+    std::atomic<std::int64_t> nSignals{0};
+};
+
+/// The index is the kind of the handle; without an object the creation failed.
+using Object = std::variant<std::monostate, MutexObject, SemaphoreObject, EventObject>;
+
+} // namespace vx::detail
+
+struct VxHandle
+{
+    vx::detail::Object object;
+};
+
+namespace vx::detail {
+
+/// The object of a handle, if it is of that kind.
+template <typename Kind>
+Kind* objectOf(HANDLE hObject)
+{
+    return hObject ? std::get_if<Kind>(&static_cast<VxHandle*>(hObject)->object) : nullptr;
+}
+
+template <typename Kind>
+VxHandle* openHandle(const wchar_t* lpName)
+{
+    const auto it = g_mapVxHandle.constFind(lpName);
+    if (it == g_mapVxHandle.constEnd()) {
+        errno = ENOENT;
+        return nullptr;
+    }
+    if (!objectOf<Kind>(*it)) {
+        errno = ENXIO;
+        return nullptr;
+    }
+    return *it;
+}
+
+/// The handle of that name, or a new one whose object @p init makes; where it does not, the handle
+/// stays without an object.
+template <typename Kind, typename Init>
+VxHandle* createHandle(const wchar_t* lpName, Init init)
+{
+    if (VxHandle* const pOpen = openHandle<Kind>(lpName)) {
+        errno = ERROR_ALREADY_EXISTS;
+        return pOpen;
+    }
+    auto* const pHandle = new VxHandle;
+    init(pHandle->object);
+    g_mapVxHandle.insert(lpName, pHandle);
+    return pHandle;
+}
+
+/// What WaitForSingleObject() gives for each kind.
+DWORD wait(MutexObject& mutex, DWORD dwMilliseconds);
+DWORD wait(SemaphoreObject& semaphore, DWORD dwMilliseconds);
+DWORD wait(EventObject& event, DWORD dwMilliseconds);
+/// The result of a wait that failed with that error number.
+DWORD waitFailure(int nError);
+
+/// Ends the system's object; false when that is not possible.
+bool destroy(MutexObject& mutex);
+bool destroy(SemaphoreObject& semaphore);
+bool destroy(EventObject& event);
+
+} // namespace vx::detail

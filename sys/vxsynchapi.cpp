@@ -1,0 +1,59 @@
+#include <VxMFCEmu/sys/wait.h>
+
+#include "sys/vxhandle_p.h"
+
+QMap<const wchar_t*, VxHandle*> g_mapVxHandle;
+
+namespace vx::detail {
+
+namespace {
+
+/// What a mutex or an event calls an owner that ended.
+constexpr int kAbandoned = 36;
+
+DWORD wait(std::monostate, DWORD) { return WAIT_FAILED; }
+bool destroy(std::monostate) { return false; }
+
+void forget(const VxHandle* pHandle)
+{
+    for (auto it = g_mapVxHandle.begin(); it != g_mapVxHandle.end();)
+        it = *it == pHandle ? g_mapVxHandle.erase(it) : std::next(it);
+}
+
+} // namespace
+
+DWORD waitFailure(int nError)
+{
+    switch (nError) {
+    case kAbandoned:
+        return WAIT_ABANDONED;
+    case ETIMEDOUT:
+        return WAIT_TIMEOUT;
+    default:
+        return WAIT_FAILED;
+    }
+}
+
+} // namespace vx::detail
+
+DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
+{
+    using namespace vx::detail;
+    if (!hHandle)
+        return WAIT_FAILED;
+    return std::visit([dwMilliseconds](auto& object) { return wait(object, dwMilliseconds); },
+                      static_cast<VxHandle*>(hHandle)->object);
+}
+
+BOOL VxCloseHandle(HANDLE hObject)
+{
+    using namespace vx::detail;
+    auto* const pHandle = static_cast<VxHandle*>(hObject);
+    if (!pHandle || std::holds_alternative<std::monostate>(pHandle->object))
+        return FALSE;
+    // Intended: what cannot be destroyed is freed and stays in the map.
+    if (std::visit([](auto& object) { return destroy(object); }, pHandle->object))
+        forget(pHandle);
+    delete pHandle;
+    return TRUE;
+}
