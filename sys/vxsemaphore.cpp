@@ -45,10 +45,11 @@ BOOL ReleaseSemaphore(HANDLE hSemaphore, int lReleaseCount, long* lpPreviousCoun
     const long nCount = pSemaphore->count.atMost();
     if (lpPreviousCount)
         *lpPreviousCount = nCount;
+    const pthread_t self = pthread_self();
     // Intended: up to the number, not by the number; and a unit that is refused counts.
     for (long nUnits = std::max(1L, lReleaseCount - nCount); nUnits > 0; --nUnits) {
         // Before the post, so that a thread that takes the unit finds it counted.
-        pSemaphore->count.up();
+        pSemaphore->count.up(self);
         if (pSemaphore->pSemaphore == SEM_FAILED || sem_post(pSemaphore->pSemaphore) != 0)
             return FALSE;
     }
@@ -83,9 +84,10 @@ DWORD wait(SemaphoreObject& semaphore, DWORD dwMilliseconds)
     } else if (timedAcquire(semaphore.pSemaphore, dwMilliseconds) != 0) {
         return errno == ETIMEDOUT ? WAIT_TIMEOUT : WAIT_FAILED;
     }
-    semaphore.lastOwner.store(pthread_self(), std::memory_order_relaxed);
+    const pthread_t self = pthread_self();
+    semaphore.lastOwner.store(self, std::memory_order_relaxed);
     if (semaphore.count.atMost() > 0)
-        semaphore.count.down();
+        semaphore.count.down(self);
     return WAIT_OBJECT_0;
 }
 

@@ -17,8 +17,9 @@ class SemaphoreCount
 public:
     explicit SemaphoreCount(long nInitial) : m_ups(nInitial) {}
 
-    void up() { m_ups.add(isHome()); }
-    void down() { m_downs.add(isHome()); }
+    /// @p self is the calling thread, which its caller has at hand: asking for it is a call.
+    void up(pthread_t self) { m_ups.add(isHome(self)); }
+    void down(pthread_t self) { m_downs.add(isHome(self)); }
 
     /// Never more than the count, in the face of concurrent changes.
     long atLeast() const
@@ -58,7 +59,7 @@ private:
         std::atomic<long> m_nOthers{0};
     };
 
-    bool isHome() const { return pthread_equal(pthread_self(), m_home) != 0; }
+    bool isHome(pthread_t self) const { return pthread_equal(self, m_home) != 0; }
 
     const pthread_t m_home = pthread_self();
     Tally m_ups;

@@ -11,7 +11,6 @@ namespace {
 /// What a mutex or an event calls an owner that ended.
 constexpr int kAbandoned = 36;
 
-DWORD wait(std::monostate, DWORD) { return WAIT_FAILED; }
 bool destroy(std::monostate) { return false; }
 
 void forget(const VxHandle* pHandle)
@@ -39,10 +38,13 @@ DWORD waitFailure(int nError)
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
 {
     using namespace vx::detail;
-    if (!hHandle)
-        return WAIT_FAILED;
-    return std::visit([dwMilliseconds](auto& object) { return wait(object, dwMilliseconds); },
-                      static_cast<VxHandle*>(hHandle)->object);
+    if (auto* const pMutex = objectOf<MutexObject>(hHandle)) // std::visit() is an indirect call
+        return wait(*pMutex, dwMilliseconds);
+    if (auto* const pSemaphore = objectOf<SemaphoreObject>(hHandle))
+        return wait(*pSemaphore, dwMilliseconds);
+    if (auto* const pEvent = objectOf<EventObject>(hHandle))
+        return wait(*pEvent, dwMilliseconds);
+    return WAIT_FAILED;
 }
 
 BOOL VxCloseHandle(HANDLE hObject)
