@@ -40,6 +40,8 @@ BOOL CTrackerPanel::CreateInView()
     if (!pView || !m_wndDrawing.SubclassDlgItem("CTolmView", pView) ||
         !Create(WS_CHILD, m_wndDrawing.GetSafeHwnd()))
         return FALSE;
+    m_settings.RestorePlace();
+    m_settings.SetNumber(L"Runs", m_settings.Number(L"Runs") + 1);
     CRect_E rect;
     m_wndDrawing.GetClientRect(&rect);
     FillDrawing(rect.Width(), rect.Height());
@@ -77,7 +79,8 @@ void CTrackerPanel::SetupUI()
     QWidget* const pTracker = m_wndTracker.GetSafeHwnd();
     pTracker->setFocusPolicy(Qt::StrongFocus);
     pTracker->setAutoFillBackground(true);
-    pTracker->setPalette(QPalette(QColor(0xE6, 0xEE, 0xF8)));
+    const CString_E strColour = ProfileText(L"Tracker", L"Background", L"white");
+    pTracker->setPalette(QPalette(QColor(VxQString(strColour))));
 
     auto* const pGrid = new QGridLayout(pPanel);
     pGrid->addWidget(pTracker, 0, 0, 3, 1);
@@ -106,9 +109,11 @@ LRESULT CTrackerPanel::OnReport(WPARAM, LPARAM lParam)
 
 void CTrackerPanel::OnPost()
 {
-    m_wndTracker.PostMessage(WM_TRACKER_PING, ++m_nPosted);
+    const int nPosted = m_settings.Number(L"Posted") + 1;
+    m_settings.SetNumber(L"Posted", nPosted);
+    m_wndTracker.PostMessage(WM_TRACKER_PING, static_cast<WPARAM>(nPosted));
     CString_E strText;
-    strText.Format(IDS_POSTED, m_nPosted);
+    strText.Format(IDS_POSTED, nPosted);
     SetDlgItemText(IDC_STATUS, strText);
 }
 
@@ -120,6 +125,7 @@ void CTrackerPanel::OnClear()
 
 void CTrackerPanel::OnDestroy()
 {
+    m_settings.SavePlace();
     WriteReport(L"WM_DESTROY");
     CWnd_E::OnDestroy();
 }
@@ -129,8 +135,13 @@ void CTrackerPanel::PostNcDestroy() { delete this; }
 // Tells a driver where to click: name and global rectangle of what it needs.
 void CTrackerPanel::ReportReady()
 {
+    WriteGeometry(L"frame", TolmGetMainFrame());
     WriteGeometry(L"tracker", m_wndTracker);
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
+    CString_E strRun;
+    strRun.Format(L"run %d, tracker on %s", m_settings.Number(L"Runs"),
+                  ProfileText(L"Tracker", L"Background", L"white").GetString());
+    WriteReport(strRun);
     WriteReport(L"ready");
 }
 

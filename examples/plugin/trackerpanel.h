@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings.h"
 #include "trackerwnd.h"
 
 class CTrackerPanel;
@@ -51,6 +52,6 @@ private:
 
     CDrawingWnd m_wndDrawing;
     CTrackerWnd m_wndTracker;
+    CTrackerSettings m_settings;
     CString_E m_strReportPath;
-    UINT m_nPosted = 0;
 };
