@@ -83,7 +83,9 @@ bool useTracker(const Report& report, unsigned long window)
 {
     const QRect tracker = geometryOf(report, "tracker");
     const QPoint origin = tracker.topLeft();
+    const QPoint plot = geometryOf(report, "plot").center();
     const QPoint post = geometryOf(report, "post").center();
+    const int growth = kLaterSize.width() - geometryOf(report, "frame").width();
     return perform(
         report,
         {{[] {}, QStringLiteral("run 1, tracker on #E6EEF8")},
@@ -98,8 +100,10 @@ bool useTracker(const Report& report, unsigned long window)
           QStringLiteral("WM_RBUTTONDOWN 50,60 flags 2")},
          {[&] { click(origin + QPoint(50, 60), 4); }, QStringLiteral("WM_MOUSEWHEEL 120")},
          {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 1")},
+         {[&] { click(plot + QPoint(60, -40), 4); }, QStringLiteral("plot of \\d+ items at 125 %")},
+         {[&] { click(plot + QPoint(60, -40), 5); }, QStringLiteral("plot of \\d+ items at 100 %")},
          {[&] { vxtest::resizeWindow(window, kLaterSize); },
-          QStringLiteral("WM_SIZE \\d+,%1").arg(tracker.height() + 20)}});
+          QStringLiteral("WM_SIZE %1,\\d+").arg(tracker.width() + growth)}});
 }
 
 /// The second run finds the window as the first one left it, and the registry counts on.

@@ -19,15 +19,6 @@ constexpr PlacePart kPlace[] = {{L"Left", &tagRECT::left},
                                 {L"Right", &tagRECT::right},
                                 {L"Bottom", &tagRECT::bottom}};
 
-CString_E profilePath()
-{
-    Dl_info info;
-    if (dladdr(reinterpret_cast<void*>(&profilePath), &info) == 0)
-        return {};
-    const QFileInfo module(QString::fromLocal8Bit(info.dli_fname));
-    return module.absolutePath() + QStringLiteral("/VxDemoPlugin.ini");
-}
-
 } // namespace
 
 CTrackerSettings::CTrackerSettings()
@@ -80,10 +71,19 @@ void CTrackerSettings::SavePlace()
         SetNumber(part.name, place.*part.member);
 }
 
+CString_E BesidePlugin(const CString_E& strName)
+{
+    Dl_info info;
+    if (dladdr(reinterpret_cast<void*>(&BesidePlugin), &info) == 0)
+        return strName;
+    const QFileInfo module(QString::fromLocal8Bit(info.dli_fname));
+    return CString_E(module.absolutePath()) + L"/" + strName;
+}
+
 CString_E ProfileText(const wchar_t* lpszSection, const wchar_t* lpszKey,
                       const wchar_t* lpszDefault)
 {
-    const CString_E strPath = profilePath();
+    const CString_E strPath = BesidePlugin(L"VxDemoPlugin.ini");
     // A null buffer asks for the length; the size does not protect a buffer.
     const DWORD nLength =
         GetPrivateProfileString_E(lpszSection, lpszKey, lpszDefault, nullptr, 0, strPath);

@@ -23,6 +23,9 @@ private:
     HKEY m_hKey = nullptr;
 };
 
+/// The path of a file that lies beside the plug-in.
+CString_E BesidePlugin(const CString_E& strName);
+
 /// A text of the profile file that lies beside the plug-in.
 CString_E ProfileText(const wchar_t* lpszSection, const wchar_t* lpszKey,
                       const wchar_t* lpszDefault);

@@ -8,6 +8,12 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 
+namespace {
+
+constexpr int nTrackerHeight = 110;
+
+} // namespace
+
 IMPLEMENT_DYNAMIC_E(CDrawingWnd, CWnd_E, QWidget)
 
 BEGIN_MESSAGE_MAP_E(CDrawingWnd, CWnd_E)
@@ -82,8 +88,13 @@ void CTrackerPanel::SetupUI()
     const CString_E strColour = ProfileText(L"Tracker", L"Background", L"white");
     pTracker->setPalette(QPalette(QColor(VxQString(strColour))));
 
+    pTracker->setFixedHeight(nTrackerHeight);
+    m_wndPlot.Create(pPanel);
+    m_wndPlot.Open(BesidePlugin(ProfileText(L"Plot", L"File", L"")));
+
     auto* const pGrid = new QGridLayout(pPanel);
-    pGrid->addWidget(pTracker, 0, 0, 3, 1);
+    pGrid->addWidget(m_wndPlot.GetSafeHwnd(), 0, 0);
+    pGrid->addWidget(pTracker, 1, 0, 2, 1);
     pGrid->addWidget(pReports, 0, 1, 1, 2);
     pGrid->addWidget(pPost, 1, 1);
     pGrid->addWidget(pClear, 1, 2);
@@ -136,12 +147,14 @@ void CTrackerPanel::PostNcDestroy() { delete this; }
 void CTrackerPanel::ReportReady()
 {
     WriteGeometry(L"frame", TolmGetMainFrame());
+    WriteGeometry(L"plot", m_wndPlot);
     WriteGeometry(L"tracker", m_wndTracker);
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
     CString_E strRun;
     strRun.Format(L"run %d, tracker on %s", m_settings.Number(L"Runs"),
                   ProfileText(L"Tracker", L"Background", L"white").GetString());
     WriteReport(strRun);
+    m_wndPlot.ReportZoom();
     WriteReport(L"ready");
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plotwnd.h"
 #include "settings.h"
 #include "trackerwnd.h"
 
@@ -51,6 +52,7 @@ private:
     void ReportReady();
 
     CDrawingWnd m_wndDrawing;
+    CPlotWnd m_wndPlot;
     CTrackerWnd m_wndTracker;
     CTrackerSettings m_settings;
     CString_E m_strReportPath;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "plotfile.h"
+
+#include <map>
+#include <memory>
+
+/// Shows a plot: the wheel zooms around the pointer, the left button drags.
+class CPlotWnd : public CWnd_E
+{
+    Q_OBJECT
+    DECLARE_DYNAMIC_E(CPlotWnd)
+
+    /// False when there is no such plot.
+    bool Open(const wchar_t* lpszPath);
+
+    /// Sends the parent a line for its report.
+    void ReportZoom();
+
+    void OnPaint();
+    BOOL OnEraseBkgnd(CDC_E* pDC);
+    BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint_E point);
+    void OnLButtonDown(UINT nFlags, CPoint_E point);
+    void OnMouseMove(UINT nFlags, CPoint_E point);
+
+    DECLARE_MESSAGE_MAP_E()
+
+private:
+    double FittingScale() const;
+    double Scale() const { return FittingScale() * m_dZoom; }
+    CPoint_E ToWindow(CPoint_E point) const;
+    CPen_E* Pen(CDC_E& dc, int nIndex, int nLineType);
+    void DrawItem(CDC_E& dc, const PlotItem& item);
+    void DrawRegion(CDC_E& dc, const PlotItem& item, const std::vector<CPoint_E>& corners) const;
+    void DrawArc(CDC_E& dc, const PlotItem& item) const;
+    void DrawLabel(CDC_E& dc, const PlotItem& item) const;
+
+    CPlotFile m_plot;
+    CRect_E m_rcBounds;
+    double m_dZoom = 1;
+    CPoint_E m_ptCentre; // in plotter units, shown in the middle
+    CPoint_E m_ptDragged;
+    std::map<std::pair<int, int>, std::unique_ptr<CPen_E>> m_pens;
+};
