@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <ctime>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -52,20 +53,41 @@ struct EventObject
 /// The index is the kind of the handle; without an object the creation failed.
 using Object = std::variant<std::monostate, MutexObject, SemaphoreObject, EventObject>;
 
+template <typename Kind>
+inline constexpr std::uint32_t kindOf = 0;
+template <>
+inline constexpr std::uint32_t kindOf<MutexObject> = 1;
+template <>
+inline constexpr std::uint32_t kindOf<SemaphoreObject> = 2;
+template <>
+inline constexpr std::uint32_t kindOf<EventObject> = 3;
+
 } // namespace vx::detail
 
 struct VxHandle
 {
+    /// The index of the object, at the place where other kinds of handles, a file's for one, have
+    /// another value: it is looked at before anything else is. 0 without an object, and in the end.
+    std::uint32_t kind = 0;
     vx::detail::Object object;
 };
 
 namespace vx::detail {
 
+/// The record of a handle; null for null and INVALID_HANDLE_VALUE.
+inline VxHandle* recordOf(HANDLE hObject)
+{
+    return reinterpret_cast<std::intptr_t>(hObject) == -1 ? nullptr
+                                                          : static_cast<VxHandle*>(hObject);
+}
+
 /// The object of a handle, if it is of that kind.
 template <typename Kind>
 Kind* objectOf(HANDLE hObject)
 {
-    return hObject ? std::get_if<Kind>(&static_cast<VxHandle*>(hObject)->object) : nullptr;
+    static_assert(std::is_same_v<std::variant_alternative_t<kindOf<Kind>, Object>, Kind>);
+    VxHandle* const pHandle = recordOf(hObject);
+    return pHandle && pHandle->kind == kindOf<Kind> ? std::get_if<Kind>(&pHandle->object) : nullptr;
 }
 
 template <typename Kind>
@@ -94,6 +116,7 @@ VxHandle* createHandle(const wchar_t* lpName, Init init)
     }
     auto* const pHandle = new VxHandle;
     init(pHandle->object);
+    pHandle->kind = static_cast<std::uint32_t>(pHandle->object.index());
     g_mapVxHandle.insert(lpName, pHandle);
     return pHandle;
 }

@@ -46,7 +46,8 @@ BOOL ReleaseSemaphore(HANDLE hSemaphore, int lReleaseCount, long* lpPreviousCoun
     if (lpPreviousCount)
         *lpPreviousCount = nCount;
     const pthread_t self = pthread_self();
-    // Intended: up to the number, not by the number; and a unit that is refused counts.
+    // Intended: up to the number, not by the number; and a unit that is refused counts. Waiters
+    // that take units meanwhile do not prolong it: they would be given units that nobody released.
     for (long nUnits = std::max(1L, lReleaseCount - nCount); nUnits > 0; --nUnits) {
         // Before the post, so that a thread that takes the unit finds it counted.
         pSemaphore->count.up(self);

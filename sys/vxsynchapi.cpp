@@ -50,12 +50,13 @@ DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
 BOOL VxCloseHandle(HANDLE hObject)
 {
     using namespace vx::detail;
-    auto* const pHandle = static_cast<VxHandle*>(hObject);
-    if (!pHandle || std::holds_alternative<std::monostate>(pHandle->object))
+    VxHandle* const pHandle = recordOf(hObject);
+    if (!pHandle || pHandle->kind < kindOf<MutexObject> || pHandle->kind > kindOf<EventObject>)
         return FALSE;
     // Intended: what cannot be destroyed is freed and stays in the map.
     if (std::visit([](auto& object) { return destroy(object); }, pHandle->object))
         forget(pHandle);
+    pHandle->kind = 0;
     delete pHandle;
     return TRUE;
 }

@@ -24,6 +24,12 @@ QString registryPath(HKEY hKey, LPCSTR pName);
 /// The same of a name that is to pass through the narrow form in locale "chs".
 QString narrowRegistryPath(HKEY hKey, LPCWSTR pName);
 
+/// Path and a name that the store has listed, which keeps its backslashes.
+inline QString storedPath(const QString& path, const QString& name)
+{
+    return path + QLatin1Char('/') + name;
+}
+
 /// What `QSettings::allKeys()` lists in the group @p path.
 QStringList registryListing(const QString& path);
 /// To be called before a write of this library: remembered listings share the store's contents, and

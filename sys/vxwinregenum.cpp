@@ -66,7 +66,7 @@ Listings g_listings;
 
 QString textAt(const QString& path, const QString& name)
 {
-    return g_appRegistry.value(registryPath(path, name)).toString();
+    return g_appRegistry.value(storedPath(path, name)).toString();
 }
 
 // Intended: no terminator, and whatever room the caller says there is.
@@ -119,11 +119,6 @@ LONG RegEnumKeyEx_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, LPDWORD pcchName, LP
 LONG RegEnumKey_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, LPDWORD pcchName)
 {
     return RegEnumKeyEx_E(hKey, dwIndex, pName, pcchName, nullptr, nullptr, nullptr, nullptr);
-}
-
-LONG RegEnumKey_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, DWORD cchName)
-{
-    return RegEnumKey_E(hKey, dwIndex, pName, &cchName);
 }
 
 LONG RegEnumValue_E(HKEY hKey, DWORD dwIndex, LPWSTR pValueName, LPDWORD pcchValueName,

@@ -35,14 +35,14 @@ bool move(const QString& from, const QString& to)
     QVector<QVariant> values;
     values.reserve(names.size());
     for (const QString& name : names)
-        values.append(g_appRegistry.value(registryPath(from, name)));
+        values.append(g_appRegistry.value(storedPath(from, name)));
     const QString text = g_appRegistry.value(from).toString();
 
     removeFromRegistry(from);
     if (isValue)
         storeInRegistry(to, text);
     for (int i = 0; i < names.size(); ++i)
-        storeInRegistry(registryPath(to, names[i]), values[i]);
+        storeInRegistry(storedPath(to, names[i]), values[i]);
     return true;
 }
 
@@ -98,7 +98,6 @@ LONG RegCopyTree_E(HKEY hKeySrc, LPCWSTR pSubKey, HKEY hKeyDest)
     const QStringList names = g_appRegistry.childKeys(); // Intended: no keys below
     g_appRegistry.endGroup();
     for (const QString& name : names)
-        storeInRegistry(registryPath(target, name),
-                        g_appRegistry.value(registryPath(source, name)));
+        storeInRegistry(storedPath(target, name), g_appRegistry.value(storedPath(source, name)));
     return ERROR_SUCCESS;
 }

@@ -90,6 +90,28 @@ void giveData(const Output& output, DWORD dwType, const void* pData, std::size_t
     give(output.pcbData, size);
 }
 
+// Every locale leaves ASCII as it is, and most texts are: straight into the caller's buffer. False
+// for a text with other characters, or with an end within, which stays for the conversion.
+bool giveAsciiText(const Output& output, const QString& text)
+{
+    ushort all = 0;
+    bool hasEnd = false;
+    for (const QChar ch : text) {
+        all = static_cast<ushort>(all | ch.unicode());
+        hasEnd = hasEnd || ch.isNull();
+    }
+    if (all > 0x7F || hasEnd)
+        return false;
+    give(output.pdwType, REG_SZ);
+    if (output.pData) {
+        BYTE* const pEnd = std::transform(text.cbegin(), text.cend(), output.pData,
+                                          [](QChar ch) { return static_cast<BYTE>(ch.unicode()); });
+        *pEnd = 0;
+    }
+    give(output.pcbData, text.size() + 1);
+    return true;
+}
+
 template <typename Number>
 void giveNumber(const Output& output, DWORD dwType, Number number)
 {
@@ -106,9 +128,11 @@ void giveValue(const Output& output, const QVariant& value)
         giveNumber(output, REG_QWORD, value.toULongLong());
         break;
     case QMetaType::QString: {
-        const std::string text =
-            WideCharToMultiByte_E(qStringToWide(value.toString()), kSimplifiedChinese);
-        giveData(output, REG_SZ, text.c_str(), text.size() + 1);
+        const QString text = value.toString();
+        if (giveAsciiText(output, text))
+            break;
+        const std::string narrow = WideCharToMultiByte_E(qStringToWide(text), kSimplifiedChinese);
+        giveData(output, REG_SZ, narrow.c_str(), narrow.size() + 1);
         break;
     }
     default: // Intended: a missing value is no error

@@ -38,6 +38,7 @@ HKEY openKey()
 }
 
 const wchar_t kName[] = L"Value50";
+constexpr wchar_t kText[] = L"C:\\Drawings\\Templates\\metric.dwt";
 QString plainName() { return QStringLiteral("HKEY_CURRENT_USER/Software/Vertex/Settings/Value50"); }
 
 void SetNumber(benchmark::State& state)
@@ -63,18 +64,17 @@ BENCHMARK(SetNumber_raw);
 void SetText(benchmark::State& state)
 {
     const HKEY hKey = openKey();
-    const wchar_t text[] = L"C:\\Drawings\\Templates\\metric.dwt";
     for (auto _ : state)
-        RegSetValueExW_E(hKey, kName, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), sizeof text);
+        RegSetValueExW_E(hKey, kName, 0, REG_SZ, reinterpret_cast<const BYTE*>(kText),
+                         sizeof kText);
 }
 BENCHMARK(SetText);
 void SetText_raw(benchmark::State& state)
 {
     openKey();
     const QString name = plainName();
-    const wchar_t text[] = L"C:\\Drawings\\Templates\\metric.dwt";
     for (auto _ : state)
-        plainSettings().setValue(name, QString::fromWCharArray(text));
+        plainSettings().setValue(name, QString::fromWCharArray(kText));
 }
 BENCHMARK(SetText_raw);
 
@@ -102,6 +102,31 @@ void QueryNumber_raw(benchmark::State& state)
         state.SkipWithError("wrong value");
 }
 BENCHMARK(QueryNumber_raw);
+
+void QueryText(benchmark::State& state)
+{
+    const HKEY hKey = openKey();
+    RegSetValueExW_E(hKey, kName, 0, REG_SZ, reinterpret_cast<const BYTE*>(kText), sizeof kText);
+    char read[64];
+    DWORD size = 0;
+    for (auto _ : state)
+        RegQueryValueExW_E(hKey, kName, nullptr, nullptr, reinterpret_cast<BYTE*>(read), &size);
+    if (size != std::size(kText))
+        state.SkipWithError("wrong value");
+}
+BENCHMARK(QueryText);
+void QueryText_raw(benchmark::State& state)
+{
+    openKey();
+    const QString name = plainName();
+    plainSettings().setValue(name, QString::fromWCharArray(kText));
+    QByteArray read;
+    for (auto _ : state)
+        read = plainSettings().value(name).toString().toUtf8();
+    if (read.size() + 1 != static_cast<int>(std::size(kText)))
+        state.SkipWithError("wrong value");
+}
+BENCHMARK(QueryText_raw);
 
 // All of one key's values; the time for one should not grow with their number.
 void Enumerate(benchmark::State& state)

@@ -1,3 +1,4 @@
+#include <VxMFCEmu/coll.h>
 #include <VxMFCEmu/core/lasterror.h>
 #include <VxMFCEmu/sys.h>
 
@@ -76,6 +77,18 @@ TEST(Handle, OfNoObject)
 }
 
 // Intended: what cannot be destroyed is freed and stays in the map. The tests take it out again.
+TEST(Handle, OfAFileIsOfNoKind)
+{
+    CMemFile_E file; // what the handle of a file points to
+    for (const HANDLE handle : {HANDLE(&file), INVALID_HANDLE_VALUE}) {
+        expectResults({{__LINE__, WaitForSingleObject(handle, 0), WAIT_FAILED},
+                       {__LINE__, SetEvent(handle), FALSE},
+                       {__LINE__, ReleaseMutex(handle), FALSE},
+                       {__LINE__, ReleaseSemaphore(handle, 1, nullptr), FALSE},
+                       {__LINE__, VxCloseHandle(handle), FALSE}});
+    }
+}
+
 TEST(Handle, ASemaphoreThatTheSystemRefuses)
 {
     for (const wchar_t* const name : {L"", L"/two/parts"}) {

@@ -215,6 +215,22 @@ TEST_F(Registry, RootsAndDeletedKeys)
     EXPECT_EQ(rest(RegDeleteKey_E(HKEY_CURRENT_USER, L"K\\T")), 3);
 }
 
+TEST_F(Registry, OpensTheRootsOfUserAndClasses)
+{
+    const std::pair<LONG (*)(PHKEY), const char*> rows[] = {
+        {[](PHKEY out) { return RegOpenCurrentUser_E(0, out); }, "HKEY_CURRENT_USER/v"},
+        {[](PHKEY out) { return RegOpenUserClassesRoot_E(nullptr, 0, 0, out); },
+         "HKEY_CLASSES_ROOT/v"},
+    };
+    for (const auto& [open, stored] : rows) {
+        HKEY hRoot = nullptr;
+        EXPECT_EQ(open(&hRoot), ERROR_SUCCESS);
+        RegSetValueExA_E(hRoot, "v", 0, REG_SZ, bytes(stored), 0);
+        EXPECT_EQ(m_plain.value(QLatin1String(stored)), QLatin1String(stored));
+        EXPECT_EQ(RegCloseKey_E(hRoot), ERROR_SUCCESS);
+    }
+}
+
 TEST_F(Registry, RenamesAndCopies)
 {
     for (const char* name : {"S", "S/a", "S/b/c"})
@@ -230,6 +246,10 @@ TEST_F(Registry, RenamesAndCopies)
     EXPECT_TRUE(m_plain.contains(QStringLiteral("HKEY_CURRENT_USER/L/S/b/a")));
     EXPECT_EQ(RegCopyTree_E(m_hKey, L"S/b", m_hKey), ERROR_SUCCESS);
     EXPECT_TRUE(m_plain.contains(QStringLiteral("HKEY_CURRENT_USER/L/a")));
+    EXPECT_EQ(RegSetValueExA_E(HKEY_USERS, "x", 0, REG_SZ, bytes("1"), 0), ERROR_SUCCESS);
+    EXPECT_EQ(RegSetValueExA_E(HKEY_USERS, "y", 0, REG_SZ, bytes("2"), 0), ERROR_SUCCESS);
+    EXPECT_EQ(RegRenameKey_E(HKEY_USERS, L"x", L"y"), ERROR_SUCCESS); // overwrites
+    EXPECT_EQ(m_plain.value(QStringLiteral("HKEY_USERS/y")), QVariant(QStringLiteral("1")));
     EXPECT_EQ(RegRenameKey_E(m_hKey, L"missing", L"x"), ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(RegRenameKey_E(m_hKey, L"S", nullptr), ERROR_INVALID_PARAMETER);
     EXPECT_EQ(RegRenameKey_E(HKEY_USERS, nullptr, L"x"), ERROR_ACCESS_DENIED);

@@ -133,7 +133,7 @@ TEST_F(RegistryEnum, WritesNoTerminator)
 {
     Set(L"name", L"text");
     wchar_t buffer[] = L"????????";
-    EXPECT_EQ(RegEnumKey_E(m_hKey, 0, buffer, 1U), ERROR_SUCCESS);
+    EXPECT_EQ(RegEnumKey_E(m_hKey, 0, buffer, 0), ERROR_SUCCESS);
     EXPECT_STREQ(buffer, L"name????");
     EXPECT_EQ(RegEnumValue_E(m_hKey, 0, buffer, nullptr, nullptr, nullptr, nullptr, nullptr), 0);
     EXPECT_STREQ(buffer, L"text????");

@@ -12,7 +12,10 @@
 /// - Creating never gives null. When it fails, the waits on the handle give WAIT_FAILED.
 /// - After a new object was made, the last error is what the look-up of its name left, ENOENT or
 ///   ENXIO, and for a semaphore what the system left. Only ERROR_ALREADY_EXISTS is worth a test.
-/// - Handles are not inherited, not duplicated and not shared with other processes.
+/// - Handles are not inherited, not duplicated and not shared with other processes; but
+///   processes that name a semaphore alike share its units, which outlive a process that crashes.
+/// - Functions that find no object of their kind behind a handle leave the last error as it was.
+///   A closed handle, or one of a file, must not be used with them.
 /// - Files have handles of their own kind, closed with CloseHandle_E().
 ///
 /// Threads: any thread may use a handle. Creating, opening and closing share the map of names,
@@ -34,7 +37,7 @@ extern VXMFC_EXPORT QMap<const wchar_t*, VxHandle*> g_mapVxHandle;
 ///
 /// FALSE for null and for a handle whose creation failed, which stays as it is; a handle from a
 /// failed `sem_open` can be closed. Otherwise TRUE, also when the object could not be destroyed,
-/// such as a mutex that is locked.
+/// such as a mutex that is locked or a semaphore that the system refused.
 ///
 /// Differs from Win32: an object that could not be destroyed is freed all the same but keeps its
 /// name, so that creating or opening under this name again uses freed memory. Release a mutex

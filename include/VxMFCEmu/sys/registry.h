@@ -8,7 +8,13 @@
 /// paths are those of `QSettings`, with "/" for each backslash.
 ///
 /// Differs from Win32:
-/// - Nothing is shared with other programs.
+/// - Nothing is shared with other programs, but for what `QSettings` falls back on: the files of
+/// the
+///   organization and of the system are read too.
+/// - Keys and values are case-sensitive.
+/// - A value is the setting at key, "/" and name: a "/" in a name leads into a key, a value and a
+/// key
+///   of one name are deleted together, and an empty name is not that of the default value.
 /// - Sub-keys can be opened below predefined roots only. Elsewhere a root stands for its key.
 /// - A key exists as long as there is a value in it or below: opening one that is not there
 ///   succeeds, and creating one stores nothing.
@@ -24,19 +30,22 @@
 /// - Deleting a value stores an empty text under its name.
 ///
 /// Narrow names and texts that come in are UTF-8. The wide forms of the opening and querying
-/// functions pass their names through WideCharToMultiByte_E() in locale "chs": what the process's
-/// locale cannot encode is lost, and in one that is not UTF-8 only ASCII gets through.
+/// functions pass their names through WideCharToMultiByte_E() in locale "chs": a name that
+/// the process's locale cannot encode comes out empty as a whole, which makes a sub-key the root
+/// itself; in a locale that is not UTF-8 only ASCII gets through.
 ///
 /// A handle that is neither a predefined root nor open gives ERROR_INVALID_HANDLE, and nothing is
 /// touched. Writes reach the file when `QSettings` writes it: at the next turn of the event loop,
 /// in RegFlushKey_E() and at exit. Its errors are not reported.
 ///
 /// Threads: any for opening, closing, setting and querying, as far as `QSettings` allows.
-/// Enumerating functions, RegQueryInfoKey_E() and RegCopyTree_E() change the state of the one
-/// store: no other registry function may run meanwhile.
+/// Enumerating functions, RegQueryInfoKey_E(), RegRenameKey_E() and RegCopyTree_E() change the
+/// state of the one store: no other registry function may run meanwhile.
 #pragma once
 
 #include <VxMFCEmu/sys/registrytypes.h>
+
+#include <type_traits>
 
 // ---- Keys ----
 
@@ -110,7 +119,7 @@ VXMFC_EXPORT LONG RegQueryValueExW_E(HKEY hKey, LPCWSTR pValueName, LPDWORD pRes
 /// not looked at.
 VXMFC_EXPORT LONG RegGetValue_E(HKEY hKey, LPCWSTR pSubKey, LPCWSTR pValue, DWORD dwFlags,
                                 LPDWORD pdwType, LPVOID pData, LPDWORD pcbData);
-/// The same. Differs from Win32: @p pSubKey is the name of the value.
+/// The same. Differs from Win32: @p pSubKey is the name of the value, and a number gives its bytes.
 VXMFC_EXPORT LONG RegQueryValueA_E(HKEY hKey, LPCSTR pSubKey, LPSTR pData, PLONG pcbData);
 /// The same, as wide text; its size in bytes, terminator included.
 VXMFC_EXPORT LONG RegQueryValueW_E(HKEY hKey, LPCWSTR pSubKey, LPWSTR pData, PLONG pcbData);
@@ -127,7 +136,8 @@ VXMFC_EXPORT LONG RegQueryMultipleValues_E(HKEY hKey, PVALENT pValues, DWORD nVa
 
 /// Writes the name of value number @p dwIndex in the key or below it, a path relative to the key,
 /// and its length in characters; nulls are left out. ERROR_PATH_NOT_FOUND behind the last one.
-/// Differs from Win32: values, not keys, are enumerated; no terminator is written, and the size of
+/// Differs from Win32: the end is not ERROR_NO_MORE_ITEMS; values, not keys, are enumerated; no
+/// terminator is written, and the size of
 /// the buffer is not looked at.
 VXMFC_EXPORT LONG RegEnumKeyEx_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, LPDWORD pcchName,
                                  LPDWORD pReserved, LPWSTR pClass, LPDWORD pcchClass,
@@ -135,9 +145,14 @@ VXMFC_EXPORT LONG RegEnumKeyEx_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, LPDWORD
 /// The same.
 VXMFC_EXPORT LONG RegEnumKey_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, LPDWORD pcchName);
 /// The same with the size of the buffer by value, as Win32 has it; it is not looked at.
-VXMFC_EXPORT LONG RegEnumKey_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, DWORD cchName);
-/// Writes the text of the same value, and its length in characters. Differs from Win32: it is the
-/// text that goes into @p pValueName, and nothing is written to @p pdwType, @p pData and
+template <typename Size, typename = std::enable_if_t<std::is_integral_v<Size>>>
+LONG RegEnumKey_E(HKEY hKey, DWORD dwIndex, LPWSTR pName, Size)
+{
+    return RegEnumKey_E(hKey, dwIndex, pName, LPDWORD());
+}
+/// Writes the text of the same value, and its length in characters, with the same results. Differs
+/// from Win32: it is the text that goes into @p pValueName, and nothing is written to @p pdwType,
+/// @p pData and
 /// @p pcbData.
 VXMFC_EXPORT LONG RegEnumValue_E(HKEY hKey, DWORD dwIndex, LPWSTR pValueName, LPDWORD pcchValueName,
                                  LPDWORD pReserved, LPDWORD pdwType, BYTE* pData, LPDWORD pcbData);
@@ -166,7 +181,8 @@ VXMFC_EXPORT LONG RegDeleteKeyValue_E(HKEY hKey, LPCWSTR pSubKey, LPCWSTR pValue
 /// Renames the value or key @p pSubKeyName below @p hKey, all below it included; null renames the
 /// open key @p hKey itself. ERROR_FILE_NOT_FOUND when nothing has the old name, ERROR_ACCESS_DENIED
 /// for a root, ERROR_INVALID_PARAMETER for a null or empty new name or an empty old one. Differs
-/// from Win32: a value of that name is renamed too, and becomes text.
+/// from Win32: a value of that name is renamed too, and becomes text; the new name may lead into
+/// other keys, and what is there is overwritten.
 VXMFC_EXPORT LONG RegRenameKey_E(HKEY hKey, LPCWSTR pSubKeyName, LPCWSTR pNewKeyName);
 /// Copies the values of the key @p pSubKey below @p hKeySrc into @p hKeyDest; null and "" are
 /// @p hKeySrc itself. Differs from Win32: keys below it are not copied.

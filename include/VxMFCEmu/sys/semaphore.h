@@ -7,7 +7,8 @@
 ///   gives a handle that cannot be waited for, released or closed.
 /// - The system knows the semaphore under the UTF-8 text of its name, unchanged: objects of the
 ///   same text share the units, though each keeps a count of its own, and one that the system
-///   already knows does not start from the initial count. A name that the system refuses (empty, or
+///   already knows does not start from the initial count. This goes for other processes too. An
+///   initial count above the maximum is accepted. A name that the system refuses (empty, or
 ///   with a second "/") gives a handle whose waits give WAIT_FAILED.
 /// - Releasing adds units until the count has reached the number given, one at least.
 /// - Closing gives a last unit when there is none, and takes the name away from the system.

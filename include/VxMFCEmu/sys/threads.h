@@ -10,8 +10,8 @@
 
 #include <pthread.h>
 
-/// Sleeps; 0 returns at once. Differs from Win32: INFINITE is a number like others, and above
-/// 4,294,967 milliseconds the time wraps around.
+/// Sleeps; 0 returns at once. Differs from Win32: INFINITE is a number like others, above
+/// 4,294,967 milliseconds the time wraps around, and a signal ends it early.
 VXMFC_EXPORT void Sleep_E(DWORD dwMilliseconds);
 /// Milliseconds of the monotonic clock. Differs from Win32: 64 bits, which do not wrap around.
 VXMFC_EXPORT ULONGLONG GetTickCount();

@@ -22,6 +22,7 @@ inline constexpr DWORD WAIT_FAILED = 0xFFFFFFFF;
 /// the clock changes the wait. WAIT_FAILED for null, for an object whose creation failed, and when
 /// the system call fails, as it does for a semaphore when a signal arrives.
 ///
-/// The last error is the failed call's code. Differs from Win32: a mutex whose owner ended gives no
-/// WAIT_ABANDONED.
+/// The last error is the failed call's code; without such a call, as for null, it stays as it was.
+/// Anything but an open handle of these kinds is undefined, but for INVALID_HANDLE_VALUE. Differs
+/// from Win32: a mutex whose owner ended gives no WAIT_ABANDONED.
 VXMFC_EXPORT DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
