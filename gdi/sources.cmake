@@ -1,9 +1,27 @@
 vxmfc_sources(FOLDER gdi
   HEADERS
+    gdi/bitmap.h
+    gdi/brush.h
+    gdi/colorref.h
     gdi/dc.h
+    gdi/font.h
     gdi/gdiobject.h
     gdi/imagelist.h
+    gdi/palette.h
+    gdi/pen.h
+    gdi/rgn.h
+    gdi/selectedobject.h
+    gdi/syscolors.h
   SOURCES
+    vxgdihandles.cpp
     vxgdiobject.cpp
+    vxselectedobject.cpp
+    vxsyscolors.cpp
+    vxpen.cpp
+    vxbrush.cpp
+    vxbitmap.cpp
+    vxrgn.cpp
+    vxpalette.cpp
+    vxfont.cpp
     vxdc.cpp
     vximagelist.cpp)
