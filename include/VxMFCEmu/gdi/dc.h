@@ -23,6 +23,8 @@
 #include <VxMFCEmu/core/object.h>
 #include <VxMFCEmu/gdi/dccodes.h>
 #include <VxMFCEmu/gdi/palette.h>
+#include <VxMFCEmu/gdi/rgn.h>
+#include <VxMFCEmu/gdi/selectedobject.h>
 #include <VxMFCEmu/gdi/vxcolor.h>
 #include <VxMFCEmu/wnd/geometry.h>
 
@@ -36,13 +38,13 @@ class CBrush_E;
 class CFont_E;
 class CHandleMap_E;
 class CPen_E;
-class CRgn_E;
 class CString_E;
 class CWnd_E;
 struct tagTEXTMETRICW;
 
 namespace vx::detail {
 class DcDevice;
+class MemoryDevice;
 }
 
 /// A device context. Has no meta object and no class record of its own.
@@ -98,6 +100,7 @@ public:
 
     /// Sets the font and returns the previous one; null changes nothing.
     QFont SelectObject(CFont_E* pFont);
+    QFont SelectObject(const QFont& font);
     QPen SelectObject(const QPen& pen);
     QBrush SelectObject(const QBrush& brush);
     /// Sets the pen, unless it is null or empty, and returns an object that holds the previous one:
@@ -349,11 +352,11 @@ private:
         Chord
     };
 
-    BOOL DrawArcKind(ArcKind kind, const QRect& rect, tagPOINT start, tagPOINT end);
+    BOOL DrawArcKind(ArcKind kind, const tagRECT* pRect, tagPOINT start, tagPOINT end);
     int DrawTextInRect(const QString& str, const tagRECT* pRect, int nFormat);
     BOOL TextOutAt(int x, int y, const QString& str, const int* pDxWidths);
     void InvertWidget(const QRect& deviceRect);
-    void MoveOnto(QImage* pImage);
+    void MoveOnto(vx::detail::MemoryDevice* pMemory, HBITMAP hBitmap);
     void SetScale(const QSize& window, const QSize& viewport);
 
 public:
@@ -372,8 +375,8 @@ private:
     QVector<tagPALETTEENTRY> m_colorTable;
     COLORREF m_textColor = 0xFFFFFFFF;
     Modes m_modes;
-    const void* m_pPenHandle = nullptr;   // of the pen selected last, compared only
-    const void* m_pBrushHandle = nullptr; // of the brush selected last, compared only
+    vx::detail::SelectedPen m_selectedPen;
+    vx::detail::SelectedBrush m_selectedBrush;
     std::unique_ptr<vx::detail::DcDevice> m_pDevice;
 };
 

@@ -75,9 +75,7 @@ inline constexpr int MM_TWIPS = 6;
 inline constexpr int MM_ISOTROPIC = 7;
 inline constexpr int MM_ANISOTROPIC = 8;
 
-// Polygon filling, stretching, direction of arcs
-inline constexpr int ALTERNATE = 1;
-inline constexpr int WINDING = 2;
+// Stretching, direction of arcs
 inline constexpr int BLACKONWHITE = 1;
 inline constexpr int WHITEONBLACK = 2;
 inline constexpr int COLORONCOLOR = 3;

@@ -4,9 +4,7 @@
 /// Threads: any.
 #pragma once
 
-#include <VxMFCEmu/types.h>
-
-#include <QtGui/QColor>
+#include <VxMFCEmu/gdi/colorref.h>
 
 #include <type_traits>
 
@@ -18,24 +16,13 @@ public:
     VxColor(Qt::GlobalColor color) : QColor(color) {}
     /// A COLORREF, 0x00BBGGRR. Not a `QRgb`: wrap that one in a `QColor`.
     template <typename T, typename = std::enable_if_t<std::is_integral_v<T>>>
-    VxColor(T value) : QColor(part(value, 0), part(value, 8), part(value, 16))
+    VxColor(T value) : QColor(vx::detail::toQColor(static_cast<COLORREF>(value)))
     {
     }
 
-    operator COLORREF() const
-    {
-        return static_cast<COLORREF>(red()) | static_cast<COLORREF>(green()) << 8 |
-               static_cast<COLORREF>(blue()) << 16;
-    }
+    operator COLORREF() const { return vx::detail::toColorRef(*this); }
     bool operator==(const QColor& other) const { return QColor::operator==(other); }
     bool operator!=(const QColor& other) const { return QColor::operator!=(other); }
     bool operator==(COLORREF other) const { return static_cast<COLORREF>(*this) == other; }
     bool operator!=(COLORREF other) const { return !(*this == other); }
-
-private:
-    template <typename T>
-    static int part(T value, int shift)
-    {
-        return static_cast<int>((static_cast<COLORREF>(value) >> shift) & 0xFFU);
-    }
 };

@@ -1,0 +1,51 @@
+// Private: what the sources of the device context share.
+#pragma once
+
+#include "wnd/vxgeometryconvert_p.h"
+
+#include <VxMFCEmu/gdi/dc.h>
+
+namespace vx::detail {
+
+/// The value of a GDI object; null for null and empty objects.
+template <typename Value>
+Value* valueOf(CGdiObject_E* pObject)
+{
+    return static_cast<Value*>(pObject->GetSafeHandle());
+}
+
+/// Restores all attributes of a painter at the end of a scope.
+class PainterState
+{
+public:
+    explicit PainterState(QPainter& painter) : m_painter(painter) { m_painter.save(); }
+    ~PainterState() { m_painter.restore(); }
+    PainterState(const PainterState&) = delete;
+    PainterState& operator=(const PainterState&) = delete;
+
+private:
+    QPainter& m_painter;
+};
+
+/// Sets a composition mode for a scope.
+class CompositionScope
+{
+public:
+    CompositionScope(QPainter& painter, QPainter::CompositionMode mode)
+        : m_painter(painter), m_previous(painter.compositionMode())
+    {
+        m_painter.setCompositionMode(mode);
+    }
+    ~CompositionScope() { m_painter.setCompositionMode(m_previous); }
+    CompositionScope(const CompositionScope&) = delete;
+    CompositionScope& operator=(const CompositionScope&) = delete;
+
+private:
+    QPainter& m_painter;
+    QPainter::CompositionMode m_previous;
+};
+
+/// The bounds of the device in logical coordinates; empty without one.
+QRect logicalBounds(const QPainter& painter);
+
+} // namespace vx::detail
