@@ -24,4 +24,6 @@ vxmfc_sources(FOLDER gdi
     vxpalette.cpp
     vxfont.cpp
     vxdc.cpp
-    vximagelist.cpp)
+    vximagelist.cpp
+    vximagelisthandle.cpp
+    vximageliststubs.cpp)
