@@ -38,5 +38,8 @@ vxmfc_sources(FOLDER gdi
     vxdccoords.cpp
     vxdcblit.cpp
     vxpaintdc.cpp
+    vxpainting.cpp
     vxctlcolor.cpp
-    vximagelist.cpp)
+    vximagelist.cpp
+    vximagelisthandle.cpp
+    vximageliststubs.cpp)

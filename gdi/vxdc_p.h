@@ -1,18 +1,12 @@
 // Private: what the sources of the device context share.
 #pragma once
 
+#include "gdi/vxgdihandles_p.h"
 #include "wnd/vxgeometryconvert_p.h"
 
 #include <VxMFCEmu/gdi/dc.h>
 
 namespace vx::detail {
-
-/// The value of a GDI object; null for null and empty objects.
-template <typename Value>
-Value* valueOf(CGdiObject_E* pObject)
-{
-    return static_cast<Value*>(pObject->GetSafeHandle());
-}
 
 /// Restores all attributes of a painter at the end of a scope.
 class PainterState

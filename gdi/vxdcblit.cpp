@@ -5,6 +5,7 @@
 
 #include <QtGui/QIcon>
 
+#include <algorithm>
 #include <optional>
 
 using namespace vx::detail;

@@ -99,7 +99,10 @@ int CDC_E::GetClipBox(tagRECT* pRect) const
     return region.rectCount() == 1 ? SIMPLEREGION : COMPLEXREGION;
 }
 
-BOOL CDC_E::PtVisible(int x, int y) const { return visibleRegion(m_painter).contains(QPoint(x, y)); }
+BOOL CDC_E::PtVisible(int x, int y) const
+{
+    return visibleRegion(m_painter).contains(QPoint(x, y));
+}
 
 BOOL CDC_E::RectVisible(const tagRECT* pRect) const
 {

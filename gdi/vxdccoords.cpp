@@ -1,6 +1,8 @@
 // Coordinates: mapping modes, origins and extents, and what the device is like.
 #include "gdi/vxdc_p.h"
 
+#include <cmath>
+
 using namespace vx::detail;
 
 namespace {
@@ -75,10 +77,11 @@ void CDC_E::SetScale(const QSize& window, const QSize& viewport)
     // Qt divides by the size of the window.
     if (window.width() == 0 || window.height() == 0)
         return;
-    const bool fits = m_modes.map == MM_ISOTROPIC && viewport.width() != 0 && viewport.height() != 0;
+    const bool fits =
+        m_modes.map == MM_ISOTROPIC && viewport.width() != 0 && viewport.height() != 0;
     m_painter.setWindow(QRect(m_painter.window().topLeft(), window));
-    m_painter.setViewport(QRect(m_painter.viewport().topLeft(),
-                                fits ? isotropic(window, viewport) : viewport));
+    m_painter.setViewport(
+        QRect(m_painter.viewport().topLeft(), fits ? isotropic(window, viewport) : viewport));
 }
 
 CPoint_E CDC_E::GetViewportOrg() const { return toPoint(m_painter.viewport().topLeft()); }

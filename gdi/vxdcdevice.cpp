@@ -53,8 +53,8 @@ public:
         if (!std::exchange(m_begun, false))
             return; // Qt shows it at the end of the paint event
         m_pStore->endPaint();
-        const QWidget* const pNative = pWidget->internalWinId() ? pWidget
-                                                                : pWidget->nativeParentWidget();
+        const QWidget* const pNative =
+            pWidget->internalWinId() ? pWidget : pWidget->nativeParentWidget();
         if (!pNative || !pNative->windowHandle())
             return;
         const QPoint offset = pNative->mapTo(pWidget->window(), QPoint());

@@ -64,8 +64,8 @@ public:
 private:
     CBitmap_E m_stock;
     HBITMAP m_hBitmap = nullptr;
-    // A device of our own over the bitmap's pixels, which the second one keeps alive: the bitmap may
-    // go first.
+    // A device of our own over the bitmap's pixels, which the second one keeps alive: the bitmap
+    // may go first.
     QImage m_image;
     QImage m_pixels;
 };

@@ -7,6 +7,8 @@
 
 #include <QtGui/QPainterPath>
 
+#include <algorithm>
+
 using namespace vx::detail;
 
 namespace {
@@ -17,8 +19,8 @@ bool canFillByRectangles(const QPainter& painter, const QBrush& brush)
 {
     const QTransform& transform = painter.deviceTransform();
     const QGradient* const pGradient = brush.gradient();
-    return transform.type() <= QTransform::TxTranslate && transform.dx() == qRound(transform.dx()) &&
-           transform.dy() == qRound(transform.dy()) &&
+    return transform.type() <= QTransform::TxTranslate &&
+           transform.dx() == qRound(transform.dx()) && transform.dy() == qRound(transform.dy()) &&
            !painter.testRenderHint(QPainter::Antialiasing) &&
            (!pGradient || pGradient->coordinateMode() == QGradient::LogicalMode);
 }
@@ -224,11 +226,10 @@ BOOL CDC_E::FrameRgn(CRgn_E* pRgn, CBrush_E* pBrush, int nWidth, int nHeight)
     const QRect inner = pRegion->boundingRect();
     const QRect outer = inner.adjusted(-nWidth, -nHeight, nWidth, nHeight);
     // Intended: bands on the outside of the bounds.
-    for (const QRect& band :
-         {QRect(outer.left(), inner.top(), nWidth, inner.height()),
-          QRect(inner.right() + 1, inner.top(), nWidth, inner.height()),
-          QRect(outer.left(), outer.top(), outer.width(), nHeight),
-          QRect(outer.left(), inner.bottom() + 1, outer.width(), nHeight)}) {
+    for (const QRect& band : {QRect(outer.left(), inner.top(), nWidth, inner.height()),
+                              QRect(inner.right() + 1, inner.top(), nWidth, inner.height()),
+                              QRect(outer.left(), outer.top(), outer.width(), nHeight),
+                              QRect(outer.left(), inner.bottom() + 1, outer.width(), nHeight)}) {
         if (band.isValid())
             m_painter.fillRect(band, *pValue);
     }

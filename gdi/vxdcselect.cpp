@@ -53,7 +53,10 @@ bool isIndex(const QVector<PALETTEENTRY>& table, int nIndex)
     return nIndex >= 0 && nIndex <= 255 && nIndex < table.size();
 }
 
-COLORREF colorOf(const PALETTEENTRY& entry) { return RGB(entry.peRed, entry.peGreen, entry.peBlue); }
+COLORREF colorOf(const PALETTEENTRY& entry)
+{
+    return RGB(entry.peRed, entry.peGreen, entry.peBlue);
+}
 
 } // namespace
 

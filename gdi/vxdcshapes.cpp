@@ -6,7 +6,9 @@
 #include <QtGui/QPainterPath>
 #include <QtGui/QPolygon>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 using namespace vx::detail;
 

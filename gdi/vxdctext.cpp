@@ -8,6 +8,10 @@
 #include <QtGui/QFontInfo>
 #include <QtGui/QFontMetrics>
 
+#include <climits>
+#include <cwchar>
+#include <numeric>
+
 using namespace vx::detail;
 
 namespace {

@@ -45,7 +45,7 @@ struct tagTEXTMETRICW;
 namespace vx::detail {
 class DcDevice;
 class MemoryDevice;
-}
+} // namespace vx::detail
 
 /// A device context. Has no meta object and no class record of its own.
 class VXMFC_EXPORT CDC_E : public CObject_E

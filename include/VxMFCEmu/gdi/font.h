@@ -140,5 +140,6 @@ protected:
 private:
     BOOL Create(const tagLOGFONT& logFont, const QFont& font);
 
-    tagLOGFONT m_logFont{};
+    tagLOGFONT m_logFont{}; ///< what the font was made from
+    bool m_hasLogFont = false;
 };
