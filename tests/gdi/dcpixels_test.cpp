@@ -87,10 +87,10 @@ const Case kCases[] = {
                [](P& p) { QPainterPath b(kQPoints[0]); b.cubicTo(kQPoints[1], kQPoints[2], kQPoints[3]);
                           b.cubicTo(kQPoints[4], kQPoints[5], kQPoints[6]); p.drawPath(b);
                           p.drawLine(1, 1, 3, 3); p.drawLine(3, 3, 40, 8); p.drawLine(40, 8, 0, 49); }},
-    {__LINE__, [](C& c) { c.Arc(10, 10, 31, 31, 40, 20, 20, 0); c.Pie(30, 20, 51, 41, 20, 30, 40, 60); },
-               [](P& p) { p.drawArc(10, 10, 21, 21, 0, 90 * 16); p.drawPie(30, 20, 21, 21, 180 * 16, 90 * 16); }},
-    {__LINE__, [](C& c) { c.SetArcDirection(AD_CLOCKWISE); c.Chord(10, 10, 31, 31, 40, 20, 20, 0); c.RoundRect(4, 5, 30, 20, 8, 6); },
-               [](P& p) { p.drawChord(10, 10, 21, 21, 90 * 16, 270 * 16); p.drawRoundedRect(corners(4, 5, 29, 19), 4, 3); }},
+    {__LINE__, [](C& c) { c.Arc(10, 10, 30, 30, 40, 20, 20, 0); c.Pie(30, 20, 50, 40, 20, 30, 40, 60); },
+               [](P& p) { p.drawArc(10, 10, 20, 20, 0, 90 * 16); p.drawPie(30, 20, 20, 20, 180 * 16, 90 * 16); }},
+    {__LINE__, [](C& c) { c.SetArcDirection(AD_CLOCKWISE); c.Chord(10, 10, 30, 30, 40, 20, 20, 0); c.RoundRect(4, 5, 30, 20, 8, 6); },
+               [](P& p) { p.drawChord(10, 10, 20, 20, 90 * 16, 270 * 16); p.drawRoundedRect(corners(4, 5, 29, 19), 4, 3); }},
     {__LINE__, [](C& c) { c.SelectObject(QPen(Qt::blue, 3)); c.SetPixel(8, 8, Qt::red); c.MoveTo(0, 0); c.LineTo(20, 0); },
                [](P& p) { p.setPen(Qt::red); p.drawPoint(8, 8); p.setPen(Qt::blue); p.drawLine(0, 0, 20, 0); }},
     {__LINE__, [](C& c) { auto r = rect(5, 6, 40, 30); c.DrawEdge(&r, EDGE_RAISED, BF_TOP | BF_RIGHT); c.SetROP2(R2_XORPEN); c.DrawEdge(&r, 0, BF_RECT); },

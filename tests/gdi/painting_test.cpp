@@ -227,9 +227,11 @@ TEST(ControlColors, AreAskedOfTheWindowAround)
     auto* const pBox = new QGroupBox(s.pWidget);
     auto* const pEdit = new QLineEdit(pBox);
     auto* const pButton = new QPushButton(pBox);
+    int y = 0;
     for (QWidget* const pControl : QList<QWidget*>{pLabel, pBox, pEdit, pButton}) {
-        pControl->setGeometry(5, 5, 50, 30);
+        pControl->setGeometry(5, y, 50, 30);
         pControl->show();
+        y = pControl == pLabel ? 35 : y == 35 ? 0 : 15;
     }
     EXPECT_TRUE(vxtest::waitUntil([&] { return s.view.kinds.size() == 4; }));
     EXPECT_EQ(s.view.kinds[pLabel], CTLCOLOR_STATIC);
