@@ -85,9 +85,18 @@ BOOL CRgn_E::CreatePolyPolygonRgn(const tagPOINT*, const int*, int, int) { retur
 
 BOOL CRgn_E::CreateFromData(const tagXFORM*, int, const tagRGNDATA*) { return 0; }
 
+BOOL CRgn_E::SetRegion(const QRegion& region)
+{
+    auto* const pOld = valueOf<QRegion>(this);
+    if (!pOld || vx::detail::isSharedHandle(pOld))
+        return Attach(new QRegion(region)); // the other objects keep the old one
+    *pOld = region;
+    return TRUE;
+}
+
 BOOL CRgn_E::SetRectRgn(int x1, int y1, int x2, int y2)
 {
-    return ReplaceHandle(new QRegion(withCorners(x1, y1, x2, y2)));
+    return SetRegion(withCorners(x1, y1, x2, y2));
 }
 
 BOOL CRgn_E::SetRectRgn(const tagRECT* lpRect)
@@ -97,10 +106,16 @@ BOOL CRgn_E::SetRectRgn(const tagRECT* lpRect)
 
 BOOL CRgn_E::CombineRgn(const CRgn_E* pRgn1, const CRgn_E* pRgn2, int nCombineMode)
 {
-    return ReplaceHandle(new QRegion(combined(regionOf(pRgn1), regionOf(pRgn2), nCombineMode)));
+    return SetRegion(combined(regionOf(pRgn1), regionOf(pRgn2), nCombineMode));
 }
 
-BOOL CRgn_E::CopyRgn(const CRgn_E* pRgnSrc) { return ReplaceHandle(vx::detail::handleOf(pRgnSrc)); }
+BOOL CRgn_E::CopyRgn(const CRgn_E* pRgnSrc)
+{
+    HRGN const hRgn = vx::detail::handleOf(pRgnSrc);
+    if (hRgn && hRgn != m_hObject)
+        DeleteObject();
+    return Attach(hRgn);
+}
 
 BOOL CRgn_E::EqualRgn(const CRgn_E* pRgn) const { return m_hObject == vx::detail::handleOf(pRgn); }
 
