@@ -3,6 +3,8 @@
 #include "gdi/vxgdiobject_p.h"
 #include "wnd/vxgeometryconvert_p.h"
 
+#include <VxMFCEmu/gdi/dc.h>
+
 #include <QtGui/QPainterPath>
 #include <QtGui/QRegion>
 
@@ -82,6 +84,14 @@ BOOL CRgn_E::CreatePolygonRgn(const tagPOINT* lpPoints, int nCount, int)
 }
 
 BOOL CRgn_E::CreatePolyPolygonRgn(const tagPOINT*, const int*, int, int) { return 1; }
+
+BOOL CRgn_E::CreateFromPath(CDC_E* pDC)
+{
+    if (!pDC)
+        return FALSE;
+    const QPainter& painter = pDC->m_painter;
+    return Attach(painter.isActive() ? new QRegion(painter.clipRegion()) : new QRegion);
+}
 
 BOOL CRgn_E::CreateFromData(const tagXFORM*, int, const tagRGNDATA*) { return 0; }
 

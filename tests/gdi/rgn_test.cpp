@@ -100,6 +100,23 @@ TEST_F(Regions, CopySharesTheHandle)
     EXPECT_FALSE(m_b.EqualRgn(nullptr));
 }
 
+TEST_F(Regions, FromPathTakesTheClip)
+{
+    QImage image(20, 20, QImage::Format_RGB32);
+    CDC_E dc(&image);
+    CDC_E inactive;
+    dc.SelectClipRgn(&m_b);
+    CRgn_E rgn;
+    EXPECT_TRUE(rgn.CreateFromPath(&inactive));
+    EXPECT_TRUE(regionOf(rgn).isEmpty());
+    EXPECT_TRUE(rgn.SetRectRgn(0, 0, 1, 1));
+    rgn.DeleteObject();
+    EXPECT_TRUE(rgn.CreateFromPath(&dc));
+    EXPECT_EQ(regionOf(rgn), regionOf(m_b));
+    EXPECT_FALSE(rgn.CreateFromPath(nullptr));
+    EXPECT_EQ(regionOf(rgn), regionOf(m_b));
+}
+
 TEST_F(Regions, FailuresAndStubs)
 {
     CRgn_E empty;
