@@ -41,6 +41,12 @@ void releaseHandle(HGDIOBJ h)
         rows.erase(it);
 }
 
+bool isSharedHandle(HGDIOBJ h)
+{
+    const auto it = rows.find(h);
+    return it != rows.end() && it->second.nHolders > 1;
+}
+
 void freeUnheldHandle(HGDIOBJ h, FreeHandleFn pfnFree)
 {
     if (const auto it = rows.find(h); it != rows.end()) {

@@ -15,6 +15,8 @@ extern unsigned long gdiGeneration;
 void holdHandle(HGDIOBJ h, FreeHandleFn pfnFree);
 /// Counts one less.
 void releaseHandle(HGDIOBJ h);
+/// Whether more than one object holds @p h.
+bool isSharedHandle(HGDIOBJ h);
 /// Frees the value of @p h unless an object holds it: as remembered, else by @p pfnFree if that is
 /// not null.
 void freeUnheldHandle(HGDIOBJ h, FreeHandleFn pfnFree);

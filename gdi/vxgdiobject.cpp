@@ -6,7 +6,11 @@
 
 IMPLEMENT_DYNAMIC_E(CGdiObject_E, CObject_E, QObject)
 
-CGdiObject_E::~CGdiObject_E() { CGdiObject_E::DeleteObject(); }
+CGdiObject_E::~CGdiObject_E()
+{
+    // The class is forgotten by now, but not how a handle that it was attached to is freed.
+    vx::detail::freeUnheldHandle(Detach(), nullptr);
+}
 
 HGDIOBJ CGdiObject_E::GetSafeHandle() const
 {
@@ -22,7 +26,7 @@ BOOL CGdiObject_E::Attach(HGDIOBJ h)
 {
     if (!h)
         return FALSE;
-    if (h == m_hObject && afxMapHGDIOBJ_E(TRUE)->LookupPermanent(h) == this)
+    if (h == m_hObject)
         return TRUE;
     Detach();
     vx::detail::attachHandle(this, &CGdiObject_E::m_hObject, h, &afxMapHGDIOBJ_E);
@@ -33,9 +37,11 @@ BOOL CGdiObject_E::Attach(HGDIOBJ h)
 
 HGDIOBJ CGdiObject_E::Detach()
 {
+    if (!m_hObject)
+        return nullptr;
     // A temporary object does not count among the holders.
     CHandleMap_E* const pMap = afxMapHGDIOBJ_E(FALSE);
-    const bool holds = m_hObject && !(pMap && pMap->LookupTemporary(m_hObject) == this);
+    const bool holds = !(pMap && pMap->LookupTemporary(m_hObject) == this);
     const HGDIOBJ h = vx::detail::detachHandle(this, &CGdiObject_E::m_hObject, &afxMapHGDIOBJ_E);
     if (holds)
         vx::detail::releaseHandle(h);
@@ -55,15 +61,6 @@ BOOL CGdiObject_E::DeleteObject()
 int CGdiObject_E::GetObject(int, LPVOID) const { return 0; }
 
 CGdiObject_E::FreeHandleFn CGdiObject_E::HandleDeleter() const { return nullptr; }
-
-BOOL CGdiObject_E::ReplaceHandle(HGDIOBJ h)
-{
-    if (!h)
-        return FALSE;
-    if (h != m_hObject)
-        DeleteObject();
-    return Attach(h);
-}
 
 void CGdiObject_E::DeleteTempMap()
 {

@@ -3,6 +3,8 @@
 #include "gdi/vxgdiobject_p.h"
 #include "wnd/vxgeometryconvert_p.h"
 
+#include <VxMFCEmu/gdi/dc.h>
+
 #include <QtGui/QPainterPath>
 #include <QtGui/QRegion>
 
@@ -83,11 +85,28 @@ BOOL CRgn_E::CreatePolygonRgn(const tagPOINT* lpPoints, int nCount, int)
 
 BOOL CRgn_E::CreatePolyPolygonRgn(const tagPOINT*, const int*, int, int) { return 1; }
 
+BOOL CRgn_E::CreateFromPath(CDC_E* pDC)
+{
+    if (!pDC)
+        return FALSE;
+    const QPainter& painter = pDC->m_painter;
+    return Attach(painter.isActive() ? new QRegion(painter.clipRegion()) : new QRegion);
+}
+
 BOOL CRgn_E::CreateFromData(const tagXFORM*, int, const tagRGNDATA*) { return 0; }
+
+BOOL CRgn_E::SetRegion(const QRegion& region)
+{
+    auto* const pOld = valueOf<QRegion>(this);
+    if (!pOld || vx::detail::isSharedHandle(pOld))
+        return Attach(new QRegion(region)); // the other objects keep the old one
+    *pOld = region;
+    return TRUE;
+}
 
 BOOL CRgn_E::SetRectRgn(int x1, int y1, int x2, int y2)
 {
-    return ReplaceHandle(new QRegion(withCorners(x1, y1, x2, y2)));
+    return SetRegion(withCorners(x1, y1, x2, y2));
 }
 
 BOOL CRgn_E::SetRectRgn(const tagRECT* lpRect)
@@ -97,10 +116,16 @@ BOOL CRgn_E::SetRectRgn(const tagRECT* lpRect)
 
 BOOL CRgn_E::CombineRgn(const CRgn_E* pRgn1, const CRgn_E* pRgn2, int nCombineMode)
 {
-    return ReplaceHandle(new QRegion(combined(regionOf(pRgn1), regionOf(pRgn2), nCombineMode)));
+    return SetRegion(combined(regionOf(pRgn1), regionOf(pRgn2), nCombineMode));
 }
 
-BOOL CRgn_E::CopyRgn(const CRgn_E* pRgnSrc) { return ReplaceHandle(vx::detail::handleOf(pRgnSrc)); }
+BOOL CRgn_E::CopyRgn(const CRgn_E* pRgnSrc)
+{
+    HRGN const hRgn = vx::detail::handleOf(pRgnSrc);
+    if (hRgn && hRgn != m_hObject)
+        DeleteObject();
+    return Attach(hRgn);
+}
 
 BOOL CRgn_E::EqualRgn(const CRgn_E* pRgn) const { return m_hObject == vx::detail::handleOf(pRgn); }
 

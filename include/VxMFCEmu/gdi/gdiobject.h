@@ -50,8 +50,6 @@ protected:
     using FreeHandleFn = void (*)(HGDIOBJ);
     /// What frees a handle of this class; null when the class does not tell the type of the value.
     virtual FreeHandleFn HandleDeleter() const;
-    /// Exchanges the handle for @p h, freeing the old one.
-    BOOL ReplaceHandle(HGDIOBJ h);
 };
 
 /// The map of GDI objects, made when @p bCreate is set; null while there is none.

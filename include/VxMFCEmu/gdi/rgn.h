@@ -27,6 +27,7 @@ inline constexpr int WINDING = 2;
 inline constexpr DWORD GDI_ERROR = 0xFFFFFFFF;
 
 class CDC_E;
+class QRegion;
 struct tagRGNDATA;
 struct tagXFORM;
 
@@ -85,4 +86,7 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
 
 protected:
     FreeHandleFn HandleDeleter() const override;
+
+private:
+    BOOL SetRegion(const QRegion& region);
 };
