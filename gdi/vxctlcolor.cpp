@@ -50,11 +50,14 @@ struct Colors
     QBrush background;
 };
 
-Colors askWindow(CWnd_E& window, QWidget& control, UINT nKind)
+Colors askWindow(CWnd_E& window, QWidget& control, const QPalette& original, UINT nKind)
 {
+    // Begins with the control's own colours each time: those of the last answer are no default.
     CDC_E dc(&control);
-    const QColor text = dc.GetTextColor();
-    const QColor background = dc.GetBkColor();
+    const QColor text = original.color(control.foregroundRole());
+    const QColor background = original.color(control.backgroundRole());
+    dc.m_painter.setPen(text);
+    dc.m_painter.setBackground(background);
     LRESULT result = 0;
     window.CallWndMsg(WM_CTLCOLORMSGBOX + nKind, reinterpret_cast<WPARAM>(&dc),
                       reinterpret_cast<LPARAM>(&control), &result);
@@ -134,12 +137,13 @@ private:
             return;
         const QPointer<QWidget> control(pWidget);
         const QPointer<ControlColors> self(this);
-        const Colors colors = askWindow(*m_window, *pWidget, nKind);
+        const QPalette original = palettesOf(*pWidget).original;
+        const Colors colors = askWindow(*m_window, *pWidget, original, nKind);
         if (self && control)
             apply(*pWidget, colors);
     }
 
-    void apply(QWidget& control, const Colors& colors)
+    Palettes& palettesOf(QWidget& control)
     {
         auto it = m_palettes.find(&control);
         if (it == m_palettes.end()) {
@@ -147,10 +151,16 @@ private:
             connect(&control, &QObject::destroyed, this,
                     [this](QObject* pControl) { m_palettes.remove(pControl); });
         }
-        const QPalette palette = colored(it->original, colors);
-        if (palette == it->applied)
+        return *it;
+    }
+
+    void apply(QWidget& control, const Colors& colors)
+    {
+        Palettes& palettes = palettesOf(control);
+        const QPalette palette = colored(palettes.original, colors);
+        if (palette == palettes.applied)
             return;
-        it->applied = palette;
+        palettes.applied = palette;
         // Shown from the next painting on, which this schedules.
         control.setAutoFillBackground(colors.background.style() != Qt::NoBrush);
         control.setPalette(palette);

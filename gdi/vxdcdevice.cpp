@@ -165,7 +165,10 @@ CBitmap_E* MemoryDevice::selected()
     if (!pObject)
         pObject = pMap->LookupTemporary(m_hBitmap);
     auto* const pBitmap = dynamic_cast<CBitmap_E*>(pObject);
-    return pBitmap ? pBitmap : &m_stock;
+    // Another image may have taken the place of a dead one, but not its pixels: they are held.
+    const bool same =
+        pBitmap && static_cast<const QImage*>(m_hBitmap)->constBits() == m_pixels.constBits();
+    return same ? pBitmap : &m_stock;
 }
 
 void MemoryDevice::select(HBITMAP hBitmap)

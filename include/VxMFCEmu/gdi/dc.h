@@ -5,7 +5,8 @@
 /// COLORREF values or `QColor`s (VxColor takes both). A `tagRECT`, whose right and bottom are
 /// exclusive, is drawn as the `QRect` whose inclusive corners are (left, top) and (right - 1,
 /// bottom - 1). Members that are not drawn for want of a device, of an object or of a handle do
-/// nothing and give the stated failure value; nothing throws or logs.
+/// nothing and give the stated failure value; nothing throws or logs, but Qt warns of a painter
+/// that is not active.
 ///
 /// Differs from Win32: results that look odd are meant, each is named where it is declared. An
 /// outline lies, as Qt draws it, on the right and bottom edges, one pixel beyond what a fill
