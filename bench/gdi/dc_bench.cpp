@@ -3,7 +3,6 @@
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
-#include <QtGui/QPainterPath>
 
 #include <benchmark/benchmark.h>
 
@@ -140,21 +139,6 @@ void FillRegion_raw(benchmark::State& state)
     }
 }
 BENCHMARK(FillRegion_raw)->Arg(1)->Arg(10)->Arg(80);
-// What the general path filler takes for it.
-void FillRegionPath_raw(benchmark::State& state)
-{
-    QImage image = canvas();
-    QPainter painter(&image);
-    const QRegion region = checkers(static_cast<int>(state.range(0)));
-    const QBrush brush(QColor(0, 128, 255));
-    for (auto _ : state) {
-        QPainterPath path;
-        for (const QRect& rect : region)
-            path.addRect(rect);
-        painter.fillPath(path, brush);
-    }
-}
-BENCHMARK(FillRegionPath_raw)->Arg(1)->Arg(10)->Arg(80);
 
 void SelectPens(benchmark::State& state)
 {

@@ -77,6 +77,8 @@ const Case kCases[] = {
                [](P& p) { p.drawLine(3, 4, 40, 30); p.drawLine(40, 30, 5, 45); }},
     {__LINE__, [](C& c) { c.Rectangle(4, 5, 30, 20); auto r = rect(32, 22, 50, 40); c.Rectangle(&r); },
                [](P& p) { p.drawRect(corners(4, 5, 29, 19)); p.drawRect(corners(32, 22, 49, 39)); }},
+    {__LINE__, [](C& c) { c.SelectObject(QPen(Qt::NoPen)); c.SelectObject(&green()); c.Rectangle(0, 0, 10, 10); },
+               [](P& p) { p.fillRect(0, 0, 10, 10, kGreen); }},
     {__LINE__, [](C& c) { auto r = rect(4, 5, 30, 20); c.Ellipse(&r); c.Ellipse(20, 22, 30, 20); },
                [](P& p) { p.drawEllipse(corners(4, 5, 29, 19)); p.drawEllipse(corners(20, 22, 49, 41)); }},
     {__LINE__, [](C& c) { c.Polyline(kPoints, 4); c.Polygon(kPoints + 3, 4); },

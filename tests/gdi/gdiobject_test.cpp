@@ -1,6 +1,8 @@
 // How GDI objects hold, share and free their handles, the same for every class.
 #include <VxMFCEmu/gdi.h>
 
+#include "gdi/zeros.h"
+
 namespace {
 
 BOOL create(CPen_E& pen) { return pen.CreatePen(PS_SOLID, 3, RGB(1, 2, 3)); }
@@ -9,13 +11,14 @@ BOOL create(CBitmap_E& bitmap) { return bitmap.CreateCompatibleBitmap(nullptr, 4
 BOOL create(CRgn_E& rgn) { return rgn.CreateEllipticRgn(0, 0, 30, 30); }
 BOOL create(CFont_E& font) { return font.CreatePointFont(120, L"Sans"); }
 
-void freeHandle(HGDIOBJ h) { EXPECT_TRUE(CGdiObject_E::FromHandle(h)->DeleteObject()); }
+struct FreshMap : testing::Test
+{
+    ~FreshMap() override { CGdiObject_E::DeleteTempMap(); }
+};
 
 template <typename T>
-class GdiObject : public testing::Test
+class GdiObject : public FreshMap
 {
-public:
-    void TearDown() override { CGdiObject_E::DeleteTempMap(); }
 };
 using Kinds = testing::Types<CPen_E, CBrush_E, CBitmap_E, CRgn_E, CFont_E>;
 TYPED_TEST_SUITE(GdiObject, Kinds);
@@ -23,31 +26,19 @@ TYPED_TEST_SUITE(GdiObject, Kinds);
 TYPED_TEST(GdiObject, IsEmptyUntilCreatedAndOnceDeleted)
 {
     TypeParam object;
-    const auto expectEmpty = [&object] {
-        EXPECT_EQ(object.GetSafeHandle(), nullptr);
-        EXPECT_FALSE(object.DeleteObject());
-        EXPECT_EQ(object.Detach(), nullptr);
-        EXPECT_FALSE(object.Attach(nullptr));
-    };
-    expectEmpty();
+    EXPECT_EQ(object.GetSafeHandle(), nullptr);
     ASSERT_TRUE(create(object));
+    const HGDIOBJ old = object;
+    ASSERT_TRUE(create(object));
+    EXPECT_NE(CGdiObject_E::FromHandle(old), &object) << "let go, not freed";
+    EXPECT_TRUE(CGdiObject_E::FromHandle(old)->DeleteObject());
     EXPECT_EQ(TypeParam::FromHandle(object), &object);
     EXPECT_EQ(object.GetObject(100, &object), 0);
     EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS_E(CGdiObject_E)));
     CGdiObject_E& base = object;
     EXPECT_TRUE(base.DeleteObject());
-    expectEmpty();
-}
-
-TYPED_TEST(GdiObject, LetsTheOldHandleGoWhenCreatedAgain)
-{
-    TypeParam object;
-    create(object);
-    HGDIOBJ const old = object.m_hObject;
-    ASSERT_TRUE(create(object));
-    EXPECT_NE(object.m_hObject, old);
-    EXPECT_NE(CGdiObject_E::FromHandle(old), &object);
-    freeHandle(old);
+    expectZeros({base.DeleteObject(), base.Attach(nullptr)});
+    EXPECT_EQ(object.Detach(), nullptr);
 }
 
 TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
@@ -95,10 +86,9 @@ TEST(GdiObjects, HandleOfAnotherClassGivesNoObject)
     CGdiObject_E::DeleteTempMap();
 }
 
-class Selection : public testing::Test
+class Selection : public FreshMap
 {
 public:
-    void TearDown() override { CGdiObject_E::DeleteTempMap(); }
     CPen_E* select(CPen_E* pPen)
     {
         CPen_E* const pPrevious = m_selected.objectOf(m_current);
