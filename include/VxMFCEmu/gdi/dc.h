@@ -198,8 +198,11 @@ public:
     BOOL Chord(int l, int t, int r, int b, int xStart, int yStart, int xEnd, int yEnd);
     BOOL Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end);
     /// Draws one point and leaves a plain pen of the previous pen's colour. Returns @p color.
-    VxColor SetPixel(int x, int y, VxColor color);
-    VxColor SetPixel(tagPOINT point, VxColor color) { return SetPixel(point.x, point.y, color); }
+    VxColor SetPixel(int x, int y, const VxColor& color);
+    VxColor SetPixel(tagPOINT point, const VxColor& color)
+    {
+        return SetPixel(point.x, point.y, color);
+    }
     /// The colour of a pixel of an image or a widget; 0xFFFFFFFF outside of the clip and on other
     /// devices.
     COLORREF GetPixel(int x, int y) const;
@@ -208,11 +211,12 @@ public:
     // Fills
 
     /// Without an outline.
-    void FillSolidRect(int x, int y, int cx, int cy, VxColor color);
-    void FillSolidRect(const tagRECT* pRect, VxColor color);
+    void FillSolidRect(int x, int y, int cx, int cy, const VxColor& color);
+    void FillSolidRect(const tagRECT* pRect, const VxColor& color);
     void FillRect(const tagRECT* pRect, CBrush_E* pBrush);
-    void Draw3dRect(int x, int y, int cx, int cy, VxColor topLeft, VxColor bottomRight);
-    void Draw3dRect(const tagRECT* pRect, VxColor topLeft, VxColor bottomRight);
+    void Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
+                    const VxColor& bottomRight);
+    void Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight);
     /// See DrawEdge_E().
     BOOL DrawEdge(tagRECT* pRect, UINT nEdge, UINT nFlags);
     /// Inverts a dotted frame: drawn twice, it is gone.
