@@ -178,6 +178,7 @@ TEST(DcSelect, BitmapsOfMemoryDeviceContexts)
     other.CreateBitmap(4, 4, 1, 1, nullptr);
     EXPECT_EQ(memory.SelectObject(&other), pStock); // stands in for the dead one
     EXPECT_EQ(memory.SelectObject(pStock), &other);
+    other.DeleteObject();
     other.CreateBitmap(4, 4, 1, 4, nullptr); // a format Qt does not paint on
     EXPECT_EQ(memory.SelectObject(&other), nullptr);
     EXPECT_EQ(memory.DeleteDC(), TRUE);
@@ -277,9 +278,10 @@ TEST(DcText, QtFlagsOfWin32Flags)
 }
 
 // Windows sources ask null objects.
-__attribute__((noinline, no_sanitize("undefined"))) HDC handleOf(const CDC_E* pDC)
+__attribute__((no_sanitize("undefined"))) HDC handleOfNone()
 {
-    return pDC->GetSafeHdc();
+    const CDC_E* const volatile pNone = nullptr;
+    return pNone->GetSafeHdc();
 }
 
 TEST(DcHandles, AttachAndDetach)
@@ -294,7 +296,7 @@ TEST(DcHandles, AttachAndDetach)
     EXPECT_EQ(dc.m_hAttribDC, nullptr);
     EXPECT_NE(CDC_E::FromHandle(&target), &dc);
     CDC_E::DeleteTempMap();
-    EXPECT_EQ(handleOf(nullptr), nullptr);
+    EXPECT_EQ(handleOfNone(), nullptr);
 }
 
 // Nothing here may crash or be reported; no painter is there, or its device has died.

@@ -240,6 +240,7 @@ TEST(ControlColors, AreAskedOfTheWindowAround)
     EXPECT_EQ(s.view.kinds[pButton], CTLCOLOR_BTN);
     EXPECT_EQ(pLabel->palette().color(QPalette::WindowText), QColor(Qt::red));
     EXPECT_EQ(pLabel->palette().color(QPalette::Window), QColor(Qt::yellow));
+    s.view.brush.DeleteObject();
     s.view.brush.CreateSolidBrush(RGB(0, 255, 255));
     pLabel->update();
     EXPECT_TRUE(vxtest::waitUntil(
