@@ -1,9 +1,45 @@
 vxmfc_sources(FOLDER gdi
   HEADERS
+    gdi/bitmap.h
+    gdi/brush.h
+    gdi/colorref.h
     gdi/dc.h
+    gdi/dccodes.h
+    gdi/drawtext.h
+    gdi/font.h
     gdi/gdiobject.h
     gdi/imagelist.h
+    gdi/paintdc.h
+    gdi/palette.h
+    gdi/pen.h
+    gdi/rgn.h
+    gdi/selectedobject.h
+    gdi/syscolors.h
+    gdi/textmetrics.h
+    gdi/vxcolor.h
   SOURCES
+    vxgdihandles.cpp
     vxgdiobject.cpp
+    vxselectedobject.cpp
+    vxsyscolors.cpp
+    vxpen.cpp
+    vxbrush.cpp
+    vxbitmap.cpp
+    vxrgn.cpp
+    vxpalette.cpp
+    vxfont.cpp
+    vxdcdevice.cpp
     vxdc.cpp
-    vximagelist.cpp)
+    vxdcselect.cpp
+    vxdcshapes.cpp
+    vxdcfill.cpp
+    vxdctext.cpp
+    vxdcclip.cpp
+    vxdccoords.cpp
+    vxdcblit.cpp
+    vxpaintdc.cpp
+    vxpainting.cpp
+    vxctlcolor.cpp
+    vximagelist.cpp
+    vximagelisthandle.cpp
+    vximageliststubs.cpp)

@@ -1,4 +1,4 @@
-#include <VxMFCEmu/gdi/gdiobject.h>
+#include "gdi/vxgdiobject_p.h"
 
 #include "gdi/vxhandleobject_p.h"
 
@@ -6,7 +6,11 @@
 
 IMPLEMENT_DYNAMIC_E(CGdiObject_E, CObject_E, QObject)
 
-CGdiObject_E::~CGdiObject_E() { Detach(); }
+CGdiObject_E::~CGdiObject_E()
+{
+    // The class is forgotten by now, but not how a handle that it was attached to is freed.
+    vx::detail::freeUnheldHandle(Detach(), nullptr);
+}
 
 HGDIOBJ CGdiObject_E::GetSafeHandle() const
 {
@@ -20,21 +24,59 @@ CGdiObject_E* CGdiObject_E::FromHandle(HGDIOBJ h)
 
 BOOL CGdiObject_E::Attach(HGDIOBJ h)
 {
-    return vx::detail::attachHandle(this, &CGdiObject_E::m_hObject, h, &afxMapHGDIOBJ_E);
+    if (!h)
+        return FALSE;
+    if (h == m_hObject)
+        return TRUE;
+    Detach();
+    vx::detail::attachHandle(this, &CGdiObject_E::m_hObject, h, &afxMapHGDIOBJ_E);
+    vx::detail::holdHandle(h, HandleDeleter());
+    ++vx::detail::gdiGeneration;
+    return TRUE;
 }
 
 HGDIOBJ CGdiObject_E::Detach()
 {
-    return vx::detail::detachHandle(this, &CGdiObject_E::m_hObject, &afxMapHGDIOBJ_E);
+    if (!m_hObject)
+        return nullptr;
+    // A temporary object does not count among the holders.
+    CHandleMap_E* const pMap = afxMapHGDIOBJ_E(FALSE);
+    const bool holds = !(pMap && pMap->LookupTemporary(m_hObject) == this);
+    const HGDIOBJ h = vx::detail::detachHandle(this, &CGdiObject_E::m_hObject, &afxMapHGDIOBJ_E);
+    if (holds)
+        vx::detail::releaseHandle(h);
+    ++vx::detail::gdiGeneration;
+    return h;
 }
 
-void CGdiObject_E::DeleteTempMap() { vx::detail::deleteTemp(afxMapHGDIOBJ_E(FALSE)); }
+BOOL CGdiObject_E::DeleteObject()
+{
+    if (!GetSafeHandle())
+        return FALSE;
+    const FreeHandleFn pfnFree = HandleDeleter();
+    vx::detail::freeUnheldHandle(Detach(), pfnFree);
+    return TRUE;
+}
+
+int CGdiObject_E::GetObject(int, LPVOID) const { return 0; }
+
+CGdiObject_E::FreeHandleFn CGdiObject_E::HandleDeleter() const { return nullptr; }
+
+void CGdiObject_E::DeleteTempMap()
+{
+    vx::detail::deleteTemp(afxMapHGDIOBJ_E(FALSE));
+    vx::detail::deleteHeldValues();
+    ++vx::detail::gdiGeneration;
+}
 
 CHandleMap_E* afxMapHGDIOBJ_E(BOOL bCreate)
 {
     CHandleMap_E*& pMap = AfxGetModuleThreadState_E()->m_pmapHGDIOBJ;
-    if (!pMap && bCreate)
-        pMap = vx::detail::makeHandleMap<CGdiObject_E>(RUNTIME_CLASS_E(CGdiObject_E),
-                                                       &CGdiObject_E::m_hObject);
+    if (!pMap && bCreate) {
+        using Life = ConstructDestruct_E<CGdiObject_E>;
+        pMap = new CHandleMap_E(RUNTIME_CLASS_E(CGdiObject_E), &Life::Construct, &Life::Destruct,
+                                vx::detail::offsetOfMember(&CGdiObject_E::m_hObject), 1,
+                                vx::detail::kMaxGdiObjectSize);
+    }
     return pMap;
 }

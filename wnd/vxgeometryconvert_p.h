@@ -1,7 +1,7 @@
 // Private: points and rectangles from Qt and back. Qt's rectangles count right and bottom in.
 #pragma once
 
-#include <VxMFCEmu/types.h>
+#include <VxMFCEmu/wnd/rectfunctions.h>
 
 #include <QtCore/QPoint>
 #include <QtCore/QRect>
@@ -13,6 +13,11 @@ inline QPoint fromPoint(const tagPOINT& pt) { return {pt.x, pt.y}; }
 inline tagRECT toRect(const QRect& rc)
 {
     return {rc.x(), rc.y(), rc.x() + rc.width(), rc.y() + rc.height()};
+}
+/// The pixels of @p rc: its right and bottom are exclusive, those of the result are not.
+inline QRect fromRect(const tagRECT& rc)
+{
+    return {QPoint(rc.left, rc.top), QPoint(wrappingSub(rc.right, 1), wrappingSub(rc.bottom, 1))};
 }
 
 } // namespace vx::detail

@@ -3,6 +3,7 @@
 
 #include "core/vxdispatchguard_p.h"
 #include "wnd/vxeventtable_p.h"
+#include "wnd/vxpainting_p.h"
 #include "wnd/vxseesmessages_p.h"
 #include "wnd/vxsignatures_p.h"
 
@@ -57,9 +58,12 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
     if (PreTranslateMessage(&msg) || !guard.objectAlive())
         return true;
     TranslateMessage(watched, e, &msg);
+    if (e->type() == QEvent::Paint && guard.wrapperAlive() && guard.objectAlive() &&
+        m_mapMessages.count(WM_ERASEBKGND) != 0)
+        vx::detail::eraseBackground(*this, *static_cast<QWidget*>(watched));
     LRESULT result = 0;
-    const bool handled =
-        guard.wrapperAlive() && OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
+    const bool handled = guard.wrapperAlive() && guard.objectAlive() &&
+                         OnWndMsg(msg.message, msg.wParam, msg.lParam, &result);
     // Intended: a close that a handler did not accept goes no further either.
     if (handled && (e->isAccepted() || e->type() == QEvent::Close)) {
         if (e->type() == VxWinMsgEvent::EventType)
@@ -100,6 +104,17 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
     if (pResult)
         *pResult = result;
     return TRUE;
+}
+
+BOOL CWnd_E::CallWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    QEvent none(QEvent::None);
+    const QPointer<CWnd_E> self(this);
+    QEvent* const previous = std::exchange(m_pCurrentEvent, &none);
+    const BOOL bHandled = OnWndMsg(message, wParam, lParam, pResult);
+    if (self)
+        m_pCurrentEvent = previous;
+    return bHandled;
 }
 
 CWnd_E::Offer CWnd_E::OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult)

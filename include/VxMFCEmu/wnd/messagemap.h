@@ -108,14 +108,16 @@ protected:                                                                      
         message, nSig, vx::detail::eraseHandler<ThisClass_E, __VA_ARGS__>(&ThisClass_E::handler),  \
         nullptr);
 
+#define VXMFC_PAIR_ENTRY(nSig, handler, fn, fnE)                                                   \
+    vx::detail::pairEntry(                                                                         \
+        nSig, vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fn>(&ThisClass_E::handler),       \
+        vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fn>(&CWnd_E::handler),                       \
+        vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fnE>(&ThisClass_E::handler##_E),        \
+        vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fnE>(&CWnd_E::handler##_E))
 #define VXMFC_ON_WM_PAIR(message, nSig, handler, fn, fnE)                                          \
-    this->AddMsgMapEntry(                                                                          \
-        message,                                                                                   \
-        vx::detail::pairEntry(                                                                     \
-            nSig, vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fn>(&ThisClass_E::handler),   \
-            vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fn>(&CWnd_E::handler),                   \
-            vx::detail::eraseHandler<ThisClass_E, VXMFC_UNPACK fnE>(&ThisClass_E::handler##_E),    \
-            vx::detail::eraseHandler<CWnd_E, VXMFC_UNPACK fnE>(&CWnd_E::handler##_E)));
+    this->AddMsgMapEntry(message, VXMFC_PAIR_ENTRY(nSig, handler, fn, fnE));
+#define VXMFC_ON_CTLCOLOR(handler, fn, fnE)                                                        \
+    this->AddCtlColorEntry(VXMFC_PAIR_ENTRY(0, handler, fn, fnE));
 #define VXMFC_UNPACK(...) __VA_ARGS__
 
 // clang-format off
@@ -162,6 +164,7 @@ protected:                                                                      
 // Painting
 #define ON_WM_PAINT_E() VXMFC_ON_WM(WM_PAINT, 19, OnPaint, void())
 #define ON_WM_ERASEBKGND_E() VXMFC_ON_WM(WM_ERASEBKGND, 28, OnEraseBkgnd, BOOL(CDC_E*))
+#define ON_WM_CTLCOLOR_E() VXMFC_ON_CTLCOLOR(OnCtlColor, (HBRUSH(CDC_E*, QWidget*, UINT)), (HBRUSH(CDC_E*, CWnd_E*, UINT)))
 #define ON_WM_ICONERASEBKGND_E() VXMFC_ON_WM(WM_ICONERASEBKGND, 17, OnIconEraseBkgnd, void(CDC_E*))
 #define ON_WM_NCPAINT_E() VXMFC_ON_WM(WM_NCPAINT, 19, OnNcPaint, void())
 #define ON_WM_QUERYDRAGICON_E() VXMFC_ON_WM(WM_QUERYDRAGICON, 41, OnQueryDragIcon, HCURSOR())

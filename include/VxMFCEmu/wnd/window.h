@@ -129,6 +129,12 @@ public:
     /// Adds or replaces the entry of a message; see messagemap.h for the checked way to do so.
     void AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnE);
     void AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry);
+    /// Has @p entry answer WM_CTLCOLORMSGBOX to WM_CTLCOLORSTATIC, and sends the window the one of
+    /// each of its controls before that is painted. See ON_WM_CTLCOLOR_E.
+    void AddCtlColorEntry(const AFX_MSGMAP_ENTRY_E& entry);
+    /// OnWndMsg() aside from the current event: whatever the handler does to the accepted flag is
+    /// lost.
+    BOOL CallWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
@@ -141,6 +147,8 @@ public:
     /// Sets the accepted flag of the event being dispatched to this window; a handler that clears
     /// it lets the event go on to the widget.
     void SetCurrentEventAccepted(bool bAccepted);
+    /// The event being dispatched to this window; null outside of message handlers.
+    QEvent* GetCurrentEvent() const { return m_pCurrentEvent; }
     bool eventFilter(QObject* watched, QEvent* e) override;
 
     // Controls
@@ -439,6 +447,8 @@ private:
     };
     Offer OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     void FillIfSeen(tagMSG& msg) const;
+    template <UINT Kind>
+    LRESULT OnCtlColorMessage(WPARAM wParam, LPARAM lParam);
     void ForgetPending(const QEvent* e);
     QScrollBar* OwnScrollBar(int nBar) const;
     QScrollBar* MakeScrollBar(int nBar);

@@ -140,6 +140,8 @@ inline constexpr UINT WM_MENUCOMMAND = 0x0126;
 inline constexpr UINT WM_CHANGEUISTATE = 0x0127;
 inline constexpr UINT WM_UPDATEUISTATE = 0x0128;
 inline constexpr UINT WM_QUERYUISTATE = 0x0129;
+/// Names the handler of the seven messages below in a message map; is never sent.
+inline constexpr UINT WM_CTLCOLOR = 0x0019;
 inline constexpr UINT WM_CTLCOLORMSGBOX = 0x0132;
 inline constexpr UINT WM_CTLCOLOREDIT = 0x0133;
 inline constexpr UINT WM_CTLCOLORLISTBOX = 0x0134;

@@ -1,0 +1,162 @@
+// Copying images from one device context to another.
+#include "gdi/vxdc_p.h"
+
+#include "gdi/vxdcdevice_p.h"
+
+#include <QtGui/QIcon>
+
+#include <algorithm>
+#include <optional>
+
+using namespace vx::detail;
+
+namespace {
+
+using Mode = QPainter::CompositionMode;
+constexpr int kNone = -1;
+
+/// A raster operation in up to two steps: the source is drawn with one mode and the brush, or
+/// black where any brush does, is filled in with another.
+struct BlitRow
+{
+    DWORD rop;
+    int sourceMode;
+    int brushMode;
+    bool anyBrush;
+};
+
+// clang-format off
+constexpr BlitRow kBlitRows[] = {
+    {SRCCOPY,     Mode::CompositionMode_Source,                  kNone, false},
+    {SRCPAINT,    Mode::RasterOp_SourceOrDestination,            kNone, false},
+    {SRCAND,      Mode::RasterOp_SourceAndDestination,           kNone, false},
+    {SRCINVERT,   Mode::RasterOp_SourceXorDestination,           kNone, false},
+    {SRCERASE,    Mode::RasterOp_SourceAndNotDestination,        kNone, false},
+    {NOTSRCCOPY,  Mode::RasterOp_NotSource,                      kNone, false},
+    {NOTSRCERASE, Mode::RasterOp_NotSourceAndNotDestination,     kNone, false},
+    {MERGEPAINT,  Mode::RasterOp_NotSourceOrDestination,         kNone, false},
+    {MERGECOPY,   Mode::CompositionMode_Source,                  Mode::RasterOp_SourceAndDestination, false},
+    {PATPAINT,    Mode::RasterOp_NotSourceOrDestination,         Mode::RasterOp_SourceOrDestination, false},
+    {PATCOPY,     kNone,                                         Mode::CompositionMode_SourceOver, false},
+    {PATINVERT,   kNone,                                         Mode::RasterOp_SourceXorDestination, false},
+    {DSTINVERT,   kNone,                                         Mode::RasterOp_NotDestination, true},
+    {BLACKNESS,   kNone,                                         Mode::RasterOp_ClearDestination, true},
+    {WHITENESS,   kNone,                                         Mode::RasterOp_SetDestination, true},
+};
+// clang-format on
+static_assert(std::size(kBlitRows) == 15);
+
+/// Part of an image; negative extents run to the left and up.
+struct Source
+{
+    QImage image;
+    QRect rect;
+};
+
+/// The pixels of a rectangle of @p pDC; none when it has no image.
+std::optional<Source> sourceOf(CDC_E* pDC, const QRect& rect, bool copy)
+{
+    const QImage* const pPixels = pDC ? pixelsOf(pDC->m_painter) : nullptr;
+    if (!pPixels)
+        return std::nullopt;
+    const QRect onDevice = pDC->m_painter.deviceTransform().mapRect(rect);
+    if (copy)
+        return Source{pPixels->copy(onDevice), QRect(QPoint(), onDevice.size())};
+    // Without a reference of its own, since the painter of pDC goes on writing to the image.
+    QImage view(pPixels->constBits(), pPixels->width(), pPixels->height(), pPixels->bytesPerLine(),
+                pPixels->format());
+    view.setColorTable(pPixels->colorTable());
+    return Source{std::move(view), onDevice};
+}
+
+/// Makes both rectangles of positive extent; returns whether the image is mirrored in x and in y.
+std::pair<bool, bool> normalize(QRect& target, QRect& source)
+{
+    const bool x = (target.width() < 0) != (source.width() < 0);
+    const bool y = (target.height() < 0) != (source.height() < 0);
+    const auto upright = [](const QRect& rect) {
+        return QRect(rect.x() + qMin(0, rect.width()), rect.y() + qMin(0, rect.height()),
+                     qAbs(rect.width()), qAbs(rect.height()));
+    };
+    target = upright(target);
+    source = upright(source);
+    return {x, y};
+}
+
+void mirror(Source& source, std::pair<bool, bool> axes)
+{
+    if (!axes.first && !axes.second)
+        return;
+    source.image = source.image.copy(source.rect).mirrored(axes.first, axes.second);
+    source.rect.moveTo(0, 0);
+}
+
+} // namespace
+
+BOOL CDC_E::BitBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc, DWORD dwRop)
+{
+    return StretchBlt(x, y, cx, cy, pSrcDC, xSrc, ySrc, cx, cy, dwRop);
+}
+
+BOOL CDC_E::StretchBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc, int cxSrc,
+                       int cySrc, DWORD dwRop)
+{
+    const auto* const pRow = std::find_if(std::begin(kBlitRows), std::end(kBlitRows),
+                                          [dwRop](const BlitRow& row) { return row.rop == dwRop; });
+    if (pRow == std::end(kBlitRows) || !m_painter.isActive())
+        return FALSE;
+    QRect target(x, y, cx, cy);
+    QRect from(xSrc, ySrc, cxSrc, cySrc);
+    const auto mirrored = normalize(target, from);
+    std::optional<Source> source;
+    if (pRow->sourceMode != kNone) {
+        source = sourceOf(pSrcDC, from, pSrcDC == this);
+        if (!source)
+            return FALSE;
+        mirror(*source, mirrored);
+    }
+    const PainterState state(m_painter);
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform, m_modes.stretch == HALFTONE);
+    if (source) {
+        m_painter.setCompositionMode(static_cast<Mode>(pRow->sourceMode));
+        m_painter.drawImage(target, source->image, source->rect);
+    }
+    if (pRow->brushMode != kNone) {
+        m_painter.setCompositionMode(static_cast<Mode>(pRow->brushMode));
+        m_painter.fillRect(target, pRow->anyBrush ? QBrush(Qt::black) : m_painter.brush());
+    }
+    return TRUE;
+}
+
+BOOL CDC_E::TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc,
+                           int cxSrc, int cySrc, COLORREF crTransparent)
+{
+    QRect target(x, y, cx, cy);
+    QRect from(xSrc, ySrc, cxSrc, cySrc);
+    const auto mirrored = normalize(target, from);
+    std::optional<Source> source = sourceOf(pSrcDC, from, true);
+    if (!source || !m_painter.isActive())
+        return FALSE;
+    QImage& image = source->image;
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    const QRgb transparent = toQColor(crTransparent).rgb() & RGB_MASK;
+    for (int row = 0; row < image.height(); ++row) {
+        auto* const pRow = reinterpret_cast<QRgb*>(image.scanLine(row));
+        std::replace_if(
+            pRow, pRow + image.width(),
+            [transparent](QRgb pixel) { return (pixel & RGB_MASK) == transparent; }, QRgb{0});
+    }
+    mirror(*source, mirrored);
+    const CompositionScope scope(m_painter, Mode::CompositionMode_SourceOver);
+    m_painter.drawImage(target, image, source->rect);
+    return TRUE;
+}
+
+BOOL CDC_E::DrawIcon(int x, int y, HICON hIcon)
+{
+    if (!hIcon || !m_painter.isActive())
+        return FALSE;
+    constexpr int kIconSize = 32;
+    static_cast<const QIcon*>(hIcon)->paint(&m_painter, x, y, kIconSize, kIconSize);
+    return TRUE;
+}

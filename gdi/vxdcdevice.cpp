@@ -1,0 +1,188 @@
+#include "gdi/vxdcdevice_p.h"
+
+#include <VxMFCEmu/core/handlemap.h>
+
+#include <QtGui/QBackingStore>
+#include <QtGui/QPaintEngine>
+#include <QtGui/QPainter>
+#include <QtGui/QWindow>
+
+#include <cstring>
+
+namespace vx::detail {
+
+namespace {
+
+QImage* asImage(QPaintDevice* pDevice)
+{
+    return pDevice && pDevice->devType() == QInternal::Image ? static_cast<QImage*>(pDevice)
+                                                             : nullptr;
+}
+
+/// The image behind a window, while it may be read and written.
+class WindowPixels
+{
+public:
+    explicit WindowPixels(const QWidget* pWidget)
+        : m_pStore(pWidget->isVisible() ? pWidget->backingStore() : nullptr)
+    {
+        if (!m_pStore || m_pStore->size().isEmpty())
+            return;
+        // Without a region nothing is cleared. In a paint event painting has begun already.
+        m_begun = !pWidget->testAttribute(Qt::WA_WState_InPaintEvent);
+        if (m_begun)
+            m_pStore->beginPaint(QRegion());
+        QImage* const pImage = asImage(m_pStore->paintDevice());
+        if (pImage && pImage->depth() == 32)
+            m_pImage = pImage;
+    }
+    ~WindowPixels()
+    {
+        if (m_begun)
+            m_pStore->endPaint();
+    }
+    WindowPixels(const WindowPixels&) = delete;
+    WindowPixels& operator=(const WindowPixels&) = delete;
+
+    /// Null when there is none, or none of 32 bits.
+    QImage* image() const { return m_pImage; }
+
+    /// Shows @p region, in coordinates of the top-level window.
+    void flush(QWidget* pWidget, const QRegion& region)
+    {
+        if (!std::exchange(m_begun, false))
+            return; // Qt shows it at the end of the paint event
+        m_pStore->endPaint();
+        const QWidget* const pNative =
+            pWidget->internalWinId() ? pWidget : pWidget->nativeParentWidget();
+        if (!pNative || !pNative->windowHandle())
+            return;
+        const QPoint offset = pNative->mapTo(pWidget->window(), QPoint());
+        m_pStore->flush(region.translated(-offset), pNative->windowHandle(), offset);
+    }
+
+private:
+    QBackingStore* m_pStore;
+    QImage* m_pImage = nullptr;
+    bool m_begun = false;
+};
+
+QRect scaled(const QRect& rect, qreal ratio)
+{
+    return QRectF(rect.x() * ratio, rect.y() * ratio, rect.width() * ratio, rect.height() * ratio)
+        .toAlignedRect();
+}
+
+/// Copies the pixels of @p rect that differ between @p before and @p after; returns their bounds.
+QRect copyChanges(const QImage& before, const QImage& after, const QRect& rect, QImage& target,
+                  const QPoint& offset)
+{
+    QRect changed;
+    const auto width = static_cast<std::size_t>(rect.width());
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        const auto* const pOld = reinterpret_cast<const QRgb*>(before.constScanLine(y)) + rect.x();
+        const auto* const pNew = reinterpret_cast<const QRgb*>(after.constScanLine(y)) + rect.x();
+        if (std::memcmp(pOld, pNew, width * sizeof(QRgb)) == 0)
+            continue;
+        auto* const pTarget =
+            reinterpret_cast<QRgb*>(rowOf(target, y + offset.y())) + rect.x() + offset.x();
+        for (std::size_t x = 0; x < width; ++x)
+            pTarget[x] = pOld[x] == pNew[x] ? pTarget[x] : pNew[x];
+        changed |= QRect(rect.x(), y, rect.width(), 1);
+    }
+    return changed;
+}
+
+} // namespace
+
+QImage* pixelsOf(const QPainter& painter)
+{
+    const QPaintEngine* const pEngine = painter.isActive() ? painter.paintEngine() : nullptr;
+    return pEngine ? asImage(pEngine->paintDevice()) : nullptr;
+}
+
+uchar* rowOf(QImage& image, int y) { return const_cast<uchar*>(image.constScanLine(y)); }
+
+PaintedWidget::PaintedWidget(QWidget* pWidget, QPainter& painter)
+    : m_connection(QObject::connect(pWidget, &QObject::destroyed, [&painter] { painter.end(); }))
+{
+}
+
+PaintedWidget::~PaintedWidget() { QObject::disconnect(m_connection); }
+
+ClientSurface::ClientSurface(QWidget* pWidget) : m_widget(pWidget)
+{
+    const WindowPixels window(pWidget);
+    if (const QImage* const pImage = window.image()) {
+        const qreal ratio = pImage->devicePixelRatio();
+        const QRect place(pWidget->mapTo(pWidget->window(), QPoint()), pWidget->size());
+        m_before = pImage->copy(scaled(place, ratio));
+        m_before.setDevicePixelRatio(ratio);
+    }
+    if (!m_before.isNull()) {
+        m_image = m_before;
+        return;
+    }
+    m_image = QImage(pWidget->size().expandedTo(QSize(1, 1)), QImage::Format_RGB32);
+    m_image.fill(pWidget->palette().color(pWidget->backgroundRole()));
+}
+
+ClientSurface::~ClientSurface()
+{
+    if (!m_widget || m_before.isNull())
+        return;
+    WindowPixels window(m_widget);
+    QImage* const pTarget = window.image();
+    // The window may have got another image meanwhile.
+    if (!pTarget || pTarget->format() != m_image.format() ||
+        pTarget->devicePixelRatio() != m_image.devicePixelRatio())
+        return;
+    const qreal ratio = pTarget->devicePixelRatio();
+    const QPoint inWindow = m_widget->mapTo(m_widget->window(), QPoint());
+    const QPoint offset = scaled(QRect(inWindow, QSize(1, 1)), ratio).topLeft();
+    const QRect bounds = m_image.rect() & pTarget->rect().translated(-offset);
+    QRegion changed;
+    for (const QRect& visible : m_widget->visibleRegion()) {
+        const QRect rect = scaled(visible, ratio) & bounds;
+        changed += copyChanges(m_before, m_image, rect, *pTarget, offset);
+    }
+    if (changed.isEmpty())
+        return;
+    const QRect shown = scaled(changed.boundingRect(), 1 / ratio);
+    window.flush(m_widget, shown.translated(inWindow));
+}
+
+MemoryDevice::MemoryDevice()
+{
+    m_stock.CreateBitmap(1, 1, 1, 32, nullptr);
+    select(m_stock.GetSafeHandle());
+}
+
+CBitmap_E* MemoryDevice::selected()
+{
+    const CHandleMap_E* const pMap = afxMapHGDIOBJ_E(TRUE);
+    CObject_E* pObject = pMap->LookupPermanent(m_hBitmap);
+    if (!pObject)
+        pObject = pMap->LookupTemporary(m_hBitmap);
+    auto* const pBitmap = dynamic_cast<CBitmap_E*>(pObject);
+    // Another image may have taken the place of a dead one, but not its pixels: they are held.
+    const bool same =
+        pBitmap && static_cast<const QImage*>(m_hBitmap)->constBits() == m_pixels.constBits();
+    return same ? pBitmap : &m_stock;
+}
+
+void MemoryDevice::select(HBITMAP hBitmap)
+{
+    auto* const pBitmap = static_cast<QImage*>(hBitmap);
+    m_hBitmap = hBitmap;
+    m_pixels = QImage();
+    m_image = QImage(pBitmap->bits(), pBitmap->width(), pBitmap->height(), pBitmap->bytesPerLine(),
+                     pBitmap->format());
+    m_image.setColorTable(pBitmap->colorTable());
+    m_image.setDevicePixelRatio(pBitmap->devicePixelRatio());
+    m_image.setDotsPerMeterX(pBitmap->dotsPerMeterX());
+    m_image.setDotsPerMeterY(pBitmap->dotsPerMeterY());
+    m_pixels = *pBitmap;
+}
+
+} // namespace vx::detail

@@ -1,0 +1,81 @@
+// Private: what a device context draws on when that is not simply an image of its user.
+#pragma once
+
+#include <VxMFCEmu/gdi/bitmap.h>
+
+#include <QtCore/QPointer>
+#include <QtGui/QImage>
+#include <QtWidgets/QWidget>
+
+class QPainter;
+
+namespace vx::detail {
+
+/// Goes after the painter has ended.
+class DcDevice
+{
+public:
+    DcDevice() = default;
+    virtual ~DcDevice() = default;
+    DcDevice(const DcDevice&) = delete;
+    DcDevice& operator=(const DcDevice&) = delete;
+};
+
+/// A widget that is being painted: ends the painter when the widget dies first.
+class PaintedWidget : public DcDevice
+{
+public:
+    PaintedWidget(QWidget* pWidget, QPainter& painter);
+    ~PaintedWidget() override;
+
+private:
+    QMetaObject::Connection m_connection;
+};
+
+/// A copy of what the window shows of a widget; what changed in it goes back to the window.
+class ClientSurface : public DcDevice
+{
+public:
+    explicit ClientSurface(QWidget* pWidget);
+    ~ClientSurface() override;
+
+    /// The painter that begins on it changes this copy only.
+    QImage& image() { return m_image; }
+
+private:
+    QPointer<QWidget> m_widget;
+    QImage m_image;
+    QImage m_before; // null when the widget is not shown
+};
+
+/// The bitmap of a memory device context.
+class MemoryDevice : public DcDevice
+{
+public:
+    MemoryDevice();
+
+    /// What to paint on.
+    QImage& image() { return m_image; }
+    /// The bitmap selected now: an object of its handle, or the 1 x 1 one when that has died.
+    CBitmap_E* selected();
+    /// Paint on @p hBitmap from now on.
+    void select(HBITMAP hBitmap);
+
+private:
+    CBitmap_E m_stock;
+    HBITMAP m_hBitmap = nullptr;
+    // A device of our own over the bitmap's pixels, which the second one keeps alive: the bitmap
+    // may go first.
+    QImage m_image;
+    QImage m_pixels;
+};
+
+/// The image that @p painter draws into, also that of a window behind a widget; null for devices
+/// that have no pixels to look at.
+QImage* pixelsOf(const QPainter& painter);
+
+/// One row of pixels, which the painter may be writing to just now: unlike QImage::scanLine() this
+/// never makes a copy for the image.
+uchar* rowOf(QImage& image, int y);
+
+} // namespace vx::detail

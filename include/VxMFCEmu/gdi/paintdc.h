@@ -1,0 +1,44 @@
+/// @file paintdc.h
+/// Device contexts of windows: for painting, and for drawing at any time.
+///
+/// Differs from Win32: what holds for a device context over a widget (see dc.h) holds for both; a
+/// CPaintDC_E outside of a paint message is a CClientDC_E. Nothing has to be validated: the paint
+/// event does that.
+///
+/// Threads: GUI thread only.
+#pragma once
+
+#include <VxMFCEmu/gdi/dc.h>
+
+/// What is to be painted.
+struct tagPAINTSTRUCT
+{
+    HDC hdc;         ///< the CDC_E
+    BOOL fErase;     ///< FALSE: the background has been erased
+    tagRECT rcPaint; ///< the bounding rectangle of what needs painting
+    BOOL fRestore;
+    BOOL fIncUpdate;
+    BYTE rgbReserved[32];
+};
+using PAINTSTRUCT = tagPAINTSTRUCT;
+using LPPAINTSTRUCT = tagPAINTSTRUCT*;
+
+/// Draws in the client area of a window: at once inside of a paint message, else when it is
+/// destroyed.
+class VXMFC_EXPORT CClientDC_E : public CDC_E
+{
+public:
+    /// Null and unbound windows give an inactive painter.
+    explicit CClientDC_E(CWnd_E* pWnd);
+    explicit CClientDC_E(QWidget* pWidget) : CDC_E(pWidget) {}
+};
+
+/// Draws in the client area of a window from its OnPaint() handler.
+class VXMFC_EXPORT CPaintDC_E : public CDC_E
+{
+public:
+    /// Null and unbound windows give an inactive painter.
+    explicit CPaintDC_E(CWnd_E* pWnd);
+
+    tagPAINTSTRUCT m_ps{};
+};

@@ -1,0 +1,117 @@
+#include <VxMFCEmu/gdi.h>
+
+#include "gdi/zeros.h"
+
+namespace {
+
+tagLOGFONT logFont(int height, int weight = FW_NORMAL)
+{
+    return {height, 0, 0, 0, weight, 0, 0, 0, 1, 0, 0, 0, 0, L"DejaVu Sans"};
+}
+
+TEST(Fonts, HeightIsOfTheLineOrOfTheCharacters)
+{
+    for (const int height : {8, 16, 33, 100}) {
+        CFont_E line;
+        CFont_E characters;
+        const tagLOGFONT positive = logFont(height);
+        const tagLOGFONT negative = logFont(-height);
+        EXPECT_TRUE(line.CreateFontIndirect(&positive));
+        EXPECT_TRUE(characters.CreateFontIndirect(&negative));
+        EXPECT_EQ(characters.pixelSize(), height);
+        EXPECT_LE(QFontMetrics(line).height(), height);
+        QFont larger = line;
+        larger.setPixelSize(line.pixelSize() + 1);
+        EXPECT_GT(QFontMetrics(larger).height(), height);
+    }
+    for (const int height : {INT_MAX, INT_MIN, 1, -1, 0}) {
+        CFont_E font;
+        const tagLOGFONT extreme = logFont(height);
+        EXPECT_TRUE(font.CreateFontIndirect(&extreme)) << height;
+        EXPECT_EQ(font.pointSizeF() == QFont().pointSizeF(), height == 0) << height;
+    }
+}
+
+TEST(Fonts, WeightsMapToTheScaleOfQt)
+{
+    const int rows[][2] = {{FW_DONTCARE, 50}, {100, 0},  {200, 12}, {300, 25},
+                           {400, 50},         {500, 57}, {600, 63}, {700, 75},
+                           {800, 81},         {900, 87}, {720, 75}, {5000, 87}};
+    for (const auto& row : rows) {
+        CFont_E font;
+        const tagLOGFONT lf = logFont(-12, row[0]);
+        font.CreateFontIndirect(&lf);
+        EXPECT_EQ(font.weight(), row[1]) << row[0];
+    }
+}
+
+TEST(Fonts, KeepWhatTheyWereMadeFrom)
+{
+    CFont_E font;
+    EXPECT_TRUE(font.CreateFont(20, 9, 450, 451, FW_BOLD, 1, 1, 1, GREEK_CHARSET, OUT_TT_PRECIS,
+                                CLIP_LH_ANGLES, NONANTIALIASED_QUALITY, FF_ROMAN,
+                                L"A face whose name is far longer than there is room for"));
+    const tagLOGFONT expected{20,
+                              9,
+                              450,
+                              451,
+                              FW_BOLD,
+                              1,
+                              1,
+                              1,
+                              GREEK_CHARSET,
+                              OUT_TT_PRECIS,
+                              CLIP_LH_ANGLES,
+                              NONANTIALIASED_QUALITY,
+                              FF_ROMAN,
+                              L"A face whose name is far longer"};
+    tagLOGFONT out{};
+    EXPECT_EQ(font.GetLogFont(&out), 1);
+    EXPECT_EQ(memcmp(&out, &expected, sizeof(out)), 0);
+    EXPECT_TRUE(font.italic() && font.underline() && font.strikeOut());
+    EXPECT_EQ(font.styleHint(), QFont::Serif);
+    EXPECT_EQ(font.styleStrategy(), QFont::NoAntialias);
+    EXPECT_NE(font.stretch(), QFont(font.family()).stretch());
+    font.setItalic(false); // as a QFont
+    font.setPixelSize(31);
+    EXPECT_EQ(font.GetLogFont(&out), 1);
+    EXPECT_EQ(QVector<int>({out.lfHeight, out.lfItalic, out.lfWeight, out.lfEscapement}),
+              QVector<int>({-31, 0, FW_BOLD, 450}));
+}
+
+TEST(Fonts, PointSizesAreTenthsAndFailuresKeepTheHandle)
+{
+    CFont_E font;
+    EXPECT_TRUE(font.CreatePointFont(95, L"DejaVu Sans"));
+    EXPECT_DOUBLE_EQ(font.pointSizeF(), 9.5);
+    tagLOGFONT out{};
+    font.GetLogFont(&out);
+    EXPECT_EQ(out.lfHeight,
+              -qRound(9.5 * QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 72));
+    const HGDIOBJ h = font;
+    const tagLOGFONT lf = logFont(0);
+    expectZeros({font.CreatePointFont(0, L""), font.CreatePointFontIndirect(&lf),
+                 font.CreatePointFontIndirect(nullptr), font.CreateFontIndirect(nullptr),
+                 font.GetLogFont(nullptr), CFont_E().GetLogFont(&out)});
+    EXPECT_EQ(font.m_hObject, h);
+    CFont_E nameless;
+    EXPECT_TRUE(nameless.CreatePointFont(100, nullptr));
+    EXPECT_EQ(nameless.family(), QFont().family());
+}
+
+TEST(Fonts, HandleIsAFont)
+{
+    CFont_E owner;
+    owner.Attach(new QFont(QStringLiteral("DejaVu Sans"), 17));
+    EXPECT_EQ(owner.pointSize(), 17);
+    tagLOGFONT out{};
+    EXPECT_EQ(owner.GetLogFont(&out), 1);
+    EXPECT_STREQ(out.lfFaceName, L"DejaVu Sans");
+    EXPECT_EQ(out.lfWeight, FW_NORMAL);
+    const HGDIOBJ h = owner.Detach();
+    EXPECT_EQ(CFont_E::FromHandle(h)->pointSize(), 17) << "the temporary object too";
+    EXPECT_TRUE(CFont_E::FromHandle(h)->DeleteObject());
+    CGdiObject_E::DeleteTempMap();
+}
+
+} // namespace
