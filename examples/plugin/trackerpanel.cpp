@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int nTrackerHeight = 110;
+constexpr int nReportsWidth = 256;
 
 } // namespace
 
@@ -74,7 +75,9 @@ void CTrackerPanel::SetupUI()
 
     auto* const pStatus = new QLabel(pPanel);
     pStatus->setObjectName(ToStringId(IDC_STATUS));
+    pStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* const pReports = new QListWidget(pPanel);
+    pReports->setFixedWidth(nReportsWidth);
     pReports->setObjectName(ToStringId(IDC_REPORTS));
     auto* const pPost = new QPushButton(QStringLiteral("Post a message"), pPanel);
     pPost->setObjectName(ToStringId(IDC_POST));

@@ -89,35 +89,38 @@ TEST(GdiObjects, HandleOfAnotherClassGivesNoObject)
 class Selection : public FreshMap
 {
 public:
-    CPen_E* select(CPen_E* pPen)
+    Selection() : m_dc(&m_image) { m_dc.SelectObject(QPen(Qt::darkYellow, 5)); }
+
+    CPen_E* select(CPen_E* pPen) { return m_dc.SelectObject(pPen); }
+    /// The object for a value that the painter has.
+    CPen_E* objectOf(const QPen& value)
     {
-        CPen_E* const pPrevious = m_selected.objectOf(m_current);
-        m_current = *static_cast<QPen*>(pPen->m_hObject);
-        m_selected.note(pPen);
-        return pPrevious;
+        m_dc.SelectObject(value);
+        return select(nullptr);
     }
+    QPen current() const { return m_dc.m_painter.pen(); }
     static QPen valueOf(const CPen_E* pPen) { return *static_cast<QPen*>(pPen->m_hObject); }
 
-    QPen m_current{Qt::darkYellow, 5};
-    vx::detail::SelectedPen m_selected;
+    QImage m_image{8, 8, QImage::Format_RGB32};
+    CDC_E m_dc;
 };
 
 TEST_F(Selection, PreviousObjectHoldsThePreviousValue)
 {
     CPen_E red(PS_SOLID, 1, RGB(255, 0, 0));
     CPen_E dots(PS_DOT, 2, RGB(0, 255, 0));
-    const QPen initial = m_current;
+    const QPen initial = current();
     CPen_E* const first = select(&red);
     EXPECT_EQ(valueOf(first), initial);
     EXPECT_EQ(CGdiObject_E::FromHandle(first->m_hObject), first);
     EXPECT_EQ(select(&dots), &red) << "the object itself while it is there";
     EXPECT_EQ(select(first), &dots);
-    EXPECT_EQ(m_current, initial) << "long since, others were selected";
+    EXPECT_EQ(current(), initial) << "long since, others were selected";
     EXPECT_EQ(select(&red), first);
-    m_current = initial; // set by value
+    m_dc.SelectObject(initial); // by value
     EXPECT_EQ(select(&dots), first) << "one object for equal values";
     first->DeleteObject();
-    EXPECT_EQ(valueOf(CPen_E::FromHandle(m_selected.objectOf(initial)->m_hObject)), initial);
+    EXPECT_EQ(valueOf(CPen_E::FromHandle(objectOf(initial)->m_hObject)), initial);
 }
 
 TEST_F(Selection, SelectedObjectMayDieOrChange)
@@ -125,20 +128,20 @@ TEST_F(Selection, SelectedObjectMayDieOrChange)
     auto pen = std::make_unique<CPen_E>(PS_DASH, 4, RGB(1, 2, 3));
     CPen_E other(PS_SOLID, 1, RGB(0, 0, 0));
     select(pen.get());
-    const QPen dashed = m_current;
+    const QPen dashed = current();
     pen.reset();
     EXPECT_EQ(valueOf(select(&other)), dashed);
     other.DeleteObject();
     other.CreatePen(PS_DOT, 7, RGB(7, 7, 7));
-    EXPECT_EQ(valueOf(m_selected.objectOf(m_current)), m_current);
-    CPen_E* const held = m_selected.objectOf(dashed);
+    EXPECT_EQ(valueOf(select(nullptr)), current());
+    CPen_E* const held = objectOf(dashed);
     CPen_E owner;
     owner.Attach(held->Detach());
     CGdiObject_E::DeleteTempMap();
     EXPECT_EQ(valueOf(&owner), dashed) << "whoever takes hold of a copy owns it";
-    select(m_selected.objectOf(dashed));
+    select(objectOf(dashed));
     CGdiObject_E::DeleteTempMap();
-    EXPECT_EQ(valueOf(m_selected.objectOf(m_current)), m_current);
+    EXPECT_EQ(valueOf(select(nullptr)), current());
 }
 
 } // namespace

@@ -24,7 +24,7 @@ for name in 'CObject_E::Attach(' 'vtable for CCmdTarget_E' 'g_mapCreateMethod' \
   'g_mapVxHandle' 'EnterCriticalSection_E('; do
   grep -qF "$name" <<<"$exports" || fail "not exported: $name"
 done
-helpers=$(grep -E '\bvx::' <<<"$exports" || true)
+helpers=$(grep -E '^((vtable|typeinfo|typeinfo name) for )?vx::' <<<"$exports" || true)
 for name in "${exported_helpers[@]}"; do
   helpers=$(grep -vF "$name" <<<"$helpers" || true)
 done

@@ -47,8 +47,8 @@ private:
     unsigned long m_nGeneration = 0;
 };
 
-extern template class VXMFC_EXPORT SelectedObject<CPen_E, QPen>;
-extern template class VXMFC_EXPORT SelectedObject<CBrush_E, QBrush>;
+extern template class SelectedObject<CPen_E, QPen>;
+extern template class SelectedObject<CBrush_E, QBrush>;
 using SelectedPen = SelectedObject<CPen_E, QPen>;
 using SelectedBrush = SelectedObject<CBrush_E, QBrush>;
 
