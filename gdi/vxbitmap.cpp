@@ -1,5 +1,6 @@
 #include <VxMFCEmu/gdi/bitmap.h>
 
+#include "gdi/vxdcdevice_p.h"
 #include "gdi/vxgdiobject_p.h"
 
 #include <VxMFCEmu/text/vxqstring.h>
@@ -94,7 +95,7 @@ int CBitmap_E::GetBitmap(tagBITMAP* pBitmap) const
                 pImage->bytesPerLine(),
                 1,
                 static_cast<WORD>(pImage->depth()),
-                pImage->bits()};
+                const_cast<uchar*>(pImage->constBits())}; // bits() would copy a caller's buffer
     return 1;
 }
 
@@ -119,6 +120,12 @@ DWORD CBitmap_E::SetBitmapBits(DWORD dwBytes, const void* lpBits)
     const quint64 nNeeded =
         quint64{4} * static_cast<quint64>(size.width()) * static_cast<quint64>(size.height());
     const auto nUsed = static_cast<DWORD>(qMin<quint64>(dwBytes, nNeeded));
+    if (pImage->paintingActive()) { // its pixels must stay where they are
+        if (pImage->depth() != 32)
+            return 0;
+        std::memcpy(const_cast<uchar*>(pImage->constBits()), lpBits, nUsed);
+        return nUsed;
+    }
     *pImage = nUsed < nNeeded ? imageOfCopy(size, lpBits, nUsed)
                               : QImage(static_cast<const uchar*>(lpBits), size.width(),
                                        size.height(), QImage::Format_RGBX8888);
@@ -134,7 +141,4 @@ CSize_E CBitmap_E::GetBitmapDimension() const
 // Intended: the bitmap keeps its size.
 CSize_E CBitmap_E::SetBitmapDimension(int, int) { return GetBitmapDimension(); }
 
-CGdiObject_E::FreeHandleFn CBitmap_E::HandleDeleter() const
-{
-    return &vx::detail::freeValue<QImage>;
-}
+CGdiObject_E::FreeHandleFn CBitmap_E::HandleDeleter() const { return &vx::detail::freeBitmapImage; }

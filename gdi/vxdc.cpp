@@ -80,8 +80,11 @@ CBitmap_E* CDC_E::SelectObject(CBitmap_E* pBitmap)
     if (!pMemory || !pImage || pImage->isNull() || pImage->format() == QImage::Format_Indexed8)
         return nullptr;
     CBitmap_E* const pPrevious = pMemory->selected();
-    if (pPrevious != pBitmap)
-        MoveOnto(pMemory, pBitmap->GetSafeHandle());
+    if (pImage == &pMemory->image())
+        return pPrevious;
+    if (pImage->paintingActive()) // as on Win32, by one device context at a time
+        return nullptr;
+    MoveOnto(pMemory, pBitmap->GetSafeHandle());
     return pPrevious;
 }
 

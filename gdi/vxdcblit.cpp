@@ -69,6 +69,15 @@ std::optional<Source> sourceOf(CDC_E* pDC, const QRect& rect, bool copy)
     return Source{std::move(view), onDevice};
 }
 
+/// The image with its own alpha, or with none: the fourth byte of formats without alpha is
+/// nobody's, and Qt takes it for alpha in a conversion.
+QImage withTrueAlpha(const QImage& image)
+{
+    if (image.hasAlphaChannel())
+        return image.convertToFormat(QImage::Format_ARGB32);
+    return image.convertToFormat(QImage::Format_RGB32).convertToFormat(QImage::Format_ARGB32);
+}
+
 /// Makes both rectangles of positive extent; returns whether the image is mirrored in x and in y.
 std::pair<bool, bool> normalize(QRect& target, QRect& source)
 {
@@ -113,6 +122,12 @@ BOOL CDC_E::StretchBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, in
         source = sourceOf(pSrcDC, from, pSrcDC == this);
         if (!source)
             return FALSE;
+        const QImage* const pTarget = pixelsOf(m_painter);
+        if (pTarget && pTarget->hasAlphaChannel() &&
+            source->image.format() == QImage::Format_RGBX8888) {
+            source->image = withTrueAlpha(source->image.copy(source->rect));
+            source->rect.moveTo(0, 0);
+        }
         mirror(*source, mirrored);
     }
     const PainterState state(m_painter);
@@ -138,7 +153,7 @@ BOOL CDC_E::TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc
     if (!source || !m_painter.isActive())
         return FALSE;
     QImage& image = source->image;
-    image = image.convertToFormat(QImage::Format_ARGB32);
+    image = withTrueAlpha(image);
     const QRgb transparent = toQColor(crTransparent).rgb() & RGB_MASK;
     for (int row = 0; row < image.height(); ++row) {
         auto* const pRow = reinterpret_cast<QRgb*>(image.scanLine(row));

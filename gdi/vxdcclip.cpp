@@ -67,7 +67,7 @@ int CDC_E::IntersectClipRect(int l, int t, int r, int b)
 int CDC_E::IntersectClipRect(const tagRECT* pRect)
 {
     if (pRect)
-        m_painter.setClipRegion(fromRect(*pRect), Qt::IntersectClip);
+        m_painter.setClipRegion(fromRect(*pRect), Qt::IntersectClip); // corners, like all others
     return 0;
 }
 
@@ -82,6 +82,7 @@ int CDC_E::ExcludeUpdateRgn(CWnd_E* pWnd)
     const QWidget* const pWidget = pWnd ? pWnd->GetSafeHwnd() : nullptr;
     if (!pWidget)
         return 0;
+    // Without a clip everything is visible, and stays so but for the window.
     const QRegion clip =
         m_painter.hasClipping() ? m_painter.clipRegion() : logicalBounds(m_painter);
     m_painter.setClipRegion(clip - pWidget->geometry());

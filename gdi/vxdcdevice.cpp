@@ -7,7 +7,9 @@
 #include <QtGui/QPainter>
 #include <QtGui/QWindow>
 
+#include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace vx::detail {
 
@@ -152,37 +154,49 @@ ClientSurface::~ClientSurface()
     window.flush(m_widget, shown.translated(inWindow));
 }
 
+namespace {
+
+std::vector<MemoryDevice*> memoryDevices;
+
+} // namespace
+
 MemoryDevice::MemoryDevice()
 {
+    memoryDevices.push_back(this);
     m_stock.CreateBitmap(1, 1, 1, 32, nullptr);
     select(m_stock.GetSafeHandle());
+}
+
+MemoryDevice::~MemoryDevice()
+{
+    memoryDevices.erase(std::find(memoryDevices.begin(), memoryDevices.end(), this));
 }
 
 CBitmap_E* MemoryDevice::selected()
 {
     const CHandleMap_E* const pMap = afxMapHGDIOBJ_E(TRUE);
-    CObject_E* pObject = pMap->LookupPermanent(m_hBitmap);
+    CObject_E* pObject = pMap->LookupPermanent(m_pImage);
     if (!pObject)
-        pObject = pMap->LookupTemporary(m_hBitmap);
-    auto* const pBitmap = dynamic_cast<CBitmap_E*>(pObject);
-    // Another image may have taken the place of a dead one, but not its pixels: they are held.
-    const bool same =
-        pBitmap && static_cast<const QImage*>(m_hBitmap)->constBits() == m_pixels.constBits();
-    return same ? pBitmap : &m_stock;
+        pObject = pMap->LookupTemporary(m_pImage);
+    auto* const pBitmap = m_orphan ? nullptr : dynamic_cast<CBitmap_E*>(pObject);
+    return pBitmap ? pBitmap : &m_stock;
 }
 
 void MemoryDevice::select(HBITMAP hBitmap)
 {
-    auto* const pBitmap = static_cast<QImage*>(hBitmap);
-    m_hBitmap = hBitmap;
-    m_pixels = QImage();
-    m_image = QImage(pBitmap->bits(), pBitmap->width(), pBitmap->height(), pBitmap->bytesPerLine(),
-                     pBitmap->format());
-    m_image.setColorTable(pBitmap->colorTable());
-    m_image.setDevicePixelRatio(pBitmap->devicePixelRatio());
-    m_image.setDotsPerMeterX(pBitmap->dotsPerMeterX());
-    m_image.setDotsPerMeterY(pBitmap->dotsPerMeterY());
-    m_pixels = *pBitmap;
+    m_orphan.reset();
+    m_pImage = static_cast<QImage*>(hBitmap);
+}
+
+void freeBitmapImage(HBITMAP hBitmap)
+{
+    auto* const pImage = static_cast<QImage*>(hBitmap);
+    const auto it = std::find_if(memoryDevices.begin(), memoryDevices.end(),
+                                 [pImage](const MemoryDevice* p) { return p->m_pImage == pImage; });
+    if (it == memoryDevices.end())
+        delete pImage;
+    else
+        (*it)->m_orphan.reset(pImage);
 }
 
 } // namespace vx::detail

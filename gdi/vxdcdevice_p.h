@@ -7,6 +7,8 @@
 #include <QtGui/QImage>
 #include <QtWidgets/QWidget>
 
+#include <memory>
+
 class QPainter;
 
 namespace vx::detail {
@@ -48,27 +50,30 @@ private:
     QImage m_before; // null when the widget is not shown
 };
 
-/// The bitmap of a memory device context.
+/// The bitmap of a memory device context. The painter paints on the bitmap's own image.
 class MemoryDevice : public DcDevice
 {
 public:
     MemoryDevice();
+    ~MemoryDevice() override;
 
     /// What to paint on.
-    QImage& image() { return m_image; }
+    QImage& image() { return *m_pImage; }
     /// The bitmap selected now: an object of its handle, or the 1 x 1 one when that has died.
     CBitmap_E* selected();
-    /// Paint on @p hBitmap from now on.
+    /// Paint on @p hBitmap from now on, once the painter has ended.
     void select(HBITMAP hBitmap);
 
 private:
+    friend void freeBitmapImage(HBITMAP hBitmap);
+
     CBitmap_E m_stock;
-    HBITMAP m_hBitmap = nullptr;
-    // A device of our own over the bitmap's pixels, which the second one keeps alive: the bitmap
-    // may go first.
-    QImage m_image;
-    QImage m_pixels;
+    QImage* m_pImage = nullptr;
+    std::unique_ptr<QImage> m_orphan; // the same when its bitmap has gone
 };
+
+/// Deletes the image of a bitmap, or leaves it to the device context that paints on it.
+void freeBitmapImage(HBITMAP hBitmap);
 
 /// The image that @p painter draws into, also that of a window behind a widget; null for devices
 /// that have no pixels to look at.

@@ -224,6 +224,8 @@ BOOL CDC_E::FrameRgn(CRgn_E* pRgn, CBrush_E* pBrush, int nWidth, int nHeight)
     const auto* const pValue = valueOf<QBrush>(pBrush);
     if (!pRegion || !pValue)
         return FALSE;
+    if (pRegion->isEmpty()) // nothing has no bounds
+        return TRUE;
     const QRect inner = pRegion->boundingRect();
     const QRect outer = inner.adjusted(-nWidth, -nHeight, nWidth, nHeight);
     // Intended: bands on the outside of the bounds.

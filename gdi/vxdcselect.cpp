@@ -63,12 +63,17 @@ COLORREF colorOf(const PALETTEENTRY& entry)
 int CDC_E::SaveDC()
 {
     m_painter.save();
+    m_savedModes.push_back(m_modes);
     return 0;
 }
 
 BOOL CDC_E::RestoreDC(int)
 {
     m_painter.restore();
+    if (!m_savedModes.empty()) {
+        m_modes = m_savedModes.back();
+        m_savedModes.pop_back();
+    }
     return TRUE;
 }
 

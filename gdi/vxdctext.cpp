@@ -77,7 +77,9 @@ BOOL CDC_E::GetTextMetrics(tagTEXTMETRICW* pMetrics) const
 int CDC_E::DrawTextInRect(const QString& str, const tagRECT* pRect, int nFormat)
 {
     const QPen pen = m_painter.pen();
-    const bool colored = m_textColor != CLR_NONE && toColorRef(pen.color()) != m_textColor;
+    // A pen of that very colour may still be none at all, or a translucent one.
+    const bool colored =
+        m_textColor != CLR_NONE && (!isPlain(pen) || pen.color() != QColor(toQColor(m_textColor)));
     if (colored)
         m_painter.setPen(toQColor(m_textColor));
     if (pRect)

@@ -1,5 +1,7 @@
 #include "gdi/vxgdihandles_p.h"
 
+#include <QtCore/QVarLengthArray>
+
 #include <unordered_map>
 
 namespace vx::detail {
@@ -11,7 +13,7 @@ namespace {
 struct Row
 {
     FreeHandleFn pfnFree = nullptr;
-    int nHolders = 0;
+    QVarLengthArray<CGdiObject_E*, 1> holders; // the last one is whom the handle map knows
 };
 
 // Objects with static storage let go of their handles at unload, later than most.
@@ -21,36 +23,40 @@ void keep(HGDIOBJ) {}
 
 } // namespace
 
-void holdHandle(HGDIOBJ h, FreeHandleFn pfnFree)
+void holdHandle(HGDIOBJ h, CGdiObject_E* pHolder, FreeHandleFn pfnFree)
 {
     Row& row = rows[h];
     // An address can come back with a value of another type.
-    if (pfnFree && row.nHolders == 0 && row.pfnFree != &keep)
+    if (pfnFree && row.holders.isEmpty() && row.pfnFree != &keep)
         row.pfnFree = pfnFree;
-    ++row.nHolders;
+    row.holders.append(pHolder);
 }
 
-void releaseHandle(HGDIOBJ h)
+CGdiObject_E* releaseHandle(HGDIOBJ h, CGdiObject_E* pHolder)
 {
     const auto it = rows.find(h);
     if (it == rows.end())
-        return;
-    if (it->second.nHolders > 0)
-        --it->second.nHolders;
-    if (it->second.nHolders == 0 && !it->second.pfnFree)
+        return nullptr;
+    auto& holders = it->second.holders;
+    if (const int nIndex = holders.indexOf(pHolder); nIndex >= 0)
+        holders.remove(nIndex);
+    if (!holders.isEmpty())
+        return holders.last();
+    if (!it->second.pfnFree)
         rows.erase(it);
+    return nullptr;
 }
 
 bool isSharedHandle(HGDIOBJ h)
 {
     const auto it = rows.find(h);
-    return it != rows.end() && it->second.nHolders > 1;
+    return it != rows.end() && it->second.holders.size() > 1;
 }
 
 void freeUnheldHandle(HGDIOBJ h, FreeHandleFn pfnFree)
 {
     if (const auto it = rows.find(h); it != rows.end()) {
-        if (it->second.nHolders > 0 || it->second.pfnFree == &keep)
+        if (!it->second.holders.isEmpty() || it->second.pfnFree == &keep)
             return;
         pfnFree = it->second.pfnFree;
         rows.erase(it);
@@ -59,14 +65,14 @@ void freeUnheldHandle(HGDIOBJ h, FreeHandleFn pfnFree)
         pfnFree(h);
 }
 
-void lendHandle(HGDIOBJ h) { rows[h] = {&keep, 0}; }
+void lendHandle(HGDIOBJ h) { rows[h] = {&keep, {}}; }
 
 bool reclaimHandle(HGDIOBJ h, FreeHandleFn pfnFree)
 {
     const auto it = rows.find(h);
     if (it == rows.end())
         return true;
-    if (it->second.nHolders > 0) {
+    if (!it->second.holders.isEmpty()) {
         it->second.pfnFree = pfnFree;
         return false;
     }

@@ -10,11 +10,11 @@ using FreeHandleFn = void (*)(HGDIOBJ);
 /// Changes whenever an object gets or loses a handle or temporary objects go.
 extern unsigned long gdiGeneration;
 
-/// Counts one more object that holds @p h. A type of value is learnt from the first holder that
+/// Notes one more object that holds @p h. A type of value is learnt from the first holder that
 /// knows it and remembered until the value is freed, also while nobody holds it.
-void holdHandle(HGDIOBJ h, FreeHandleFn pfnFree);
-/// Counts one less.
-void releaseHandle(HGDIOBJ h);
+void holdHandle(HGDIOBJ h, CGdiObject_E* pHolder, FreeHandleFn pfnFree);
+/// Notes that it does no longer. Returns the last of the other holders; null when there is none.
+CGdiObject_E* releaseHandle(HGDIOBJ h, CGdiObject_E* pHolder);
 /// Whether more than one object holds @p h.
 bool isSharedHandle(HGDIOBJ h);
 /// Frees the value of @p h unless an object holds it: as remembered, else by @p pfnFree if that is

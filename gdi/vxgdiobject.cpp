@@ -26,11 +26,11 @@ BOOL CGdiObject_E::Attach(HGDIOBJ h)
 {
     if (!h)
         return FALSE;
-    if (h == m_hObject)
+    if (h == m_hObject && afxMapHGDIOBJ_E(TRUE)->LookupPermanent(h) == this)
         return TRUE;
     Detach();
     vx::detail::attachHandle(this, &CGdiObject_E::m_hObject, h, &afxMapHGDIOBJ_E);
-    vx::detail::holdHandle(h, HandleDeleter());
+    vx::detail::holdHandle(h, this, HandleDeleter());
     ++vx::detail::gdiGeneration;
     return TRUE;
 }
@@ -43,8 +43,9 @@ HGDIOBJ CGdiObject_E::Detach()
     CHandleMap_E* const pMap = afxMapHGDIOBJ_E(FALSE);
     const bool holds = !(pMap && pMap->LookupTemporary(m_hObject) == this);
     const HGDIOBJ h = vx::detail::detachHandle(this, &CGdiObject_E::m_hObject, &afxMapHGDIOBJ_E);
-    if (holds)
-        vx::detail::releaseHandle(h);
+    CGdiObject_E* const pHeir = holds ? vx::detail::releaseHandle(h, this) : nullptr;
+    if (pHeir && !pMap->LookupPermanent(h))
+        pMap->SetPermanent(h, pHeir);
     ++vx::detail::gdiGeneration;
     return h;
 }

@@ -19,8 +19,14 @@ void maskOut(QImage& image, COLORREF crMask)
     const bool bFits = image.format() == QImage::Format_ARGB32 ||
                        image.format() == QImage::Format_ARGB32_Premultiplied ||
                        image.format() == QImage::Format_RGBA8888;
-    if (!bFits)
+    if (!bFits && image.paintingActive())
+        return; // selected into a device context: its pixels must stay where they are
+    if (!bFits) {
+        // By way of a format that knows no fourth byte, which Qt would take for alpha.
+        if (!image.hasAlphaChannel())
+            image = image.convertToFormat(QImage::Format_RGB32);
         image = image.convertToFormat(QImage::Format_RGBA8888);
+    }
     QImage mask(1, 1, image.format());
     mask.fill(vx::detail::toQColor(crMask));
     const auto pixelOf = [](const QImage& from, int y) {

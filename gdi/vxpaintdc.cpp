@@ -12,6 +12,7 @@ CClientDC_E::CClientDC_E(CWnd_E* pWnd) : CDC_E(pWnd ? pWnd->GetSafeHwnd() : null
 CPaintDC_E::CPaintDC_E(CWnd_E* pWnd) : CDC_E(pWnd ? pWnd->GetSafeHwnd() : nullptr)
 {
     m_ps.hdc = this;
+    Attach(m_ps.hdc); // so that the handle leads back to this object
     const QWidget* const pWidget = pWnd ? pWnd->GetSafeHwnd() : nullptr;
     if (!pWidget)
         return;

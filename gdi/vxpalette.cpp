@@ -52,12 +52,11 @@ void CPalette_E::AnimatePalette(UINT, UINT, const tagPALETTEENTRY*) {}
 
 BOOL CPalette_E::ResizePalette(UINT nNumEntries)
 {
-    try {
-        m_entries.resize(nNumEntries);
-        return 1;
-    } catch (const std::bad_alloc&) {
+    constexpr UINT kMostEntries = 1U << 24; // as many as there are colours
+    if (nNumEntries > kMostEntries)
         return 0;
-    }
+    m_entries.resize(nNumEntries);
+    return 1;
 }
 
 UINT CPalette_E::GetNearestPaletteIndex(COLORREF crColor) const

@@ -102,6 +102,8 @@ bool useTracker(const Report& report, unsigned long window)
          {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 1")},
          {[&] { click(plot + QPoint(60, -40), 4); }, QStringLiteral("plot of \\d+ items at 125 %")},
          {[&] { click(plot + QPoint(60, -40), 5); }, QStringLiteral("plot of \\d+ items at 100 %")},
+         {[&] { click(plot, 3); }, QStringLiteral("plot of 44 items at 100 %")},
+         {[&] { click(plot, 3); }, QStringLiteral("plot of 108 items at 100 %")},
          {[&] { vxtest::resizeWindow(window, kLaterSize); },
           QStringLiteral("WM_SIZE %1,\\d+").arg(tracker.width() + growth)}});
 }

@@ -1,5 +1,6 @@
 #include "plotwnd.h"
 
+#include "settings.h"
 #include "trackerwnd.h"
 
 #include <algorithm>
@@ -35,12 +36,16 @@ ON_WM_PAINT_E()
 ON_WM_ERASEBKGND_E()
 ON_WM_MOUSEWHEEL_E()
 ON_WM_LBUTTONDOWN_E()
+ON_WM_RBUTTONDOWN_E()
 ON_WM_MOUSEMOVE_E()
 END_MESSAGE_MAP_E()
 
-bool CPlotWnd::Open(const wchar_t* lpszPath)
+bool CPlotWnd::Open(int nPlot)
 {
-    const bool loaded = m_plot.Load(lpszPath);
+    CString_E strKey;
+    strKey.Format(L"File%d", nPlot);
+    const bool loaded = m_plot.Load(BesidePlugin(ProfileText(L"Plot", strKey, L"")));
+    m_nPlot = nPlot;
     m_rcBounds = m_plot.Bounds();
     m_ptCentre = m_rcBounds.CenterPoint();
     m_dZoom = 1;
@@ -185,6 +190,12 @@ BOOL CPlotWnd::OnMouseWheel(UINT, short zDelta, CPoint_E point)
     Invalidate();
     ReportZoom();
     return TRUE;
+}
+
+void CPlotWnd::OnRButtonDown(UINT, CPoint_E)
+{
+    Open((m_nPlot + 1) % std::max(1, ProfileNumber(L"Plot", L"Count")));
+    ReportZoom();
 }
 
 void CPlotWnd::OnLButtonDown(UINT, CPoint_E point) { m_ptDragged = point; }

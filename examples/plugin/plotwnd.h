@@ -5,14 +5,15 @@
 #include <map>
 #include <memory>
 
-/// Shows a plot: the wheel zooms around the pointer, the left button drags.
+/// Shows one of the plots that the profile file names: the wheel zooms around the pointer, the left
+/// button drags, the right one turns to the next plot.
 class CPlotWnd : public CWnd_E
 {
     Q_OBJECT
     DECLARE_DYNAMIC_E(CPlotWnd)
 
-    /// False when there is no such plot.
-    bool Open(const wchar_t* lpszPath);
+    /// Shows plot number @p nPlot; false when there is no such plot.
+    bool Open(int nPlot);
 
     /// Sends the parent a line for its report.
     void ReportZoom();
@@ -20,6 +21,7 @@ class CPlotWnd : public CWnd_E
     void OnPaint();
     BOOL OnEraseBkgnd(CDC_E* pDC);
     BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint_E point);
+    void OnRButtonDown(UINT nFlags, CPoint_E point);
     void OnLButtonDown(UINT nFlags, CPoint_E point);
     void OnMouseMove(UINT nFlags, CPoint_E point);
 
@@ -36,6 +38,7 @@ private:
     void DrawLabel(CDC_E& dc, const PlotItem& item) const;
 
     CPlotFile m_plot;
+    int m_nPlot = 0;
     CRect_E m_rcBounds;
     double m_dZoom = 1;
     CPoint_E m_ptCentre; // in plotter units, shown in the middle

@@ -80,10 +80,16 @@ CString_E BesidePlugin(const CString_E& strName)
     return CString_E(module.absolutePath()) + L"/" + strName;
 }
 
+namespace {
+
+CString_E ProfilePath() { return BesidePlugin(L"VxDemoPlugin.ini"); }
+
+} // namespace
+
 CString_E ProfileText(const wchar_t* lpszSection, const wchar_t* lpszKey,
                       const wchar_t* lpszDefault)
 {
-    const CString_E strPath = BesidePlugin(L"VxDemoPlugin.ini");
+    const CString_E strPath = ProfilePath();
     // A null buffer asks for the length; the size does not protect a buffer.
     const DWORD nLength =
         GetPrivateProfileString_E(lpszSection, lpszKey, lpszDefault, nullptr, 0, strPath);
@@ -92,4 +98,9 @@ CString_E ProfileText(const wchar_t* lpszSection, const wchar_t* lpszKey,
                               strText.GetBuffer(static_cast<int>(nLength)), nLength + 1, strPath);
     strText.ReleaseBuffer();
     return strText;
+}
+
+int ProfileNumber(const wchar_t* lpszSection, const wchar_t* lpszKey)
+{
+    return GetPrivateProfileInt_E(lpszSection, lpszKey, 0, ProfilePath());
 }

@@ -29,3 +29,5 @@ CString_E BesidePlugin(const CString_E& strName);
 /// A text of the profile file that lies beside the plug-in.
 CString_E ProfileText(const wchar_t* lpszSection, const wchar_t* lpszKey,
                       const wchar_t* lpszDefault);
+/// A number of it; 0 when there is none.
+int ProfileNumber(const wchar_t* lpszSection, const wchar_t* lpszKey);

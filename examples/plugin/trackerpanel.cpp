@@ -93,7 +93,7 @@ void CTrackerPanel::SetupUI()
 
     pTracker->setFixedHeight(nTrackerHeight);
     m_wndPlot.Create(pPanel);
-    m_wndPlot.Open(BesidePlugin(ProfileText(L"Plot", L"File", L"")));
+    m_wndPlot.Open(0);
 
     auto* const pGrid = new QGridLayout(pPanel);
     pGrid->addWidget(m_wndPlot.GetSafeHwnd(), 0, 0);

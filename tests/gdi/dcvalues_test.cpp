@@ -185,6 +185,69 @@ TEST(DcSelect, BitmapsOfMemoryDeviceContexts)
     EXPECT_EQ(memory.DeleteDC(), FALSE);
 }
 
+TEST(DcSelect, ASelectedBitmapMayBeLookedAt)
+{
+    CDC_E memory;
+    memory.CreateCompatibleDC(nullptr);
+    CBitmap_E bitmap;
+    bitmap.CreateCompatibleBitmap(nullptr, 8, 8);
+    const auto* const pImage = static_cast<QImage*>(bitmap.m_hObject);
+    CBitmap_E* const pStock = memory.SelectObject(&bitmap);
+    tagBITMAP info{};
+    bitmap.GetBitmap(&info);
+    CBrush_E pattern(&bitmap);
+    CImageList_E list;
+    list.Add(&bitmap, RGB(1, 2, 3));
+    memory.FillSolidRect(0, 0, 9, 9, RGB(9, 8, 7));
+    EXPECT_EQ(pImage->pixelColor(3, 3), QColor(9, 8, 7));
+    EXPECT_EQ(info.bmBits, pImage->constBits());
+    const std::vector<quint32> pixels(64, 0x00040506);
+    EXPECT_EQ(bitmap.SetBitmapBits(256, pixels.data()), 256U);
+    EXPECT_EQ(memory.GetPixel(3, 3), RGB(6, 5, 4));
+    CDC_E other;
+    other.CreateCompatibleDC(nullptr);
+    EXPECT_EQ(other.SelectObject(&bitmap), nullptr) << "one device context at a time";
+    EXPECT_EQ(memory.SelectObject(pStock), &bitmap);
+}
+
+// The fourth byte of a pixel without alpha is nobody's, and 0 in what Win32 sources hand over.
+TEST(DcSelect, PixelsWithoutAlphaAreOpaque)
+{
+    const std::vector<quint32> pixels(16, 0x00040506);
+    CBitmap_E bitmap;
+    bitmap.CreateCompatibleBitmap(nullptr, 4, 4);
+    bitmap.SetBitmapBits(64, pixels.data());
+    tagBITMAP info{};
+    bitmap.GetBitmap(&info);
+    EXPECT_EQ(info.bmBits, pixels.data());
+    CDC_E memory;
+    memory.CreateCompatibleDC(nullptr);
+    memory.SelectObject(&bitmap);
+    QImage target(8, 8, QImage::Format_ARGB32);
+    target.fill(Qt::white);
+    CDC_E dc(&target);
+    EXPECT_TRUE(dc.BitBlt(0, 0, 4, 4, &memory, 0, 0, SRCCOPY));
+    EXPECT_TRUE(dc.TransparentBlt(4, 4, 4, 4, &memory, 0, 0, 4, 4, RGB(0, 0, 0)));
+    EXPECT_EQ(target.pixelColor(1, 1), QColor(6, 5, 4));
+    EXPECT_EQ(target.pixelColor(5, 5), QColor(6, 5, 4));
+    memory.DeleteDC();
+    CImageList_E list;
+    list.Add(&bitmap, RGB(1, 2, 3));
+    EXPECT_EQ(static_cast<QImage*>(bitmap.m_hObject)->pixelColor(1, 1), QColor(6, 5, 4));
+}
+
+TEST(DcSelect, ModesAreSavedWithThePainter)
+{
+    Image i;
+    i.dc.SetMapMode(MM_ANISOTROPIC);
+    i.dc.SaveDC();
+    i.dc.SetMapMode(MM_TEXT);
+    i.dc.RestoreDC(-1);
+    EXPECT_EQ(i.dc.GetMapMode(), MM_ANISOTROPIC);
+    i.dc.RestoreDC(-1); // nothing was saved
+    EXPECT_EQ(i.dc.GetMapMode(), MM_ANISOTROPIC);
+}
+
 TEST(DcCoordinates, OriginsAndExtents)
 {
     Image i;
@@ -258,6 +321,20 @@ TEST(DcText, Measures)
     EXPECT_TRUE(i.dc.GetTextMetrics(&measures));
     EXPECT_EQ(measures.tmHeight, metrics.height());
     EXPECT_EQ(measures.tmAscent, metrics.ascent());
+}
+
+TEST(DcText, HasItsColorWhateverThePen)
+{
+    for (const QPen& pen : {QPen(Qt::NoPen), QPen(QColor(0, 0, 0, 0))}) {
+        Image i;
+        i.dc.SelectObject(pen);
+        i.dc.SetTextColor(RGB(0, 0, 0));
+        tagRECT rect{0, 0, 60, 50};
+        i.dc.DrawText(L"MMMM", -1, &rect, 0);
+        QImage white = i.image;
+        white.fill(Qt::white);
+        EXPECT_NE(i.image, white);
+    }
 }
 
 TEST(DcText, QtFlagsOfWin32Flags)

@@ -71,8 +71,10 @@ TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
     second.Attach(first->m_hObject);
     untyped.Attach(first->m_hObject);
     EXPECT_TRUE(second.DeleteObject());
+    EXPECT_EQ(CGdiObject_E::FromHandle(untyped.m_hObject), &untyped);
+    untyped.Attach(untyped.m_hObject);
     first.reset();
-    EXPECT_NE(untyped.m_hObject, nullptr);
+    EXPECT_EQ(CGdiObject_E::FromHandle(untyped.m_hObject), &untyped);
     EXPECT_TRUE(untyped.DeleteObject());
 }
 

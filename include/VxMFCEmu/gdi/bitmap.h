@@ -24,7 +24,7 @@ struct tagBITMAP
     LONG bmWidthBytes; ///< bytes from one row to the next
     WORD bmPlanes;     ///< 1
     WORD bmBitsPixel;
-    LPVOID bmBits; ///< the pixels, owned by the bitmap
+    LPVOID bmBits; ///< the pixels, the bitmap's or those handed to SetBitmapBits()
 };
 using BITMAP = tagBITMAP;
 using LPBITMAP = tagBITMAP*;
@@ -64,7 +64,9 @@ class VXMFC_EXPORT CBitmap_E : public CGdiObject_E
     DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const;
     /// Makes the caller's memory, which must outlive the bitmap, the pixels of an image of 32 bits
     /// in the present size. Fewer bytes than that takes are copied instead, and the rest is 0.
-    /// Returns the number of bytes used; 0 for an empty object and for null.
+    /// The fourth byte of a pixel means nothing. Pixels of a bitmap that a device context draws on
+    /// are copied into it, 32 bits each. Returns the number of bytes used; 0 for an empty object
+    /// and for null.
     DWORD SetBitmapBits(DWORD dwBytes, const void* lpBits);
     /// Width and height in pixels; (0, 0) for an empty object.
     CSize_E GetBitmapDimension() const;

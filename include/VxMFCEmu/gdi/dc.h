@@ -33,6 +33,7 @@
 #include <QtGui/QPainter>
 
 #include <memory>
+#include <vector>
 
 class CBitmap_E;
 class CBrush_E;
@@ -76,7 +77,8 @@ public:
     /// Sets a brush (0 to 4) or pen (6, 7) of the stock; other numbers, NULL_BRUSH among them,
     /// change nothing. Always null.
     virtual CGdiObject_E* SelectStockObject(int nIndex);
-    /// Puts the attributes of the painter on a stack. Always 0.
+    /// Puts the attributes of the painter, and the modes that the Set...Mode() members and
+    /// SetTextAlign() set, on a stack; not the text colour and the current position. Always 0.
     virtual int SaveDC();
     /// Takes the attributes put there last; the argument is ignored. Always 1.
     virtual BOOL RestoreDC(int nSavedDC);
@@ -101,6 +103,7 @@ public:
 
     /// Sets the font and returns the previous one; null changes nothing.
     QFont SelectObject(CFont_E* pFont);
+    /// By value: sets it and returns the previous one.
     QFont SelectObject(const QFont& font);
     QPen SelectObject(const QPen& pen);
     QBrush SelectObject(const QBrush& brush);
@@ -114,8 +117,9 @@ public:
     UINT SelectObject(CRgn_E* pRgn);
     /// Lets a memory device context draw on a bitmap, with the attributes it has, and returns the
     /// bitmap it drew on, at first a 1 x 1 one that belongs to the device context. Null, changing
-    /// nothing, for other device contexts and for a null or empty bitmap. The bitmap is drawn on in
-    /// place; destroying it meanwhile is harmless.
+    /// nothing, for other device contexts and for a null or empty bitmap. Null as well for a bitmap
+    /// that another device context draws on and for one of 4 bits a pixel. The bitmap is drawn on
+    /// in place and may be looked at meanwhile; destroying it is harmless.
     CBitmap_E* SelectObject(CBitmap_E* pBitmap);
     /// Replaces the colour table by the entries of @p pPalette, padded with white to 256, or by the
     /// default ones for null, and returns the address of m_palette.
@@ -213,7 +217,9 @@ public:
     /// Without an outline.
     void FillSolidRect(int x, int y, int cx, int cy, const VxColor& color);
     void FillSolidRect(const tagRECT* pRect, const VxColor& color);
+    /// Nothing for an empty brush.
     void FillRect(const tagRECT* pRect, CBrush_E* pBrush);
+    /// A frame one pixel wide, whose left and top sides have one colour and whose others another.
     void Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
                     const VxColor& bottomRight);
     void Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight);
@@ -232,6 +238,7 @@ public:
     BOOL PatBlt(int x, int y, int cx, int cy, DWORD dwRop);
     /// 1; 0 if either object is null or empty.
     BOOL FillRgn(CRgn_E* pRgn, CBrush_E* pBrush);
+    /// The same with the current brush.
     BOOL PaintRgn(CRgn_E* pRgn);
     /// Fills a frame around the region's bounding rectangle, on its outside. Differs from Win32:
     /// the region's own outline is not followed.
@@ -279,12 +286,14 @@ public:
     /// Differs from Win32: the clip is intersected with the rectangle. Always 0.
     int ExcludeClipRect(int l, int t, int r, int b);
     int ExcludeClipRect(const tagRECT* pRect);
+    /// Intersects the clip with the rectangle. Always 0.
     int IntersectClipRect(int l, int t, int r, int b);
     int IntersectClipRect(const tagRECT* pRect);
     /// Differs from Win32: moves all drawing that follows, not only the clip. Always 0.
     int OffsetClipRgn(int x, int y);
     int OffsetClipRgn(tagSIZE size) { return OffsetClipRgn(size.cx, size.cy); }
-    /// Takes the rectangle of a window's widget, in its parent's coordinates, out of the clip.
+    /// Takes the rectangle of a window's widget, in its parent's coordinates, out of the clip, or
+    /// out of the whole device without one. Always 0.
     int ExcludeUpdateRgn(CWnd_E* pWnd);
     /// The bounds of the clip, of the device without one. 1 when it is empty, 2 for a rectangle, 3
     /// for more; 0 for null and without a device.
@@ -380,6 +389,7 @@ private:
     QVector<tagPALETTEENTRY> m_colorTable;
     COLORREF m_textColor = 0xFFFFFFFF;
     Modes m_modes;
+    std::vector<Modes> m_savedModes;
     vx::detail::SelectedPen m_selectedPen;
     vx::detail::SelectedBrush m_selectedBrush;
     std::unique_ptr<vx::detail::DcDevice> m_pDevice;

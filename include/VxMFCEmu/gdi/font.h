@@ -117,6 +117,7 @@ class VXMFC_EXPORT CFont_E : public CGdiObject_E, public QFont
     /// Binds @p hFont and becomes equal to it; FALSE for null.
     BOOL Attach(HFONT hFont);
 
+    /// CreateFontIndirect() of a description with these fields. A null face name is an empty one.
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight,
                     BYTE bItalic, BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet,
                     BYTE nOutPrecision, BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily,

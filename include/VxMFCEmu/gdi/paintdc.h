@@ -40,5 +40,5 @@ public:
     /// Null and unbound windows give an inactive painter.
     explicit CPaintDC_E(CWnd_E* pWnd);
 
-    tagPAINTSTRUCT m_ps{};
+    tagPAINTSTRUCT m_ps{}; ///< CDC_E::FromHandle() of its hdc is this object
 };

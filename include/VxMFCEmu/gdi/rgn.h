@@ -56,7 +56,7 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     /// Returns 1 and makes no region.
     BOOL CreatePolyPolygonRgn(const tagPOINT* lpPoints, const int* lpPolyCounts, int nCount,
                               int nPolyFillMode);
-    /// The clip region of @p pDC; FALSE for null.
+    /// The clip region of @p pDC, empty without a clip; FALSE for null.
     BOOL CreateFromPath(CDC_E* pDC);
     /// Returns 0 and makes no region.
     BOOL CreateFromData(const tagXFORM* lpXForm, int nCount, const tagRGNDATA* pRgnData);
@@ -70,7 +70,7 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     /// Shares the handle of @p pRgnSrc (intended): what one object changes in place, the other
     /// sees; the last of them frees it. FALSE for an empty region.
     BOOL CopyRgn(const CRgn_E* pRgnSrc);
-    /// Whether both objects have the same handle.
+    /// Whether both objects have the same handle, or none.
     BOOL EqualRgn(const CRgn_E* pRgn) const;
     /// Moves the region; returns 0, or 0xFFFFFFFF without a handle.
     UINT OffsetRgn(int x, int y);

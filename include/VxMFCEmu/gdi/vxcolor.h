@@ -8,6 +8,7 @@
 
 #include <type_traits>
 
+/// A `QColor` that converts from and to COLORREF, 0x00BBGGRR.
 class VxColor : public QColor
 {
 public:

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Draws gearbox.plt, the HPGL plot that the demo shows: gears in mesh, a section, a title block."""
+"""Draws the HPGL plots that the demo shows into this folder: gearbox.plt, gears in mesh with a
+section and a title block, and terrain.plt, contour lines of hills."""
 import math
-import sys
+import os
 
 UNIT = 40  # plotter units a millimetre
 out = ["IN;"]
@@ -110,30 +111,73 @@ def spring(x, y, length, radius, turns):
     polyline([(x + length * i / n, y + radius * math.sin(2 * math.pi * turns * i / n)) for i in range(n + 1)])
 
 
-pen(7)
-polyline([(5, 5), (415, 5), (415, 292), (5, 292)], True)
-polyline([(10, 10), (410, 10), (410, 287), (10, 287)], True)
-gear(110, 175, 36, 4, 0, 4, 6)
-gear(110 + 108, 175, 18, 4, math.pi + math.pi / 18, 2, 4)
-gear(218 + 84, 175, 24, 4, math.pi / 24, 3, 5)
-dimension(110, 218, 95, "108 \xb1 0.02")
-dimension(218, 302, 95, "84 \xb1 0.02")
-section(60, 50)
-spring(180, 45, 80, 9, 14)
-pen(6)
-for i in range(12):
-    arc(345, 235, 6 + 3 * i, 30 * i, 250)
-pen(7)
-polyline([(290, 10), (290, 75), (410, 75)])
-for y in (25, 40, 58):
-    polyline([(290, y), (410, y)])
-for y, text, size in ((62, "GEARBOX", 7), (45, "z 36 : 18 : 24   m 4", 5), (30, "scale 1 : 1   A3", 4.5), (15, "sheet 1 / 1", 4.5)):
-    label(295, y, text, size)
-pen(30)
-label(66, 262, "36 teeth")
-label(203, 220, "18")
-label(292, 232, "24")
-out.append("SP0;")
+def write(name):
+    path = os.path.join(os.path.dirname(os.path.abspath(__file__)), name)
+    with open(path, "w", encoding="latin-1", newline="\n") as plot:
+        plot.write("\n".join(out + ["SP0;"]) + "\n")
+    out[1:] = []
 
-with open(sys.argv[1], "w", encoding="latin-1", newline="\n") as plot:
-    plot.write("\n".join(out) + "\n")
+
+def frame():
+    pen(7)
+    polyline([(5, 5), (415, 5), (415, 292), (5, 292)], True)
+
+
+def gearbox():
+    frame()
+    polyline([(10, 10), (410, 10), (410, 287), (10, 287)], True)
+    gear(110, 175, 36, 4, 0, 4, 6)
+    gear(110 + 108, 175, 18, 4, math.pi + math.pi / 18, 2, 4)
+    gear(218 + 84, 175, 24, 4, math.pi / 24, 3, 5)
+    dimension(110, 218, 95, "108 \xb1 0.02")
+    dimension(218, 302, 95, "84 \xb1 0.02")
+    section(60, 50)
+    spring(180, 45, 80, 9, 14)
+    pen(6)
+    for i in range(12):
+        arc(345, 235, 6 + 3 * i, 30 * i, 250)
+    pen(7)
+    polyline([(290, 10), (290, 75), (410, 75)])
+    for y in (25, 40, 58):
+        polyline([(290, y), (410, y)])
+    for y, text, size in ((62, "GEARBOX", 7), (45, "z 36 : 18 : 24   m 4", 5), (30, "scale 1 : 1   A3", 4.5), (15, "sheet 1 / 1", 4.5)):
+        label(295, y, text, size)
+    pen(30)
+    label(66, 262, "36 teeth")
+    label(203, 220, "18")
+    label(292, 232, "24")
+
+
+HILLS = ((120, 170, 60, 90), (250, 110, 80, 70), (310, 220, 45, 60), (190, 240, 35, 40))
+
+
+def height(x, y):
+    return sum(h * math.exp(-((x - cx) ** 2 + (y - cy) ** 2) / (2 * r * r)) for cx, cy, r, h in HILLS)
+
+
+def terrain():
+    """Each level once around each hill, found outwards from its top."""
+    frame()
+    for i, level in enumerate(range(12, 84, 6)):
+        pen((90, 70, 50, 30)[i * 4 // 12])
+        for cx, cy, _, top in HILLS:
+            if top <= level:
+                continue
+            line = []
+            for step in range(121):
+                a = 2 * math.pi * step / 120
+                r = 0
+                while r < 150 and height(cx + r * math.cos(a), cy + r * math.sin(a)) > level:
+                    r += 0.5
+                line.append((min(max(cx + r * math.cos(a), 6), 414), min(max(cy + r * math.sin(a), 6), 291)))
+            polyline(line)
+    pen(1)
+    for cx, cy, _, top in HILLS:
+        circle(cx, cy, 1.5)
+        label(cx + 3, cy + 3, f"{top} m", 5)
+
+
+gearbox()
+write("gearbox.plt")
+terrain()
+write("terrain.plt")
