@@ -39,12 +39,20 @@ bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
     // A handler may delete the window, its widget, or both.
     const vx::detail::DispatchGuard guard(this, watched, watched == GetImpQObject());
     QEvent* const previous = std::exchange(m_pCurrentEvent, e);
-    const bool consumed =
-        isMessage ? DispatchMessage(guard, watched, e, msg) : showMessageBox(watched, e);
-    if (guard.wrapperAlive()) {
+    const auto leave = [&] {
+        if (!guard.wrapperAlive())
+            return;
         ForgetPending(e);
         m_pCurrentEvent = previous;
+    };
+    bool consumed = false;
+    try {
+        consumed = isMessage ? DispatchMessage(guard, watched, e, msg) : showMessageBox(watched, e);
+    } catch (...) {
+        leave();
+        throw;
     }
+    leave();
     return consumed || !guard.objectAlive();
 }
 

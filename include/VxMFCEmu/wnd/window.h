@@ -19,6 +19,7 @@
 
 #include <VxMFCEmu/core/cmdtarget.h>
 #include <VxMFCEmu/text/cstring.h>
+#include <VxMFCEmu/wnd/commandmap.h>
 #include <VxMFCEmu/wnd/geometry.h>
 #include <VxMFCEmu/wnd/messagemap.h>
 #include <VxMFCEmu/wnd/messagestructs.h>
@@ -31,6 +32,7 @@
 #include <QtCore/QPointer>
 
 #include <map>
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QAbstractSlider;
@@ -40,8 +42,9 @@ class QTimer;
 QT_END_NAMESPACE
 
 namespace vx::detail {
+class CommandMap;
 class DispatchGuard;
-}
+} // namespace vx::detail
 
 class CDC_E;
 class CDataExchange_E;
@@ -91,8 +94,11 @@ public:
     virtual BOOL PreTranslateMessage(tagMSG* pMsg);
     /// Calls the handler of a message; TRUE when there is one. @p pResult may be null.
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    /// Moves data between members and controls; empty here.
+    /// Moves data between members and controls (see dlg/ddx.h); empty here.
     virtual void DoDataExchange(CDataExchange_E* pDX);
+    /// Runs DoDataExchange(), from the controls to the members for TRUE. FALSE when it throws, as
+    /// it does for invalid input.
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     /// Shows the entries of one menu in the window's menu bar, which the window owns; the menu
     /// stays its owner's. Null takes the menu bar away. FALSE without a widget.
     virtual BOOL SetMenu(CMenu_E* pMenu);
@@ -129,6 +135,9 @@ public:
     /// Adds or replaces the entry of a message; see messagemap.h for the checked way to do so.
     void AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnE);
     void AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry);
+    /// Adds or replaces the handler of a command, or of its state; see commandmap.h for the checked
+    /// way to do so. An empty name adds nothing.
+    void AddCmdMapEntry(const QString& strName, VxCommandEntry_E entry, AFX_PMSG_E pfn);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
@@ -440,6 +449,7 @@ private:
     Offer OfferSetCursorToAncestors(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     void FillIfSeen(tagMSG& msg) const;
     void ForgetPending(const QEvent* e);
+    BOOL InitDialog();
     QScrollBar* OwnScrollBar(int nBar) const;
     QScrollBar* MakeScrollBar(int nBar);
     QMenuBar* MakeMenuBar();
@@ -461,6 +471,7 @@ private:
     QPointer<QScrollBar> m_pHScrollBar;
     QPointer<QScrollBar> m_pVScrollBar;
     QPointer<QMenuBar> m_pMenuBar;
+    std::unique_ptr<vx::detail::CommandMap> m_pCommands; // only while there are entries
 };
 
 /// The handle map of windows; made on first request with @p bCreate, null before.
