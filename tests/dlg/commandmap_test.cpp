@@ -34,6 +34,17 @@ ON_COMMAND_E(1022, &CommandDlg::OnLate)
 ON_COMMAND_E(4711, &CommandDlg::OnLate)
 END_MESSAGE_MAP_E()
 
+/// Waits for @p done in an event loop that goes idle.
+bool waitIdle(const std::function<bool()>& done)
+{
+    return vxtest::waitUntil([&] {
+        QEventLoop loop;
+        QTimer::singleShot(10, &loop, &QEventLoop::quit);
+        loop.exec();
+        return done();
+    });
+}
+
 struct CommandTest : testing::Test
 {
     template <typename Object>
@@ -83,7 +94,7 @@ TEST_F(CommandTest, StateFollowsAtIdleTime)
 {
     for (const BOOL enabled : {FALSE, TRUE}) {
         m_window.enabled = enabled;
-        EXPECT_TRUE(vxtest::waitUntil([&] { return m_pZoom->isEnabled() == (enabled == TRUE); }));
+        EXPECT_TRUE(waitIdle([&] { return m_pZoom->isEnabled() == (enabled == TRUE); }));
     }
     EXPECT_TRUE(m_pZoomButton->isEnabled());
 }
@@ -92,7 +103,7 @@ TEST_F(CommandTest, WhatComesLaterIsFound)
 {
     for (int round = 1; round <= 2; ++round) { // the second after the first has gone
         const QPointer<QAction> pLate(add<QAction>("late"));
-        EXPECT_TRUE(vxtest::waitUntil([&] {
+        EXPECT_TRUE(waitIdle([&] {
             pLate->trigger();
             return m_window.lates >= round;
         }));
