@@ -99,8 +99,8 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
         if (offer != Offer::Refused)
             return offer == Offer::Taken ? TRUE : FALSE;
     }
-    const auto it = m_mapMessages.find(message);
-    if (it == m_mapMessages.end())
+    const auto it = FindMsgMapEntry(message);
+    if (it == m_messages.end() || it->first != message)
         return FALSE;
     const AFX_MSGMAP_ENTRY_E entry = it->second; // the handler may change the map
     if (!vx::detail::callHandler(this, entry, wParam, lParam, result))
@@ -143,7 +143,19 @@ void CWnd_E::AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AF
 
 void CWnd_E::AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry)
 {
-    m_mapMessages[message] = entry;
+    if (m_messages.empty())
+        m_messages.reserve(4); // what every window has fits
+    const auto it = FindMsgMapEntry(message);
+    if (it != m_messages.end() && it->first == message)
+        it->second = entry;
+    else
+        m_messages.insert(it, {message, entry});
+}
+
+CWnd_E::MessageEntries::iterator CWnd_E::FindMsgMapEntry(UINT message)
+{
+    return std::lower_bound(m_messages.begin(), m_messages.end(), message,
+                            [](const auto& entry, UINT wanted) { return entry.first < wanted; });
 }
 
 LRESULT CWnd_E::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const

@@ -69,11 +69,17 @@ enum class By
     Id
 };
 
-template <By by>
-class ExchangingDlg : public CDialog_E
+// Attaching loads the controls, which the class below makes only afterwards.
+class AttachedDlg : public CDialog_E
 {
 public:
-    ExchangingDlg() { AttachDefault(static_cast<QWidget*>(nullptr)); }
+    AttachedDlg() { AttachDefault(static_cast<QWidget*>(nullptr)); }
+};
+
+template <By by>
+class ExchangingDlg : public AttachedDlg
+{
+public:
     void DoDataExchange(CDataExchange_E* pDX) override
     {
         for (int i = 0; i < kOfEach; ++i) {

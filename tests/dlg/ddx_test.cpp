@@ -231,6 +231,18 @@ TEST(Ddx, LoadingDisturbsAControlAsLittleAsItMay)
     EXPECT_EQ(notified, 0);
 }
 
+// Intended: by id a name travels as UTF-8 and is read as Latin-1.
+TEST(Ddx, NamesOutsideAsciiAreNotFoundById)
+{
+    Form form;
+    form.add<QLineEdit>("x")->setObjectName("Größe"_q);
+    ASSERT_EQ(GetObjectNameById(1098), "Größe"_q);
+    CDataExchange_E save(&form.window, TRUE);
+    CString_E text(L"kept");
+    DDX_Text(&save, 1098, text);
+    EXPECT_EQ(text, L"kept");
+}
+
 TEST(Ddx, RadioWalkEndsAtItsStart)
 {
     QRadioButton only;

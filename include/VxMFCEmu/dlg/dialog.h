@@ -41,7 +41,8 @@ class VXMFC_EXPORT CDialog_E : public CWnd_E
     /// FALSE for a form that cannot be read.
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::AttachDefault;
-    using CWnd_E::Create;
+    // CWnd_E's forms with a style stay hidden: `Create(IDD_GAUGE, NULL)` would fit two functions.
+    BOOL Create(QWidget* pParent) override { return CWnd_E::Create(pParent); }
     /// Makes a modeless dialog, which is shown only if the form's style has WS_VISIBLE.
     virtual BOOL Create(UINT nIDTemplate, CWnd_E* pParent = nullptr);
     virtual BOOL Create(const wchar_t* lpszTemplateName, CWnd_E* pParent = nullptr);

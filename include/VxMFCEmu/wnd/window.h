@@ -33,6 +33,8 @@
 
 #include <map>
 #include <memory>
+#include <utility>
+#include <vector>
 
 QT_BEGIN_NAMESPACE
 class QAbstractSlider;
@@ -435,6 +437,9 @@ private:
             type; // of its own: an event that others consumed or dropped is not touched again
     };
 
+    using MessageEntries = std::vector<std::pair<UINT, AFX_MSGMAP_ENTRY_E>>;
+
+    MessageEntries::iterator FindMsgMapEntry(UINT message);
     template <typename Result>
     Result PassOn(Result result);
     void PassOn();
@@ -465,7 +470,7 @@ private:
     QEvent* m_pCurrentEvent = nullptr;
     QList<PendingEvent> m_pendingEvents;
     std::map<int, QTimer*> m_mapTimers;
-    std::map<UINT, AFX_MSGMAP_ENTRY_E> m_mapMessages;
+    MessageEntries m_messages; // in the order of their numbers
     int m_nReserved = 0;
     UINT m_dwStyle = 0;
     QPointer<QScrollBar> m_pHScrollBar;
