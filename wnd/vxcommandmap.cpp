@@ -5,6 +5,7 @@
 #include <VxMFCEmu/wnd/cmdui.h>
 #include <VxMFCEmu/wnd/window.h>
 
+#include <QtCore/QMetaMethod>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
 

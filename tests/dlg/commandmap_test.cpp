@@ -118,14 +118,17 @@ TEST_F(CommandTest, HandlersMayThrowAndDelete)
     auto* const pButton = new QPushButton(pWidget);
     pButton->setObjectName("apply"_q);
     pOther->SubclassWindow(pWidget);
-    pOther->onApply = [] {
-        QTimer::singleShot(50, [] {
-            if (QWidget* const pBox = QApplication::activeModalWidget())
-                pBox->close();
-        });
-        AfxThrowMemoryException_E(); // reported in a message box
-    };
+    QTimer poll;
+    bool reported = false;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&reported] {
+        QWidget* const pBox = QApplication::activeModalWidget();
+        if (pBox && pBox->isVisible())
+            reported = pBox->close();
+    });
+    poll.start(5);
+    pOther->onApply = [] { AfxThrowMemoryException_E(); };
     pButton->click();
+    EXPECT_TRUE(reported);
     pOther->onApply = [=] {
         delete pOther;
         delete pWidget;

@@ -65,12 +65,12 @@ int runModal(CDialog_E& dialog, Act act)
     bool acted = false;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-        QWidget* const pWidget = dialog.GetSafeHwnd();
-        if (acted || !pWidget || !pWidget->isVisible())
+        QWidget* const pWidget = acted ? nullptr : dialog.GetSafeHwnd(); // it may be gone by then
+        if (!pWidget || !pWidget->isVisible())
             return;
         acted = true;
         const QPointer<CDialog_E> guard(&dialog);
-        QTimer::singleShot(4000, pWidget, [guard] { guard ? guard->EndDialog(99) : void(); });
+        QTimer::singleShot(20000, pWidget, [guard] { guard ? guard->EndDialog(99) : void(); });
         act();
     });
     poll.start(5);

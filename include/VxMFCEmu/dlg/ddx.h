@@ -13,6 +13,7 @@
 #pragma once
 
 #include <VxMFCEmu/dlg/dataexchange.h>
+#include <VxMFCEmu/wnd/resourceids.h>
 
 #include <QtCore/QDateTime>
 
@@ -81,7 +82,7 @@ class CWnd_E;
     VXMFC_EXPORT void name(CDataExchange_E* pDX, const char* pszName, Value value);                \
     [[gnu::always_inline]] inline void name(CDataExchange_E* pDX, int nIDC, Value value)           \
     {                                                                                              \
-        name(pDX, GetObjectNameById(nIDC).toUtf8().constData(), value);                            \
+        name(pDX, ToStringId(static_cast<UINT>(nIDC)).toUtf8().constData(), value);                \
     }
 #define VXMFC_DDX_ROW(name, Value, Control)                                                        \
     VXMFC_DDX_POINTER(name, Value, Control)                                                        \
@@ -101,5 +102,5 @@ VXMFC_EXPORT void DDX_Text(CDataExchange_E* pDX, const char* pszName, LPTSTR psz
 [[gnu::always_inline]] inline void DDX_Text(CDataExchange_E* pDX, int nIDC, LPTSTR pszValue,
                                             int nMaxLen)
 {
-    DDX_Text(pDX, GetObjectNameById(nIDC).toUtf8().constData(), pszValue, nMaxLen);
+    DDX_Text(pDX, ToStringId(static_cast<UINT>(nIDC)).toUtf8().constData(), pszValue, nMaxLen);
 }
