@@ -24,11 +24,12 @@ const QByteArray& parentProperty()
     return name;
 }
 
-// Looked up once: a connection by name parses both signatures each time.
-QMetaMethod onImpDestroySlot()
+// By indices, looked up once: other connections put both signatures together each time.
+void connectDestroyed(const QObject* pImp, const CObject_E* pWrapper)
 {
-    static const int nIndex = CObject_E::staticMetaObject.indexOfSlot("OnImpDestroy()");
-    return CObject_E::staticMetaObject.method(nIndex);
+    static const int nSignal = QMetaMethod::fromSignal(&QObject::destroyed).methodIndex();
+    static const int nSlot = CObject_E::staticMetaObject.indexOfSlot("OnImpDestroy()");
+    QMetaObject::connect(pImp, nSignal, pWrapper, nSlot, Qt::UniqueConnection);
 }
 
 QVariant addressOf(const QObject* pObject)
@@ -96,8 +97,7 @@ BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
     vx::detail::setDynamicProperty(pImp, ownerProperty(), addressOf(this));
     vx::detail::setDynamicProperty(pImp, parentProperty(), addressOf(pParent));
     pImp->installEventFilter(this);
-    static const QMetaMethod destroyed = QMetaMethod::fromSignal(&QObject::destroyed);
-    connect(pImp, destroyed, this, onImpDestroySlot(), Qt::UniqueConnection);
+    connectDestroyed(pImp, this);
     const BOOL bAttached = OnAttach();
     if (!bAttached)
         Detach();

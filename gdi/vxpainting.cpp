@@ -16,10 +16,10 @@ void vx::detail::eraseBackground(CWnd_E& window, QWidget& widget)
 template <UINT Kind>
 LRESULT CWnd_E::OnCtlColorMessage(WPARAM wParam, LPARAM lParam)
 {
-    const auto it = m_mapMessages.find(WM_CTLCOLOR);
-    if (it == m_mapMessages.end())
+    const AFX_MSGMAP_ENTRY_E* const pEntry = FindMsgMapEntry(WM_CTLCOLOR);
+    if (!pEntry)
         return 0;
-    const AFX_MSGMAP_ENTRY_E entry = it->second; // the handler may change the map
+    const AFX_MSGMAP_ENTRY_E entry = *pEntry; // the handler may change the map
     auto* const pDC = reinterpret_cast<CDC_E*>(wParam);
     const QPointer<QWidget> control(reinterpret_cast<QWidget*>(lParam));
     const QPointer<CWnd_E> self(this);
@@ -38,7 +38,7 @@ LRESULT CWnd_E::OnCtlColorMessage(WPARAM wParam, LPARAM lParam)
 
 void CWnd_E::AddCtlColorEntry(const AFX_MSGMAP_ENTRY_E& entry)
 {
-    const bool first = m_mapMessages.count(WM_CTLCOLOR) == 0;
+    const bool first = !FindMsgMapEntry(WM_CTLCOLOR);
     AddMsgMapEntry(WM_CTLCOLOR, entry);
     // One handler for seven numbers, none of which reaches a handler with its message.
     const AFX_PMSG_E handlers[] = {

@@ -23,6 +23,7 @@ packages=(
   python3
   qtbase5-dev
   qtbase5-private-dev
+  qttools5-dev
   xauth
   xvfb
 )

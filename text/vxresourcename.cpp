@@ -1,5 +1,7 @@
 #include <VxMFCEmu/text/resourcename.h>
 
+#include "text/vxresourcename_p.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -135,6 +137,13 @@ QString GetMfyResourceName()
     Walk walk;
     _Unwind_Backtrace(&visitFrame, &walk);
     return walk.foreign ? walk.foreign->name : QString();
+}
+
+QString vx::detail::resourceNameFrom(const void* pReturnAddress)
+{
+    const Module* const module =
+        moduleOfAddress(reinterpret_cast<std::uintptr_t>(pReturnAddress) - 1);
+    return module && !module->isOurs ? module->name : GetMfyResourceName();
 }
 
 bool isCurrentLibrary(const QString& strModule)

@@ -1,6 +1,7 @@
 vxmfc_sources(FOLDER wnd
   HEADERS
     wnd/cmdui.h
+    wnd/commandmap.h
     wnd/controlmessages.h
     wnd/eventtranslation.h
     wnd/geometry.h
@@ -28,6 +29,7 @@ vxmfc_sources(FOLDER wnd
     wnd/winstyles.h
   SOURCES
     vxcmdui.cpp
+    vxcommandmap.cpp
     vxcontrolstate.cpp
     vxdefaulthandlers.cpp
     vxeventtomsg.cpp
@@ -52,6 +54,7 @@ vxmfc_sources(FOLDER wnd
     vxwindowtext.cpp
     vxwindowtree.cpp
     vxwnd.cpp
+    vxwnddialog.cpp
     vxwnddispatch.cpp
     vxwndedges.cpp
     vxwndforward.cpp

@@ -11,7 +11,9 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTextEdit>
 
 #include <climits>
 
@@ -123,6 +125,19 @@ BOOL SetEditLimitText_E(HWND hWnd, int nMax)
     if (pEdit)
         pEdit->setMaxLength(nMax > 0 ? nMax : INT_MAX);
     return pEdit != nullptr;
+}
+
+BOOL SetEditSelectAll_E(HWND hWnd)
+{
+    if (QLineEdit* const pLine = lineEditOf(hWnd))
+        pLine->selectAll();
+    else if (auto* const pText = qobject_cast<QTextEdit*>(hWnd))
+        pText->selectAll();
+    else if (auto* const pPlain = qobject_cast<QPlainTextEdit*>(hWnd))
+        pPlain->selectAll();
+    else
+        return FALSE;
+    return TRUE;
 }
 
 BOOL EnableScrollBar_E(HWND hWnd, UINT uSBFlags, UINT uArrows)

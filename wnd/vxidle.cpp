@@ -46,7 +46,8 @@ void ConnectIdleSlot(QObject* pObject)
         return;
     const QMetaMethod slot = idleSlot(pObject);
     if (slot.isValid() && !vx::detail::isConnected(pDispatcher, aboutToBlock(), pObject, slot))
-        QObject::connect(pDispatcher, aboutToBlock(), pObject, slot);
+        QMetaObject::connect(pDispatcher, aboutToBlock().methodIndex(), pObject,
+                             slot.methodIndex());
 }
 
 void DisconnectIdleSlot(QObject* pObject)

@@ -1,6 +1,7 @@
 #include <VxMFCEmu/wnd/resourceids.h>
 
 #include "text/vxidtable_p.h"
+#include "text/vxresourcename_p.h"
 
 #include <VxMFCEmu/text/resourcename.h>
 
@@ -40,6 +41,9 @@ const ResourceIds& idsOf(const QString& strResource)
 
 const QMap<UINT, QString>& GetResourceIDMap() { return idsOf(GetMfyResourceName()).names; }
 
-QString ToStringId(UINT nID) { return idsOf(GetMfyResourceName()).names.value(nID); }
+QString ToStringId(UINT nID)
+{
+    return idsOf(vx::detail::resourceNameFrom(__builtin_return_address(0))).names.value(nID);
+}
 
 UINT ToCtrlId(const QString& strName) { return idsOf(GetMfyResourceName()).ids.value(strName); }

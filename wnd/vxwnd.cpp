@@ -1,6 +1,7 @@
 // Binding a window to its widget, and finding windows and controls again.
 #include <VxMFCEmu/wnd/window.h>
 
+#include "wnd/vxcommandmap_p.h"
 #include "wnd/vxseesmessages_p.h"
 
 #include <VxMFCEmu/core/handlemap.h>
@@ -33,11 +34,12 @@ QWidget* CWnd_E::GetSafeHwnd() const
 BOOL CWnd_E::OnAttach()
 {
     m_pendingEvents.clear();
-    CWnd_E::OnDestroy(); // what lies along the edges of an earlier widget
+    m_pCommands = nullptr; // of an earlier widget
+    CWnd_E::OnDestroy();   // what lies along the edges of an earlier widget
     tagCREATESTRUCTW create{};
     create.style = m_dwStyle;
     // Intended: anything but 0 stops creation, not only -1.
-    if (OnCreate(&create) != 0 || !GetSafeHwnd())
+    if (OnCreate(&create) != 0 || !GetSafeHwnd() || !InitDialog() || !GetSafeHwnd())
         return FALSE;
     ConnectSlotsFrom(GetSafeHwnd(), false);
     OnMessageMap();

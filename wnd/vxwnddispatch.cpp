@@ -27,6 +27,11 @@ bool showMessageBox(QObject* watched, const QEvent* e)
     return true;
 }
 
+bool isBefore(const std::pair<UINT, AFX_MSGMAP_ENTRY_E>& entry, UINT message)
+{
+    return entry.first < message;
+}
+
 } // namespace
 
 bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
@@ -40,12 +45,20 @@ bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
     // A handler may delete the window, its widget, or both.
     const vx::detail::DispatchGuard guard(this, watched, watched == GetImpQObject());
     QEvent* const previous = std::exchange(m_pCurrentEvent, e);
-    const bool consumed =
-        isMessage ? DispatchMessage(guard, watched, e, msg) : showMessageBox(watched, e);
-    if (guard.wrapperAlive()) {
+    const auto leave = [&] {
+        if (!guard.wrapperAlive())
+            return;
         ForgetPending(e);
         m_pCurrentEvent = previous;
+    };
+    bool consumed = false;
+    try {
+        consumed = isMessage ? DispatchMessage(guard, watched, e, msg) : showMessageBox(watched, e);
+    } catch (...) {
+        leave();
+        throw;
     }
+    leave();
     return consumed || !guard.objectAlive();
 }
 
@@ -59,7 +72,7 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
         return true;
     TranslateMessage(watched, e, &msg);
     if (e->type() == QEvent::Paint && guard.wrapperAlive() && guard.objectAlive() &&
-        m_mapMessages.count(WM_ERASEBKGND) != 0)
+        FindMsgMapEntry(WM_ERASEBKGND))
         vx::detail::eraseBackground(*this, *static_cast<QWidget*>(watched));
     LRESULT result = 0;
     const bool handled = guard.wrapperAlive() && guard.objectAlive() &&
@@ -95,10 +108,10 @@ BOOL CWnd_E::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResu
         if (offer != Offer::Refused)
             return offer == Offer::Taken ? TRUE : FALSE;
     }
-    const auto it = m_mapMessages.find(message);
-    if (it == m_mapMessages.end())
+    const AFX_MSGMAP_ENTRY_E* const pEntry = FindMsgMapEntry(message);
+    if (!pEntry)
         return FALSE;
-    const AFX_MSGMAP_ENTRY_E entry = it->second; // the handler may change the map
+    const AFX_MSGMAP_ENTRY_E entry = *pEntry; // the handler may change the map
     if (!vx::detail::callHandler(this, entry, wParam, lParam, result))
         return FALSE;
     if (pResult)
@@ -150,7 +163,19 @@ void CWnd_E::AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AF
 
 void CWnd_E::AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry)
 {
-    m_mapMessages[message] = entry;
+    if (m_messages.empty())
+        m_messages.reserve(4); // what every window has fits
+    const auto it = std::lower_bound(m_messages.begin(), m_messages.end(), message, isBefore);
+    if (it != m_messages.end() && it->first == message)
+        it->second = entry;
+    else
+        m_messages.insert(it, {message, entry});
+}
+
+const AFX_MSGMAP_ENTRY_E* CWnd_E::FindMsgMapEntry(UINT message) const
+{
+    const auto it = std::lower_bound(m_messages.begin(), m_messages.end(), message, isBefore);
+    return it != m_messages.end() && it->first == message ? &it->second : nullptr;
 }
 
 LRESULT CWnd_E::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const

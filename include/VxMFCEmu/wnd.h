@@ -4,6 +4,7 @@
 #pragma once
 
 #include <VxMFCEmu/wnd/cmdui.h>
+#include <VxMFCEmu/wnd/commandmap.h>
 #include <VxMFCEmu/wnd/controlmessages.h>
 #include <VxMFCEmu/wnd/eventtranslation.h>
 #include <VxMFCEmu/wnd/geometry.h>

@@ -19,6 +19,7 @@
 
 #include <VxMFCEmu/core/cmdtarget.h>
 #include <VxMFCEmu/text/cstring.h>
+#include <VxMFCEmu/wnd/commandmap.h>
 #include <VxMFCEmu/wnd/geometry.h>
 #include <VxMFCEmu/wnd/messagemap.h>
 #include <VxMFCEmu/wnd/messagestructs.h>
@@ -31,6 +32,9 @@
 #include <QtCore/QPointer>
 
 #include <map>
+#include <memory>
+#include <utility>
+#include <vector>
 
 QT_BEGIN_NAMESPACE
 class QAbstractSlider;
@@ -40,8 +44,9 @@ class QTimer;
 QT_END_NAMESPACE
 
 namespace vx::detail {
+class CommandMap;
 class DispatchGuard;
-}
+} // namespace vx::detail
 
 class CDC_E;
 class CDataExchange_E;
@@ -91,8 +96,11 @@ public:
     virtual BOOL PreTranslateMessage(tagMSG* pMsg);
     /// Calls the handler of a message; TRUE when there is one. @p pResult may be null.
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    /// Moves data between members and controls; empty here.
+    /// Moves data between members and controls (see dlg/ddx.h); empty here.
     virtual void DoDataExchange(CDataExchange_E* pDX);
+    /// Runs DoDataExchange(), from the controls to the members for TRUE. FALSE when it throws, as
+    /// it does for invalid input.
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     /// Shows the entries of one menu in the window's menu bar, which the window owns; the menu
     /// stays its owner's. Null takes the menu bar away. FALSE without a widget.
     virtual BOOL SetMenu(CMenu_E* pMenu);
@@ -135,6 +143,9 @@ public:
     /// OnWndMsg() aside from the current event: whatever the handler does to the accepted flag is
     /// lost.
     BOOL CallWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// Adds or replaces the handler of a command, or of its state; see commandmap.h for the checked
+    /// way to do so. An empty name adds nothing.
+    void AddCmdMapEntry(const QString& strName, VxCommandEntry_E entry, AFX_PMSG_E pfn);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
@@ -434,6 +445,10 @@ private:
             type; // of its own: an event that others consumed or dropped is not touched again
     };
 
+    using MessageEntries = std::vector<std::pair<UINT, AFX_MSGMAP_ENTRY_E>>;
+
+    /// Null when there is no entry of that message.
+    const AFX_MSGMAP_ENTRY_E* FindMsgMapEntry(UINT message) const;
     template <typename Result>
     Result PassOn(Result result);
     void PassOn();
@@ -450,6 +465,7 @@ private:
     template <UINT Kind>
     LRESULT OnCtlColorMessage(WPARAM wParam, LPARAM lParam);
     void ForgetPending(const QEvent* e);
+    BOOL InitDialog();
     QScrollBar* OwnScrollBar(int nBar) const;
     QScrollBar* MakeScrollBar(int nBar);
     QMenuBar* MakeMenuBar();
@@ -465,12 +481,13 @@ private:
     QEvent* m_pCurrentEvent = nullptr;
     QList<PendingEvent> m_pendingEvents;
     std::map<int, QTimer*> m_mapTimers;
-    std::map<UINT, AFX_MSGMAP_ENTRY_E> m_mapMessages;
+    MessageEntries m_messages; // in the order of their numbers
     int m_nReserved = 0;
     UINT m_dwStyle = 0;
     QPointer<QScrollBar> m_pHScrollBar;
     QPointer<QScrollBar> m_pVScrollBar;
     QPointer<QMenuBar> m_pMenuBar;
+    std::unique_ptr<vx::detail::CommandMap> m_pCommands; // only while there are entries
 };
 
 /// The handle map of windows; made on first request with @p bCreate, null before.

@@ -49,6 +49,9 @@ VXMFC_EXPORT BOOL CheckRadioButton_E(HWND hDlg, int nIDFirstButton, int nIDLastB
 /// FALSE for other widgets. Differs from Win32: a longer text that is there is cut.
 VXMFC_EXPORT BOOL SetEditLimitText_E(HWND hWnd, int nMax);
 
+/// Selects the whole text of an edit, an editable combo box or a spin box. FALSE for other widgets.
+VXMFC_EXPORT BOOL SetEditSelectAll_E(HWND hWnd);
+
 /// Enables or disables the scroll bars that SB_HORZ, SB_VERT, SB_BOTH or SB_CTL (the window itself)
 /// names. Differs from Win32: both arrows of a bar go together; it is disabled by ESB_DISABLE_BOTH
 /// only. FALSE when nothing changed.

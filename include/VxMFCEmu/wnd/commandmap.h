@@ -1,0 +1,43 @@
+/// @file commandmap.h
+/// Commands and their state in message maps.
+///
+/// @code
+/// BEGIN_MESSAGE_MAP_E(CMyDlg, CDialog_E)
+///     ON_BN_CLICKED_E(IDC_APPLY, &CMyDlg::OnApply)               // void OnApply()
+///     ON_COMMAND_E(ID_ZOOM, &CMyDlg::OnZoom)                     // void OnZoom()
+///     ON_UPDATE_COMMAND_UI_E(ID_ZOOM, &CMyDlg::OnUpdateZoom)     // void OnUpdateZoom(CCmdUI_E*)
+/// END_MESSAGE_MAP_E()
+/// @endcode
+///
+/// An id stands for the QAction or QAbstractButton below the window that has its name in the
+/// calling plug-in's id map; where there are both, ON_BN_CLICKED_E takes the button and the others
+/// the action. What does not exist yet is looked for again when the event loop is idle, ten times a
+/// second at most. A command is handled when the action is triggered or the button is clicked, the
+/// state is set at idle time.
+///
+/// Differs from MFC: commands do not travel; the window whose map names one handles it. One handler
+/// per id and window, the last one registered; it replaces what a dialog's OK and Cancel buttons do
+/// by themselves.
+#pragma once
+
+#include <VxMFCEmu/wnd/messagemap.h>
+#include <VxMFCEmu/wnd/resourceids.h>
+
+class CCmdUI_E;
+
+/// What an entry of a command map is for.
+enum class VxCommandEntry_E
+{
+    Command, ///< triggered() or clicked(), of the action if there is one
+    Click,   ///< the same, of the button if there is one
+    Update   ///< the state, set at idle time
+};
+
+#define VXMFC_ON_COMMAND(nID, entry, memberFn, ...)                                                \
+    this->AddCmdMapEntry(ToStringId(static_cast<UINT>(nID)), VxCommandEntry_E::entry,              \
+                         vx::detail::eraseHandler<ThisClass_E, __VA_ARGS__>(memberFn));
+
+#define ON_COMMAND_E(nID, memberFn) VXMFC_ON_COMMAND(nID, Command, memberFn, void())
+#define ON_BN_CLICKED_E(nID, memberFn) VXMFC_ON_COMMAND(nID, Click, memberFn, void())
+#define ON_UPDATE_COMMAND_UI_E(nID, memberFn)                                                      \
+    VXMFC_ON_COMMAND(nID, Update, memberFn, void(CCmdUI_E*))

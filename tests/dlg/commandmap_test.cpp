@@ -1,0 +1,139 @@
+// Commands and their state: from actions and buttons to the handlers of a message map.
+#include "support/test.h"
+
+namespace {
+
+class CommandDlg : public CDialog_E
+{
+public:
+    using CDialog_E::CDialog_E;
+
+    void OnOK() override { ++oks; }
+    void OnApply() { onApply(); }
+    void OnZoom() { ++zooms; }
+    void OnLate() { ++lates; }
+    void OnUpdateZoom(CCmdUI_E* pCmdUI)
+    {
+        pCmdUI->Enable(enabled);
+        ++updates;
+    }
+
+    int oks = 0, zooms = 0, lates = 0, updates = 0;
+    BOOL enabled = TRUE;
+    std::function<void()> onApply = [] {};
+    DECLARE_MESSAGE_MAP_E()
+};
+
+BEGIN_MESSAGE_MAP_E(CommandDlg, CDialog_E)
+ON_BN_CLICKED_E(IDOK, &CommandDlg::OnZoom)
+ON_BN_CLICKED_E(IDOK, &CommandDlg::OnApply)
+ON_BN_CLICKED_E(1020, &CommandDlg::OnApply)
+ON_COMMAND_E(1021, &CommandDlg::OnZoom)
+ON_UPDATE_COMMAND_UI_E(1021, &CommandDlg::OnUpdateZoom)
+ON_COMMAND_E(1022, &CommandDlg::OnLate)
+ON_COMMAND_E(4711, &CommandDlg::OnLate)
+END_MESSAGE_MAP_E()
+
+/// Waits for @p done in an event loop that goes idle.
+bool waitIdle(const std::function<bool()>& done)
+{
+    return vxtest::waitUntil([&] {
+        QEventLoop loop;
+        QTimer::singleShot(10, &loop, &QEventLoop::quit);
+        loop.exec();
+        return done();
+    });
+}
+
+struct CommandTest : testing::Test
+{
+    template <typename Object>
+    Object* add(const char* name)
+    {
+        auto* const pObject = new Object(&m_widget);
+        pObject->setObjectName(QLatin1String(name));
+        return pObject;
+    }
+    QDialog m_widget;
+    QPushButton* const m_pOk = add<QPushButton>("OK");
+    QPushButton* const m_pApply = add<QPushButton>("apply");
+    QAction* const m_pApplyAction = add<QAction>("apply");
+    QAction* const m_pZoom = add<QAction>("zoom");
+    QPushButton* const m_pZoomButton = add<QPushButton>("zoom");
+    CommandDlg m_window;
+    int m_applied = 0;
+
+    CommandTest()
+    {
+        m_window.onApply = [this] { ++m_applied; };
+        EXPECT_TRUE(m_window.SubclassWindow(&m_widget));
+    }
+};
+
+TEST_F(CommandTest, ReachTheHandlers)
+{
+    m_pApply->click();
+    EXPECT_EQ(m_applied, 1);
+    m_pApplyAction->trigger();
+    EXPECT_EQ(m_applied, 1) << "the button has the name too";
+    m_pZoom->trigger();
+    m_pZoomButton->click();
+    EXPECT_EQ(m_window.zooms, 1);
+    m_pOk->click();
+    EXPECT_EQ(m_applied, 2) << "the last one registered";
+    EXPECT_EQ(m_window.oks, 0) << "the command takes the place of OnOK()";
+    m_window.Detach();
+    m_pApply->click();
+    EXPECT_EQ(m_applied, 2);
+    m_window.SubclassWindow(&m_widget);
+    m_pApply->click();
+    EXPECT_EQ(m_applied, 3) << "connected once";
+}
+
+TEST_F(CommandTest, StateFollowsAtIdleTime)
+{
+    for (const BOOL enabled : {FALSE, TRUE}) {
+        m_window.enabled = enabled;
+        EXPECT_TRUE(waitIdle([&] { return m_pZoom->isEnabled() == (enabled == TRUE); }));
+    }
+    EXPECT_TRUE(m_pZoomButton->isEnabled());
+}
+
+TEST_F(CommandTest, WhatComesLaterIsFound)
+{
+    for (int round = 1; round <= 2; ++round) { // the second after the first has gone
+        const QPointer<QAction> pLate(add<QAction>("late"));
+        EXPECT_TRUE(waitIdle([&] {
+            pLate->trigger();
+            return m_window.lates >= round;
+        }));
+        delete pLate;
+    }
+}
+
+TEST_F(CommandTest, HandlersMayThrowAndDelete)
+{
+    auto* const pOther = new CommandDlg;
+    auto* const pWidget = new QDialog;
+    auto* const pButton = new QPushButton(pWidget);
+    pButton->setObjectName("apply"_q);
+    pOther->SubclassWindow(pWidget);
+    QTimer poll;
+    bool reported = false;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&reported] {
+        QWidget* const pBox = QApplication::activeModalWidget();
+        if (pBox && pBox->isVisible())
+            reported = pBox->close();
+    });
+    poll.start(5);
+    pOther->onApply = [] { AfxThrowMemoryException_E(); };
+    pButton->click();
+    EXPECT_TRUE(reported);
+    pOther->onApply = [=] {
+        delete pOther;
+        delete pWidget;
+    };
+    pButton->click();
+}
+
+} // namespace

@@ -1,0 +1,43 @@
+// Not part of the public interface. The commands of one window.
+#pragma once
+
+#include <VxMFCEmu/wnd/commandmap.h>
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+#include <vector>
+
+namespace vx::detail {
+
+/// Connects entries to their actions and buttons as soon as these exist, and updates them.
+class CommandMap : public QObject
+{
+public:
+    explicit CommandMap(CWnd_E* pWindow);
+
+    void Add(const QString& strName, VxCommandEntry_E entry, AFX_PMSG_E pfn);
+
+private:
+    struct Entry
+    {
+        QString strName;
+        VxCommandEntry_E entry;
+        AFX_PMSG_E pfn;
+        QPointer<QObject> pObject; // null until it is found, and when it is gone
+
+        bool IsUpdate() const { return entry == VxCommandEntry_E::Update; }
+    };
+
+    void OnUpdateCmdUi();
+    void FindObject(Entry& entry);
+    void ConnectObject(const Entry& entry);
+    void RunCommand(const QString& strName);
+
+    CWnd_E* const m_pWindow;
+    std::vector<Entry> m_entries;
+    QElapsedTimer m_lastSearch;
+};
+
+} // namespace vx::detail
