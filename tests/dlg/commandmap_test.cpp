@@ -130,8 +130,8 @@ TEST_F(CommandTest, HandlersMayThrowAndDelete)
     pButton->click();
     EXPECT_TRUE(reported);
     pOther->onApply = [=] {
+        const std::unique_ptr<QWidget> widget(pWidget); // what was captured goes with the window
         delete pOther;
-        delete pWidget;
     };
     pButton->click();
 }
