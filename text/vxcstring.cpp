@@ -34,6 +34,8 @@ CString_E& CString_E::operator+=(const QString& str)
     return *this;
 }
 
+void CString_E::FreeUtf8() noexcept { delete[] m_pUtf8; }
+
 const char* CString_E::Utf8Ptr() const
 {
     char* const fresh = vx::detail::wideToUtf8(m_text);

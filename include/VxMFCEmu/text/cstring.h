@@ -46,7 +46,11 @@ public:
     CString_E(const char* p);
     CString_E(const CString_E& other) : m_text(other.m_text) {}
     CString_E(CString_E&& other) noexcept : m_text(std::move(other.m_text)) {}
-    ~CString_E() { delete[] m_pUtf8; }
+    ~CString_E()
+    {
+        if (m_pUtf8) // most strings are never converted
+            FreeUtf8();
+    }
 
     CString_E& operator=(wchar_t ch) { return m_text.assign(1, ch), *this; }
     CString_E& operator=(const wchar_t* p) { return m_text.assign(vx::detail::orEmpty(p)), *this; }
@@ -246,6 +250,7 @@ private:
         return n > 0 ? static_cast<std::size_t>(n) : 0;
     }
     static constexpr int position(std::size_t found) noexcept { return static_cast<int>(found); }
+    [[gnu::cold]] void FreeUtf8() noexcept;
     /// Up to @p nCount characters from @p nFirst, both taken as unsigned; empty for a start beyond.
     CString_E FromPart(int nFirst, int nCount) const
     {
