@@ -10,6 +10,7 @@
 #include <QtWidgets/QAction>
 
 #include <algorithm>
+#include <cstring>
 
 namespace vx::detail {
 namespace {
@@ -103,7 +104,10 @@ void CommandMap::OnUpdateCmdUi()
         if (!entry.pObject || !entry.IsUpdate())
             continue;
         CCmdUI_E cmdUI(entry.pObject);
-        const auto pfn = castHandler<void (CWnd_E::*)(CCmdUI_E*)>(entry.pfn);
+        // Not castHandler(), in which GCC's sanitizers see a value that is never set.
+        void (CWnd_E::*pfn)(CCmdUI_E*) = nullptr;
+        static_assert(sizeof pfn == sizeof entry.pfn);
+        std::memcpy(&pfn, &entry.pfn, sizeof pfn);
         reportExceptions([&] { (m_pWindow->*pfn)(&cmdUI); });
     }
 }
