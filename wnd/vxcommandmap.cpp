@@ -10,7 +10,6 @@
 #include <QtWidgets/QAction>
 
 #include <algorithm>
-#include <cstring>
 
 namespace vx::detail {
 namespace {
@@ -104,11 +103,8 @@ void CommandMap::OnUpdateCmdUi()
         if (!entry.pObject || !entry.IsUpdate())
             continue;
         CCmdUI_E cmdUI(entry.pObject);
-        // Not castHandler(), in which GCC's sanitizers see a value that is never set.
-        void (CWnd_E::*pfn)(CCmdUI_E*) = nullptr;
-        static_assert(sizeof pfn == sizeof entry.pfn);
-        std::memcpy(&pfn, &entry.pfn, sizeof pfn);
-        reportExceptions([&] { (m_pWindow->*pfn)(&cmdUI); });
+        const auto pfn = castHandler<void (CWnd_E::*)(CCmdUI_E*)>(entry.pfn);
+        reportExceptions([pWindow = m_pWindow, pfn, &cmdUI] { (pWindow->*pfn)(&cmdUI); });
     }
 }
 
