@@ -30,6 +30,7 @@ vxmfc_sources(FOLDER wnd
   SOURCES
     vxcmdui.cpp
     vxcommandmap.cpp
+    vxcontrolproc.cpp
     vxcontrolstate.cpp
     vxdefaulthandlers.cpp
     vxeventtomsg.cpp

@@ -1,5 +1,6 @@
 #include <VxMFCEmu/wnd/sendmessage.h>
 
+#include "wnd/vxcontrolproc_p.h"
 #include "wnd/vxmsgtoevent_p.h"
 
 #include <VxMFCEmu/wnd/eventtranslation.h>
@@ -14,7 +15,9 @@ LRESULT SendMessage_E(QWidget* pWidget, UINT message, WPARAM wParam, LPARAM lPar
         return 0;
     if (!vx::detail::hasQtEvent(message)) {
         VxWinMsgEvent event(message, wParam, lParam);
-        return QCoreApplication::sendEvent(pWidget, &event) ? event.result : 0;
+        const bool answered = QCoreApplication::sendEvent(pWidget, &event) ||
+                              vx::detail::answerUnbound(pWidget, event);
+        return answered ? event.result : 0;
     }
     const std::unique_ptr<QEvent> event(vxMsgToQEvent(pWidget, message, wParam, lParam));
     const bool sent = QCoreApplication::sendEvent(pWidget, event.get());
@@ -28,6 +31,8 @@ BOOL PostMessage_E(QWidget* pWidget, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (!pWidget)
         return FALSE;
+    if (vx::detail::postToControl(pWidget, message, wParam, lParam))
+        return TRUE;
     QCoreApplication::postEvent(pWidget, vxMsgToQEvent(pWidget, message, wParam, lParam));
     return TRUE;
 }

@@ -2,6 +2,7 @@
 #include <VxMFCEmu/wnd/window.h>
 
 #include "core/vxdispatchguard_p.h"
+#include "wnd/vxcontrolproc_p.h"
 #include "wnd/vxeventtable_p.h"
 #include "wnd/vxpainting_p.h"
 #include "wnd/vxseesmessages_p.h"
@@ -84,8 +85,18 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
         return true;
     }
     e->setAccepted(wasAccepted);
-    return false;
+    return e->type() == VxWinMsgEvent::EventType && guard.wrapperAlive() && guard.objectAlive() &&
+           AnswerAsControl(static_cast<VxWinMsgEvent&>(*e));
 }
+
+bool CWnd_E::AnswerAsControl(VxWinMsgEvent& e)
+{
+    return vx::detail::isControlMessage(e.message) &&
+           (OnControlMessage(e.message, e.wParam, e.lParam, &e.result) ||
+            vx::detail::answerAsControl(GetSafeHwnd(), e));
+}
+
+BOOL CWnd_E::OnControlMessage(UINT, WPARAM, LPARAM, LRESULT*) { return FALSE; }
 
 // Only an override of PreTranslateMessage() ever looks at the time and the cursor position:
 // handlers get wParam and lParam. The position costs a trip to the X server, so it is not fetched

@@ -52,6 +52,7 @@ class CDC_E;
 class CDataExchange_E;
 class CMenu_E;
 class CScrollBar_E;
+class VxWinMsgEvent;
 
 class VXMFC_EXPORT CWnd_E : public CCmdTarget_E
 {
@@ -146,6 +147,9 @@ public:
     /// Adds or replaces the handler of a command, or of its state; see commandmap.h for the checked
     /// way to do so. An empty name adds nothing.
     void AddCmdMapEntry(const QString& strName, VxCommandEntry_E entry, AFX_PMSG_E pfn);
+    /// A control's own answer to a message that no handler took (EM_*, CB_*, ...); TRUE when it has
+    /// one. FALSE here.
+    virtual BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
@@ -437,6 +441,10 @@ public:
     void OnVScrollClipboard(QWidget* pClipAppWnd, UINT nSBCode, UINT nPos);
     void OnVScrollClipboard_E(CWnd_E* pClipAppWnd, UINT nSBCode, UINT nPos);
 
+protected:
+    /// The style bits that the window was created with, and that it found at its widget.
+    UINT m_dwStyle = 0;
+
 private:
     struct PendingEvent
     {
@@ -454,6 +462,7 @@ private:
     void PassOn();
     Q_DECL_HIDDEN bool DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* watched,
                                        QEvent* e, tagMSG& msg);
+    Q_DECL_HIDDEN bool AnswerAsControl(VxWinMsgEvent& e);
     enum class Offer
     {
         Taken,
@@ -482,8 +491,6 @@ private:
     QList<PendingEvent> m_pendingEvents;
     std::map<int, QTimer*> m_mapTimers;
     MessageEntries m_messages; // in the order of their numbers
-    int m_nReserved = 0;
-    UINT m_dwStyle = 0;
     QPointer<QScrollBar> m_pHScrollBar;
     QPointer<QScrollBar> m_pVScrollBar;
     QPointer<QMenuBar> m_pMenuBar;

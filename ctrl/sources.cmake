@@ -1,0 +1,5 @@
+vxmfc_sources(FOLDER ctrl
+  HEADERS
+    ctrl/progressctrl.h
+  SOURCES
+    vxprogressctrl.cpp)

@@ -1,0 +1,142 @@
+#include <VxMFCEmu/ctrl/progressctrl.h>
+
+#include "ctrl/vxcontroltable_p.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QProgressBar>
+
+IMPLEMENT_DYNCREATE_E(CProgressCtrl_E, CWnd_E, QProgressBar)
+
+namespace {
+
+using namespace vx::detail;
+
+using Row = ControlMessage<CProgressCtrl_E>;
+
+constexpr char kRangeBeforeMarquee[] = "rangeBeforeMarquee";
+
+/// As PBM_GETRANGE fills it.
+struct ProgressRange
+{
+    int nLow;
+    int nHigh;
+};
+
+LRESULT setRange(CProgressCtrl_E& bar, int nLower, int nUpper)
+{
+    ProgressRange old{};
+    bar.GetRange(&old.nLow, &old.nHigh);
+    bar.SetRange32(nLower, nUpper);
+    return (old.nLow & 0xFFFF) | ((old.nHigh & 0xFFFF) << 16);
+}
+
+LRESULT getRange(CProgressCtrl_E& bar, WPARAM bLow, LPARAM lParam)
+{
+    ProgressRange range{};
+    bar.GetRange(&range.nLow, &range.nHigh);
+    if (auto* const pRange = pointerIn<ProgressRange>(lParam))
+        *pRange = range;
+    return bLow ? range.nLow : range.nHigh;
+}
+
+// clang-format off
+constexpr Row kMessages[] = {
+    {PBM_SETRANGE,   [](auto& bar, WPARAM, LPARAM l) { return setRange(bar, lowWord(l), highWord(l)); }},
+    {PBM_SETRANGE32, [](auto& bar, WPARAM w, LPARAM l) { return setRange(bar, intIn(w), intIn(l)); }},
+    {PBM_GETRANGE,   getRange},
+    {PBM_SETPOS,     [](auto& bar, WPARAM w, LPARAM) -> LRESULT { return bar.SetPos(intIn(w)); }},
+    {PBM_GETPOS,     [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.GetPos(); }},
+    {PBM_DELTAPOS,   [](auto& bar, WPARAM w, LPARAM) -> LRESULT { return bar.OffsetPos(intIn(w)); }},
+    {PBM_SETSTEP,    [](auto& bar, WPARAM w, LPARAM) -> LRESULT { return bar.SetStep(intIn(w)); }},
+    {PBM_GETSTEP,    [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.GetStep(); }},
+    {PBM_STEPIT,     [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.StepIt(); }},
+    {PBM_SETMARQUEE, [](auto& bar, WPARAM w, LPARAM l) -> LRESULT { return bar.SetMarquee(w != 0, intIn(l)); }},
+};
+// clang-format on
+
+} // namespace
+
+BOOL CProgressCtrl_E::AttachDefault(QWidget* pParent)
+{
+    return attachNew<QProgressBar>(*this, pParent);
+}
+
+BOOL CProgressCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent)
+{
+    if (!CWnd_E::Create(dwStyle, rect, pParent))
+        return FALSE;
+    if (auto* const pBar = widgetOf<QProgressBar>(*this); pBar && dwStyle & PBS_VERTICAL)
+        pBar->setOrientation(Qt::Vertical);
+    return TRUE;
+}
+
+BOOL CProgressCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID)
+{
+    return createWithId(*this, pParent, nID,
+                        [&](QWidget* pWidget) { return Create(dwStyle, rect, pWidget); });
+}
+
+void CProgressCtrl_E::SetRange(short nLower, short nUpper) { SetRange32(nLower, nUpper); }
+
+void CProgressCtrl_E::SetRange32(int nLower, int nUpper)
+{
+    if (auto* const pBar = widgetOf<QProgressBar>(*this))
+        pBar->setRange(nLower, nUpper);
+}
+
+void CProgressCtrl_E::GetRange(int* pLower, int* pUpper) const
+{
+    if (pLower)
+        *pLower = askWidget<QProgressBar>(*this, 0, [](auto& bar) { return bar.minimum(); });
+    if (pUpper)
+        *pUpper = askWidget<QProgressBar>(*this, 0, [](auto& bar) { return bar.maximum(); });
+}
+
+int CProgressCtrl_E::SetPos(int nPos)
+{
+    auto* const pBar = widgetOf<QProgressBar>(*this);
+    if (!pBar)
+        return 0;
+    const int nPrevious = pBar->value();
+    pBar->setValue(nPos);
+    QCoreApplication::processEvents();
+    return nPrevious;
+}
+
+int CProgressCtrl_E::GetPos() const
+{
+    return askWidget<QProgressBar>(*this, 0, [](auto& bar) { return bar.value(); });
+}
+
+int CProgressCtrl_E::OffsetPos(int nOffset)
+{
+    return askWidget<QProgressBar>(*this, 0, [nOffset](auto& bar) {
+        const int nPrevious = bar.value();
+        bar.setValue(nPrevious + nOffset);
+        return nPrevious;
+    });
+}
+
+int CProgressCtrl_E::SetStep(int nStep) { return std::exchange(m_nStep, nStep); }
+
+int CProgressCtrl_E::StepIt() { return OffsetPos(m_nStep); }
+
+BOOL CProgressCtrl_E::SetMarquee(BOOL bMarquee, int)
+{
+    return askWidget<QProgressBar>(*this, FALSE, [bMarquee](auto& bar) {
+        const QVariant range = bar.property(kRangeBeforeMarquee);
+        if (bMarquee && !range.isValid()) {
+            bar.setProperty(kRangeBeforeMarquee, QPoint(bar.minimum(), bar.maximum()));
+            bar.setRange(0, 0);
+        } else if (!bMarquee && range.isValid()) {
+            bar.setProperty(kRangeBeforeMarquee, QVariant());
+            bar.setRange(range.toPoint().x(), range.toPoint().y());
+        }
+        return TRUE;
+    });
+}
+
+BOOL CProgressCtrl_E::OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    return answerFromTable(kMessages, *this, message, wParam, lParam, pResult);
+}

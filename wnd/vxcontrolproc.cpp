@@ -1,0 +1,94 @@
+#include "wnd/vxcontrolproc_p.h"
+
+#include <VxMFCEmu/wnd/messageevent.h>
+#include <VxMFCEmu/wnd/sendmessage.h>
+#include <VxMFCEmu/wnd/window.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QWidget>
+
+namespace vx::detail {
+namespace {
+
+VxCreateObjectFn controlFactory(const QWidget* pWidget)
+{
+    for (const QMetaObject* pMeta = pWidget->metaObject(); pMeta; pMeta = pMeta->superClass()) {
+        if (const auto it = g_mapCreateMethod.find(pMeta); it != g_mapCreateMethod.end())
+            return it->second == &CWnd_E::CreateObject ? nullptr : it->second;
+    }
+    return nullptr;
+}
+
+/// A posted message on its way to a control.
+class ControlMessageEvent : public QEvent
+{
+public:
+    static constexpr Type EventType = static_cast<Type>(User + 130);
+
+    ControlMessageEvent(QWidget* pWidget, const VxWinMsgEvent& message)
+        : QEvent(EventType), m_widget(pWidget), m_message(message)
+    {
+    }
+
+    void deliver() const
+    {
+        if (m_widget)
+            SendMessage_E(m_widget, m_message.message, m_message.wParam, m_message.lParam);
+    }
+
+private:
+    QPointer<QWidget> m_widget;
+    VxWinMsgEvent m_message;
+};
+
+/// Takes the messages that are posted to controls: the widget itself would drop them.
+class ControlCourier : public QObject
+{
+public:
+    ControlCourier() { moveToThread(QCoreApplication::instance()->thread()); }
+
+    bool event(QEvent* e) override
+    {
+        if (e->type() != ControlMessageEvent::EventType)
+            return QObject::event(e);
+        static_cast<ControlMessageEvent*>(e)->deliver();
+        return true;
+    }
+};
+
+} // namespace
+
+bool answerAsControl(QWidget* pWidget, VxWinMsgEvent& e)
+{
+    const VxCreateObjectFn pfnCreate = pWidget ? controlFactory(pWidget) : nullptr;
+    if (!pfnCreate)
+        return false;
+    const std::unique_ptr<CObject_E> pObject(pfnCreate());
+    auto* const pControl = qobject_cast<CWnd_E*>(pObject.get());
+    if (!pControl)
+        return false;
+    // Not attached: the widget keeps the window, the filters and the connections that it has.
+    pControl->SetImpQObject(pWidget);
+    QObject::connect(pWidget, &QObject::destroyed, pControl, &CObject_E::OnImpDestroy);
+    const BOOL bAnswered = pControl->OnControlMessage(e.message, e.wParam, e.lParam, &e.result);
+    pControl->SetImpQObject(nullptr);
+    return bAnswered;
+}
+
+bool answerUnbound(QWidget* pWidget, VxWinMsgEvent& e)
+{
+    return isControlMessage(e.message) && !CObject_E::GetOwner(pWidget) &&
+           answerAsControl(pWidget, e);
+}
+
+bool postToControl(QWidget* pWidget, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!isControlMessage(message) || !controlFactory(pWidget) || !QCoreApplication::instance())
+        return false;
+    static ControlCourier courier;
+    QCoreApplication::postEvent(
+        &courier, new ControlMessageEvent(pWidget, VxWinMsgEvent(message, wParam, lParam)));
+    return true;
+}
+
+} // namespace vx::detail

@@ -1,0 +1,29 @@
+// Not part of the public interface. What a control answers to the messages of its class (EM_*,
+// CB_*, PBM_*, ...) when no handler takes them.
+#pragma once
+
+#include <VxMFCEmu/types.h>
+
+class VxWinMsgEvent;
+
+namespace vx::detail {
+
+/// Whether the number is one of those that control classes give a meaning to. From WM_USER on
+/// applications use the same numbers for windows of their own.
+constexpr bool isControlMessage(UINT message)
+{
+    return (message >= 0x00B0 && message <= 0x01B3) || message >= 0x0400;
+}
+
+/// Has a control object of the widget's own class, made for this one message, write the event's
+/// result. False when the class is none of a control, and for messages that it does not know.
+bool answerAsControl(QWidget* pWidget, VxWinMsgEvent& e);
+
+/// The same for a widget that no window is bound to, whatever the message.
+bool answerUnbound(QWidget* pWidget, VxWinMsgEvent& e);
+
+/// Posts a message so that its control answers it also when no window is bound to it by then.
+/// False, posting nothing, for messages and widgets that need no such help.
+bool postToControl(QWidget* pWidget, UINT message, WPARAM wParam, LPARAM lParam);
+
+} // namespace vx::detail
