@@ -37,7 +37,6 @@ struct SemaphoreObject
     sem_t* pSemaphore = SEM_FAILED;
     SemaphoreCount count;
     const long nMaximum;
-    std::atomic<pthread_t> lastOwner{0};
 };
 
 struct EventObject
@@ -87,7 +86,11 @@ Kind* objectOf(HANDLE hObject)
 {
     static_assert(std::is_same_v<std::variant_alternative_t<kindOf<Kind>, Object>, Kind>);
     VxHandle* const pHandle = recordOf(hObject);
-    return pHandle && pHandle->kind == kindOf<Kind> ? std::get_if<Kind>(&pHandle->object) : nullptr;
+    if (!pHandle || pHandle->kind != kindOf<Kind>)
+        return nullptr;
+    if (pHandle->object.index() != kindOf<Kind>)
+        __builtin_unreachable(); // the kind is the index: no need to test both
+    return std::get_if<Kind>(&pHandle->object);
 }
 
 template <typename Kind>

@@ -40,21 +40,20 @@ BOOL ReleaseSemaphore(HANDLE hSemaphore, int lReleaseCount, long* lpPreviousCoun
     auto* const pSemaphore = vx::detail::objectOf<SemaphoreObject>(hSemaphore);
     if (!pSemaphore || lReleaseCount < 1)
         return FALSE;
-    if (pSemaphore->count.atLeast() + lReleaseCount > pSemaphore->nMaximum)
-        return FALSE;
     const long nCount = pSemaphore->count.atMost();
+    const long nRoom = pSemaphore->nMaximum - lReleaseCount;
+    if (nCount > nRoom && pSemaphore->count.atLeast() > nRoom)
+        return FALSE;
     if (lpPreviousCount)
         *lpPreviousCount = nCount;
-    const pthread_t self = pthread_self();
     // Intended: up to the number, not by the number; and a unit that is refused counts. Waiters
     // that take units meanwhile do not prolong it: they would be given units that nobody released.
     for (long nUnits = std::max(1L, lReleaseCount - nCount); nUnits > 0; --nUnits) {
         // Before the post, so that a thread that takes the unit finds it counted.
-        pSemaphore->count.up(self);
+        pSemaphore->count.up();
         if (pSemaphore->pSemaphore == SEM_FAILED || sem_post(pSemaphore->pSemaphore) != 0)
             return FALSE;
     }
-    pSemaphore->lastOwner.store(0, std::memory_order_relaxed);
     return TRUE;
 }
 
@@ -85,10 +84,8 @@ DWORD wait(SemaphoreObject& semaphore, DWORD dwMilliseconds)
     } else if (timedAcquire(semaphore.pSemaphore, dwMilliseconds) != 0) {
         return errno == ETIMEDOUT ? WAIT_TIMEOUT : WAIT_FAILED;
     }
-    const pthread_t self = pthread_self();
-    semaphore.lastOwner.store(self, std::memory_order_relaxed);
     if (semaphore.count.atMost() > 0)
-        semaphore.count.down(self);
+        semaphore.count.down();
     return WAIT_OBJECT_0;
 }
 
