@@ -86,15 +86,19 @@ public:
         delete pKey;
         return true;
     }
-    // What @p make makes of the path of a root or an open key; empty for other handles.
+    // What @p make makes of the path of a root or an open key; empty for other handles. It may
+    // build its result in the text that it is handed, which has room from earlier paths: the store
+    // seldom keeps one.
     template <typename Make>
     QString PathOf(HKEY hKey, Make make)
     {
-        if (const QString root = rootComponent(hKey); !root.isEmpty())
-            return make(root);
+        if (const QString root = rootComponent(hKey); !root.isEmpty()) {
+            QString room;
+            return make(root, room);
+        }
         const std::lock_guard lock(m_mutex);
         const Key* const pKey = Find(hKey);
-        return pKey ? make(pKey->path) : QString();
+        return pKey ? make(pKey->path, m_room) : QString();
     }
     void SetPath(HKEY hKey, const QString& path)
     {
@@ -114,36 +118,39 @@ private:
     }
 
     std::mutex m_mutex;
+    QString m_room;
     Key* m_pLast = nullptr; // calls for one key come in rows
     std::unordered_set<Key*> m_keys;
 };
 
 OpenKeys g_openKeys;
 
-// Most names: in one go. Empty when the name is not all ASCII.
+// Most names: in one go. False when the name is not all ASCII.
 template <typename Char>
-QString asciiPath(const QString& path, const Char* pName)
+bool joinAscii(const QString& path, const Char* pName, QString& result)
 {
     const std::size_t length = pName ? std::char_traits<Char>::length(pName) : 0;
-    QString result(path.size() + 1 + static_cast<int>(length), Qt::Uninitialized);
+    result.resize(path.size() + 1 + static_cast<int>(length));
     QChar* pOut = std::copy(path.cbegin(), path.cend(), result.begin());
     *pOut++ = QLatin1Char('/');
     for (std::size_t i = 0; i < length; ++i) {
         const Char ch = pName[i];
         if ((ch & 0x7F) != ch)
-            return {};
+            return false;
         *pOut++ = QLatin1Char(ch == '\\' ? '/' : static_cast<char>(ch));
     }
-    return result;
+    return true;
 }
 
 // With a name in UTF-8.
-QString joined(const QString& path, LPCSTR pName)
+QString joined(const QString& path, LPCSTR pName, QString& room)
 {
-    QString result = asciiPath(path, pName);
-    if (result.isEmpty())
-        return registryPath(path, QString::fromUtf8(pName));
-    return result;
+    return joinAscii(path, pName, room) ? room : registryPath(path, QString::fromUtf8(pName));
+}
+
+QString joined(const QString& path, LPCWSTR pName, QString& room)
+{
+    return joinAscii(path, pName, room) ? room : registryPath(path, wideToQString(pName));
 }
 
 // False for what is no root.
@@ -152,8 +159,8 @@ bool openBelowRoot(HKEY hKey, LPCSTR pSubKey, PHKEY phkResult)
     QString path = rootComponent(hKey);
     if (path.isEmpty() || !phkResult)
         return false;
-    if (pSubKey && *pSubKey)
-        path = joined(path, pSubKey);
+    if (QString room; pSubKey && *pSubKey)
+        path = joined(path, pSubKey, room);
     *phkResult = g_openKeys.Open(path);
     return true;
 }
@@ -169,7 +176,7 @@ std::string narrowName(LPCWSTR pName) { return pName ? _W2A(pName) : std::string
 
 QString registryPath(HKEY hKey)
 {
-    return g_openKeys.PathOf(hKey, [](const QString& path) { return path; });
+    return g_openKeys.PathOf(hKey, [](const QString& path, QString&) { return path; });
 }
 
 void setRegistryPath(HKEY hKey, const QString& path) { g_openKeys.SetPath(hKey, path); }
@@ -184,30 +191,28 @@ QString registryPath(const QString& path, QString name)
 
 QString registryPath(const QString& path, LPCWSTR pName)
 {
-    QString result = asciiPath(path, pName);
-    if (result.isEmpty())
-        return registryPath(path, wideToQString(pName));
-    return result;
+    QString room;
+    return joined(path, pName, room);
 }
 
 QString registryPath(HKEY hKey, LPCWSTR pName)
 {
-    return g_openKeys.PathOf(hKey,
-                             [pName](const QString& path) { return registryPath(path, pName); });
+    return g_openKeys.PathOf(
+        hKey, [pName](const QString& path, QString& room) { return joined(path, pName, room); });
 }
 
 QString registryPath(HKEY hKey, LPCSTR pName)
 {
-    return g_openKeys.PathOf(hKey, [pName](const QString& path) { return joined(path, pName); });
+    return g_openKeys.PathOf(
+        hKey, [pName](const QString& path, QString& room) { return joined(path, pName, room); });
 }
 
 QString narrowRegistryPath(HKEY hKey, LPCWSTR pName)
 {
-    return g_openKeys.PathOf(hKey, [pName](const QString& path) {
-        QString result = asciiPath(path, pName); // every locale leaves ASCII as it is
-        if (result.isEmpty())
-            return joined(path, _W2A(pName).c_str());
-        return result;
+    return g_openKeys.PathOf(hKey, [pName](const QString& path, QString& room) {
+        if (joinAscii(path, pName, room)) // every locale leaves ASCII as it is
+            return room;
+        return joined(path, _W2A(pName).c_str(), room);
     });
 }
 
