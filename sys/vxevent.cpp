@@ -28,13 +28,11 @@ DWORD sleep(EventObject& event, const timespec* pDeadline)
 {
     if (pthread_mutex_lock(&event.mutex) != 0)
         return !pDeadline ? WAIT_FAILED : errno == EINTR ? WAIT_TIMEOUT : waitFailure(errno);
-    event.waiter.store(pthread_self(), std::memory_order_relaxed);
     if (pDeadline)
         errno = 0;
     const int nError = pDeadline ? pthread_cond_timedwait(&event.condition, &event.mutex, pDeadline)
                                  : pthread_cond_wait(&event.condition, &event.mutex);
     pthread_mutex_unlock(&event.mutex);
-    event.waiter.store(0, std::memory_order_relaxed);
     if (nError == 0)
         return WAIT_OBJECT_0;
     if (!pDeadline)
@@ -43,9 +41,19 @@ DWORD sleep(EventObject& event, const timespec* pDeadline)
     return waitFailure(nError);
 }
 
+DWORD take(EventObject& event)
+{
+    // Setters take no lock: what they did before is visible through the count alone.
+    if (event.bManualReset)
+        static_cast<void>(event.nSignals.load());
+    else
+        interLockedSetFalse(event.nSignals);
+    return WAIT_OBJECT_0;
+}
+
 } // namespace
 
-DWORD wait(EventObject& event, DWORD dwMilliseconds)
+DWORD wait(VxHandle& handle, EventObject& event, DWORD dwMilliseconds)
 {
     const bool bTimed = dwMilliseconds != INFINITE;
     timespec deadline{};
@@ -55,23 +63,20 @@ DWORD wait(EventObject& event, DWORD dwMilliseconds)
         // Once more, so as not to sleep through what was set while the clock was read.
         bSignalled = event.nSignals.load() != 0;
     }
+    if (bSignalled)
+        return take(event);
+    const Sleeper sleeper(handle);
+    const DWORD dwResult = sleep(event, bTimed ? &deadline : nullptr);
     // Intended: no loop. A wake-up is a signal, whatever the count has become meanwhile.
-    if (!bSignalled) {
-        const DWORD dwResult = sleep(event, bTimed ? &deadline : nullptr);
-        if (dwResult != WAIT_OBJECT_0)
-            return dwResult;
-    }
-    // Setters take no lock: what they did before is visible through the count alone.
-    if (event.bManualReset)
-        static_cast<void>(event.nSignals.load());
-    else
-        interLockedSetFalse(event.nSignals);
-    return WAIT_OBJECT_0;
+    return dwResult == WAIT_OBJECT_0 ? take(event) : dwResult;
 }
 
-bool destroy(EventObject& event)
+bool close(EventObject&) { return true; }
+
+void end(EventObject& event)
 {
-    return pthread_cond_destroy(&event.condition) == 0 && pthread_mutex_destroy(&event.mutex) == 0;
+    pthread_cond_destroy(&event.condition);
+    pthread_mutex_destroy(&event.mutex);
 }
 
 } // namespace vx::detail

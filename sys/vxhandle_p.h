@@ -22,7 +22,6 @@ namespace vx::detail {
 struct MutexObject
 {
     pthread_mutex_t mutex;
-    std::atomic<pthread_t> owner{0};
 };
 
 /// Opening counts nothing, so a record is the only one of its semaphore.
@@ -43,7 +42,6 @@ struct EventObject
 {
     pthread_cond_t condition;
     pthread_mutex_t mutex;
-    std::atomic<pthread_t> waiter{0};
     bool bManualReset = false;
     /// Not 0 when signalled.
     std::atomic<std::int64_t> nSignals{0};
@@ -68,6 +66,8 @@ struct VxHandle
     /// The index of the object, at the place where other kinds of handles, a file's for one, have
     /// another value: it is looked at before anything else is. 0 without an object, and in the end.
     std::uint32_t kind = 0;
+    /// Its owner, until it is closed, and the threads that sleep on it: the last one frees it.
+    std::atomic<int> nHolders{1};
     vx::detail::Object object;
 };
 
@@ -124,16 +124,37 @@ VxHandle* createHandle(const wchar_t* lpName, Init init)
     return pHandle;
 }
 
+/// Frees the record and ends the system's object when this was the last holder.
+void letGo(VxHandle* pHandle);
+
+/// Keeps the record of a thread that goes to sleep: whoever closes the handle meanwhile neither
+/// waits for the thread nor takes the object away under it.
+class Sleeper
+{
+public:
+    explicit Sleeper(VxHandle& handle) : m_handle(handle) { ++m_handle.nHolders; }
+    ~Sleeper() { letGo(&m_handle); }
+    Sleeper(const Sleeper&) = delete;
+    Sleeper& operator=(const Sleeper&) = delete;
+
+private:
+    VxHandle& m_handle;
+};
+
 /// What WaitForSingleObject() gives for each kind.
-DWORD wait(MutexObject& mutex, DWORD dwMilliseconds);
-DWORD wait(SemaphoreObject& semaphore, DWORD dwMilliseconds);
-DWORD wait(EventObject& event, DWORD dwMilliseconds);
+DWORD wait(VxHandle& handle, MutexObject& mutex, DWORD dwMilliseconds);
+DWORD wait(VxHandle& handle, SemaphoreObject& semaphore, DWORD dwMilliseconds);
+DWORD wait(VxHandle& handle, EventObject& event, DWORD dwMilliseconds);
 /// The result of a wait that failed with that error number.
 DWORD waitFailure(int nError);
 
-/// Ends the system's object; false when that is not possible.
-bool destroy(MutexObject& mutex);
-bool destroy(SemaphoreObject& semaphore);
-bool destroy(EventObject& event);
+/// What closing the handle does at once; false when the object cannot be ended.
+bool close(MutexObject& mutex);
+bool close(SemaphoreObject& semaphore);
+bool close(EventObject& event);
+/// What it does when nobody sleeps on the object any more.
+void end(MutexObject& mutex);
+void end(SemaphoreObject& semaphore);
+void end(EventObject& event);
 
 } // namespace vx::detail

@@ -14,7 +14,6 @@ HANDLE CreateMutex(LPSECURITY_ATTRIBUTES, BOOL bInitialOwner, LPCWSTR lpName)
             object.emplace<std::monostate>();
         } else if (bInitialOwner != 0) {
             static_cast<void>(pthread_mutex_trylock(&mutex.mutex)); // Nobody else has it yet.
-            mutex.owner = pthread_self();
         }
     });
 }
@@ -33,30 +32,38 @@ HANDLE OpenMutex(DWORD, BOOL, LPCWSTR lpName)
 BOOL ReleaseMutex(HANDLE hMutex)
 {
     auto* const pMutex = vx::detail::objectOf<MutexObject>(hMutex);
-    if (!pMutex || pthread_mutex_unlock(&pMutex->mutex) != 0)
-        return FALSE;
-    pMutex->owner.store(0, std::memory_order_relaxed);
-    return TRUE;
+    return pMutex && pthread_mutex_unlock(&pMutex->mutex) == 0;
 }
 
 namespace vx::detail {
 
-DWORD wait(MutexObject& mutex, DWORD dwMilliseconds)
+namespace {
+
+int sleep(VxHandle& handle, MutexObject& mutex, DWORD dwMilliseconds)
 {
-    const bool bTimed = dwMilliseconds != INFINITE;
-    int nError = bTimed ? pthread_mutex_trylock(&mutex.mutex) : pthread_mutex_lock(&mutex.mutex);
-    if (bTimed && nError == EBUSY) {
-        const timespec deadline = deadlineIn(dwMilliseconds);
-        nError = pthread_mutex_timedlock(&mutex.mutex, &deadline);
-    }
+    const Sleeper sleeper(handle);
+    if (dwMilliseconds == INFINITE)
+        return pthread_mutex_lock(&mutex.mutex);
+    const timespec deadline = deadlineIn(dwMilliseconds);
+    return pthread_mutex_timedlock(&mutex.mutex, &deadline);
+}
+
+} // namespace
+
+DWORD wait(VxHandle& handle, MutexObject& mutex, DWORD dwMilliseconds)
+{
+    int nError = pthread_mutex_trylock(&mutex.mutex);
+    if (nError == EBUSY)
+        nError = sleep(handle, mutex, dwMilliseconds);
     if (nError != 0) {
         errno = nError;
         return waitFailure(nError);
     }
-    mutex.owner.store(pthread_self(), std::memory_order_relaxed);
     return WAIT_OBJECT_0;
 }
 
-bool destroy(MutexObject& mutex) { return pthread_mutex_destroy(&mutex.mutex) == 0; }
+bool close(MutexObject& mutex) { return pthread_mutex_destroy(&mutex.mutex) == 0; }
+
+void end(MutexObject&) {} // one that could not be destroyed at once is locked for good
 
 } // namespace vx::detail

@@ -61,43 +61,56 @@ namespace vx::detail {
 
 namespace {
 
-/// Apart, so that a wait without a time-out stays a short function.
-[[gnu::noinline]] int timedAcquire(sem_t* pSemaphore, DWORD dwMilliseconds)
+/// For when no unit is counted. One may be there all the same: another process may have given it.
+int acquire(SemaphoreObject& semaphore, DWORD dwMilliseconds)
 {
     const int nError = errno;
-    if (sem_trywait(pSemaphore) == 0)
+    if (sem_trywait(semaphore.pSemaphore) == 0)
         return 0;
     errno = nError;
+    if (dwMilliseconds == INFINITE)
+        return sem_wait(semaphore.pSemaphore);
     const timespec deadline = deadlineIn(dwMilliseconds);
-    return sem_timedwait(pSemaphore, &deadline);
+    return sem_timedwait(semaphore.pSemaphore, &deadline);
 }
 
-} // namespace
-
-DWORD wait(SemaphoreObject& semaphore, DWORD dwMilliseconds)
+[[gnu::noinline]] DWORD sleepAndTake(VxHandle& handle, DWORD dwMilliseconds)
 {
-    if (semaphore.pSemaphore == SEM_FAILED)
-        return WAIT_FAILED;
-    if (dwMilliseconds == INFINITE) {
-        if (sem_wait(semaphore.pSemaphore) != 0)
-            return WAIT_FAILED;
-    } else if (timedAcquire(semaphore.pSemaphore, dwMilliseconds) != 0) {
-        return errno == ETIMEDOUT ? WAIT_TIMEOUT : WAIT_FAILED;
-    }
+    const Sleeper sleeper(handle);
+    auto& semaphore = *std::get_if<SemaphoreObject>(&handle.object);
+    if (acquire(semaphore, dwMilliseconds) != 0)
+        return dwMilliseconds != INFINITE && errno == ETIMEDOUT ? WAIT_TIMEOUT : WAIT_FAILED;
     if (semaphore.count.atMost() > 0)
         semaphore.count.down();
     return WAIT_OBJECT_0;
 }
 
-bool destroy(SemaphoreObject& semaphore)
+} // namespace
+
+DWORD wait(VxHandle& handle, SemaphoreObject& semaphore, DWORD dwMilliseconds)
+{
+    if (semaphore.pSemaphore == SEM_FAILED)
+        return WAIT_FAILED;
+    if (semaphore.count.atMost() <= 0 || sem_trywait(semaphore.pSemaphore) != 0)
+        return sleepAndTake(handle, dwMilliseconds);
+    semaphore.count.down();
+    return WAIT_OBJECT_0;
+}
+
+bool close(SemaphoreObject& semaphore)
 {
     if (semaphore.pSemaphore == SEM_FAILED)
         return false;
     if (semaphore.count.atMost() == 0)
         sem_post(semaphore.pSemaphore);
-    sem_close(semaphore.pSemaphore);
     sem_unlink(semaphore.name.c_str());
     return true;
+}
+
+void end(SemaphoreObject& semaphore)
+{
+    if (semaphore.pSemaphore != SEM_FAILED)
+        sem_close(semaphore.pSemaphore);
 }
 
 } // namespace vx::detail

@@ -1,7 +1,6 @@
 // The count that is kept beside a POSIX semaphore.
 #pragma once
 
-#include <algorithm>
 #include <atomic>
 
 namespace vx::detail {

@@ -11,7 +11,8 @@ namespace {
 /// What a mutex or an event calls an owner that ended.
 constexpr int kAbandoned = 36;
 
-bool destroy(std::monostate) { return false; }
+bool close(std::monostate) { return false; }
+void end(std::monostate) {}
 
 void forget(const VxHandle* pHandle)
 {
@@ -33,17 +34,25 @@ DWORD waitFailure(int nError)
     }
 }
 
+void letGo(VxHandle* pHandle)
+{
+    if (--pHandle->nHolders > 0)
+        return;
+    std::visit([](auto& object) { end(object); }, pHandle->object);
+    delete pHandle;
+}
+
 } // namespace vx::detail
 
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
 {
     using namespace vx::detail;
     if (auto* const pMutex = objectOf<MutexObject>(hHandle)) // std::visit() is an indirect call
-        return wait(*pMutex, dwMilliseconds);
+        return wait(*recordOf(hHandle), *pMutex, dwMilliseconds);
     if (auto* const pSemaphore = objectOf<SemaphoreObject>(hHandle))
-        return wait(*pSemaphore, dwMilliseconds);
+        return wait(*recordOf(hHandle), *pSemaphore, dwMilliseconds);
     if (auto* const pEvent = objectOf<EventObject>(hHandle))
-        return wait(*pEvent, dwMilliseconds);
+        return wait(*recordOf(hHandle), *pEvent, dwMilliseconds);
     return WAIT_FAILED;
 }
 
@@ -53,10 +62,10 @@ BOOL VxCloseHandle(HANDLE hObject)
     VxHandle* const pHandle = recordOf(hObject);
     if (!pHandle || pHandle->kind < kindOf<MutexObject> || pHandle->kind > kindOf<EventObject>)
         return FALSE;
-    // Intended: what cannot be destroyed is freed and stays in the map.
-    if (std::visit([](auto& object) { return destroy(object); }, pHandle->object))
+    // Intended: what cannot be ended is freed and stays in the map.
+    if (std::visit([](auto& object) { return close(object); }, pHandle->object))
         forget(pHandle);
     pHandle->kind = 0;
-    delete pHandle;
+    letGo(pHandle);
     return TRUE;
 }

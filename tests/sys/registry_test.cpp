@@ -276,19 +276,26 @@ TEST_F(Registry, QueriesMultipleValues)
     EXPECT_EQ(RegQueryMultipleValues_E(m_hKey, nullptr, 2, buffer, &size), ERROR_INVALID_PARAMETER);
 }
 
-TEST_F(Registry, ThreadsOpenAndClose)
+TEST_F(Registry, ThreadsShareIt)
 {
-    const auto use = [this] {
-        for (int i = 0; i < 2000; ++i) {
+    const auto use = [this](const wchar_t* name) {
+        for (DWORD i = 0; i < 2000; ++i) {
             HKEY hKey = nullptr;
             RegOpenKeyExW_E(HKEY_USERS, L"图层", 0, 0, &hKey);
-            EXPECT_EQ(RegSetValueExW_E(hKey, L"n", 0, REG_NONE, nullptr, 0), ERROR_SUCCESS);
+            EXPECT_EQ(RegSetValueExW_E(hKey, name, 0, REG_DWORD, reinterpret_cast<BYTE*>(&i), 4),
+                      0);
+            RegSetValueExW_E(m_hKey, name, 0, REG_SZ, nullptr, 0);
+            wchar_t first[9];
+            EXPECT_EQ(RegEnumKey_E(hKey, 0, first, nullptr), ERROR_SUCCESS);
+            DWORD read = 0;
+            RegQueryValueExW_E(hKey, name, nullptr, nullptr, reinterpret_cast<BYTE*>(&read),
+                               nullptr);
+            EXPECT_EQ(read, i);
             EXPECT_EQ(RegCloseKey_E(hKey), ERROR_SUCCESS);
-            EXPECT_EQ(RegSetValueExW_E(m_hKey, L"n", 0, REG_NONE, nullptr, 0), ERROR_SUCCESS);
         }
     };
-    std::thread other(use);
-    use();
+    std::thread other(use, L"other");
+    use(L"one");
     other.join();
 }
 

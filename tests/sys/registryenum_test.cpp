@@ -89,7 +89,8 @@ TEST_F(RegistryEnum, SeesEveryChange)
     m_plain.remove(QStringLiteral("HKEY_USERS/E/a"));
     ExpectFresh("a removal from what the file holds");
 
-    for (const char* const other : {"[HKEY_USERS]\nE\\x=1\nE\\y=2\n[A]\nb=1\n", "[B]\nb=1\n", ""}) {
+    for (const char* const other : {"[HKEY_USERS]\nE\\x=1\nE\\y=2\n[A]\nb=1\n", "[B]\nb=1\n",
+                                    "[HKEY_USERS]\nE\\a%5Cb=7\nE\\a\\b=8\n", ""}) {
         m_plain.sync();
         QFile file(m_plain.fileName()); // as another process does
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -115,15 +116,16 @@ TEST_F(RegistryEnum, IsLinear)
     EXPECT_LT(timer.elapsed(), 2000); // a listing for each takes a hundred times that
     EXPECT_TRUE(Name(kCount).isNull());
 
+    m_plain.setValue(QStringLiteral("HKEY_USERS/E/😀😀😀"), QStringLiteral("😀😀😀😀"));
     DWORD count = 0;
     DWORD longestName = 0;
     DWORD longestText = 0;
     EXPECT_EQ(RegQueryInfoKey_E(m_hKey, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                                 &count, &longestName, &longestText, nullptr, nullptr),
               ERROR_SUCCESS);
-    EXPECT_EQ(count, 10000U);
-    EXPECT_EQ(longestName, 5U);
-    EXPECT_EQ(longestText, 4U);
+    EXPECT_EQ(count, 10001U);
+    EXPECT_EQ(longestName, 6U); // Intended: UTF-16 units
+    EXPECT_EQ(longestText, 8U);
     EXPECT_EQ(RegQueryInfoKey_E(m_hKey, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                                 nullptr, nullptr, nullptr, nullptr, nullptr),
               ERROR_SUCCESS);

@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <fstream>
 #include <functional>
 #include <thread>
 #include <vector>
@@ -15,6 +16,7 @@
 namespace {
 
 using vxtest::expectResults;
+using vxtest::semaphoreName;
 
 // Far beyond what any of these waits takes, short enough to end a test that hangs.
 constexpr DWORD kLong = 30000;
@@ -190,6 +192,42 @@ TEST(Waiting, AnEventWakesSleepers)
         sleepers.join();
         VxCloseHandle(event);
     }
+}
+
+bool isAsleep(pid_t thread)
+{
+    std::ifstream stat("/proc/self/task/" + std::to_string(thread) + "/stat");
+    const std::string text((std::istreambuf_iterator<char>(stat)), {});
+    return text.find(") S ") != std::string::npos;
+}
+
+// The sleeper outlives its handle; a semaphore lets one go.
+TEST(Waiting, ClosingUnderASleeper)
+{
+    const std::wstring name = semaphoreName();
+    struct SleepRow
+    {
+        HANDLE handle;
+        DWORD limit;
+        DWORD result;
+    };
+    std::vector<SleepRow> rows = {
+        {CreateEvent(nullptr, FALSE, FALSE, kEvent), 300, WAIT_TIMEOUT},
+        {CreateSemaphore(nullptr, 0, 5, name.c_str()), INFINITE, WAIT_OBJECT_0},
+    };
+    if (!vxtest::kThreadSanitizer) // it reports the end of a mutex that is locked
+        rows.push_back({CreateMutex(nullptr, TRUE, kMutex), 300, WAIT_TIMEOUT});
+    for (const SleepRow& row : rows) {
+        std::atomic<pid_t> thread{0};
+        std::thread sleeper([&] {
+            thread = gettid();
+            EXPECT_EQ(WaitForSingleObject(row.handle, row.limit), row.result);
+        });
+        EXPECT_TRUE(vxtest::waitUntil([&] { return thread != 0 && isAsleep(thread); }));
+        EXPECT_EQ(VxCloseHandle(row.handle), TRUE);
+        sleeper.join();
+    }
+    g_mapVxHandle.remove(kMutex); // Intended: a locked mutex stays in the map.
 }
 
 } // namespace

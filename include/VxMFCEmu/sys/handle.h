@@ -32,8 +32,9 @@ struct VxHandle;
 /// The named objects by the address of the name; does not own them.
 extern VXMFC_EXPORT QMap<const wchar_t*, VxHandle*> g_mapVxHandle;
 
-/// Ends an event, a mutex or a semaphore. No thread may be waiting for it: an event is not closed
-/// before its last waiter has left, and the others take the object away under them.
+/// Ends an event, a mutex or a semaphore. Threads that sleep in a wait for it sleep on: until their
+/// time-out, or for good without one; of those that sleep for a semaphore one is woken. No thread
+/// may begin to use the handle any more.
 ///
 /// FALSE for null and for a handle whose creation failed, which stays as it is; a handle from a
 /// failed `sem_open` can be closed. Otherwise TRUE, also when the object could not be destroyed,
