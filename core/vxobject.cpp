@@ -98,7 +98,11 @@ BOOL CObject_E::Attach(QObject* pImp, QObject* pParent, bool bExternal)
     vx::detail::setDynamicProperty(pImp, parentProperty(), addressOf(pParent));
     pImp->installEventFilter(this);
     connectDestroyed(pImp, this);
+    // What is called there may delete this object.
+    const vx::detail::DispatchGuard guard(this, pImp, true);
     const BOOL bAttached = OnAttach();
+    if (!guard.wrapperAlive())
+        return FALSE;
     if (!bAttached)
         Detach();
     return bAttached;

@@ -5,6 +5,8 @@
 #include <private/qobject_p.h>
 #include <private/qsettings_p.h>
 
+#include <QtWidgets/QWidget>
+
 #include <algorithm>
 #include <mutex>
 #include <utility>
@@ -34,6 +36,16 @@ bool hasUnreadSections(QConfFile* pFile)
 {
     const std::lock_guard lock(pFile->mutex);
     return !pFile->unparsedIniSections.isEmpty();
+}
+
+// Names that the library has set share their text, so that most comparisons end at once.
+int indexOf(const QList<QByteArray>& names, const QByteArray& name)
+{
+    for (int i = 0; i < names.size(); ++i) {
+        if (names[i].constData() == name.constData() || names[i] == name)
+            return i;
+    }
+    return -1;
 }
 
 template <typename Visitor>
@@ -79,12 +91,27 @@ bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObjec
     return found;
 }
 
+QWidget* findChildWidget(const QObject* pParent, const QString& strName)
+{
+    const QObjectList& children = pParent->children();
+    for (QObject* const pChild : children) {
+        const auto* pExtra = QObjectPrivate::get(pChild)->extraData;
+        if (pExtra && pChild->isWidgetType() && pExtra->objectName == strName)
+            return static_cast<QWidget*>(pChild);
+    }
+    for (const QObject* const pChild : children) {
+        if (QWidget* const pFound = findChildWidget(pChild, strName))
+            return pFound;
+    }
+    return nullptr;
+}
+
 const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name)
 {
     const auto* pExtra = QObjectPrivate::get(const_cast<QObject*>(pObject))->extraData;
     if (!pExtra)
         return nullptr;
-    const int nIndex = pExtra->propertyNames.indexOf(name);
+    const int nIndex = indexOf(pExtra->propertyNames, name);
     return nIndex < 0 ? nullptr : &pExtra->propertyValues.at(nIndex);
 }
 
@@ -95,7 +122,7 @@ void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant
         pPrivate->extraData = new QObjectPrivate::ExtraData;
     auto& names = pPrivate->extraData->propertyNames;
     auto& values = pPrivate->extraData->propertyValues;
-    const int nIndex = names.indexOf(name);
+    const int nIndex = indexOf(names, name);
     if (nIndex < 0 && value.isValid()) {
         names.append(name);
         values.append(value);

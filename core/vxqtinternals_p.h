@@ -8,6 +8,7 @@
 #include <vector>
 
 class QSettings;
+class QWidget;
 
 namespace vx::detail {
 
@@ -28,6 +29,10 @@ std::vector<IncomingConnection> incomingConnections(const QObject* pReceiver);
 /// them all.
 bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObject* pReceiver,
                  const QMetaMethod& method);
+
+/// What `findChild<QWidget*>(strName)` finds for a name that is not empty. That one casts each child
+/// and copies its name before the two are compared.
+QWidget* findChildWidget(const QObject* pParent, const QString& strName);
 
 /// The dynamic property of this name; null when there is none. QObject::property() compares the
 /// name with every property that the object's class declares first, at a dozen times the cost.

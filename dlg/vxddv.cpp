@@ -1,5 +1,6 @@
 #include <VxMFCEmu/dlg/ddv.h>
 
+#include <VxMFCEmu/text/vxqstring.h>
 #include <VxMFCEmu/wnd/windowtext.h>
 
 #include <QtCore/QLocale>
@@ -45,9 +46,15 @@ void checkRange(CDataExchange_E* pDX, const Number& value, const Number& low, co
 }
 
 template <typename Moment>
+bool isEmpty(const Moment* pMin, const Moment* pMax)
+{
+    return pMin && pMax && *pMax < *pMin;
+}
+
+template <typename Moment>
 void checkMoment(CDataExchange_E* pDX, const Moment& value, const Moment* pMin, const Moment* pMax)
 {
-    if (!pDX || !pDX->m_bSaveAndValidate || (pMin && pMax && *pMax < *pMin))
+    if (!pDX || !pDX->m_bSaveAndValidate || isEmpty(pMin, pMax))
         return;
     if ((!pMin || *pMin <= value) && (!pMax || value <= *pMax))
         return;
@@ -63,7 +70,9 @@ void DDV_MaxChars(CDataExchange_E* pDX, const CString_E& value, int nChars)
         return;
     if (pDX->m_bSaveAndValidate && value.GetLength() > nChars)
         pDX->Fail(QStringLiteral("请填入不多于%1个的字符。").arg(nChars));
-    SetEditLimitText_E(pDX->m_pLastControl, nChars);
+    // Qt counts UTF-16 units, and would cut through a character that has two.
+    const int nUnits = VxQString(value.Left(nChars)).size();
+    SetEditLimitText_E(pDX->m_pLastControl, std::max(nChars, nUnits));
 }
 
 // clang-format off
@@ -97,22 +106,26 @@ void DDV_MinMaxDateTime(CDataExchange_E* pDX, const QDateTime& value, const QDat
 {
     checkMoment(pDX, value, pMin, pMax);
     auto* const pEdit = pDX ? qobject_cast<QDateTimeEdit*>(pDX->m_pLastControl) : nullptr;
-    if (!pEdit)
+    if (!pEdit || isEmpty(pMin, pMax))
         return;
     if (pMin)
         pEdit->setMinimumDateTime(*pMin);
-    if (pMax && (!pMin || *pMin <= *pMax))
+    if (pMax)
         pEdit->setMaximumDateTime(*pMax);
+    if (!pDX->m_bSaveAndValidate)
+        pEdit->setDateTime(value);
 }
 
 void DDV_MinMaxMonth(CDataExchange_E* pDX, const QDate& value, const QDate* pMin, const QDate* pMax)
 {
     checkMoment(pDX, value, pMin, pMax);
     auto* const pCalendar = pDX ? qobject_cast<QCalendarWidget*>(pDX->m_pLastControl) : nullptr;
-    if (!pCalendar)
+    if (!pCalendar || isEmpty(pMin, pMax))
         return;
     if (pMin)
         pCalendar->setMinimumDate(*pMin);
-    if (pMax && (!pMin || *pMin <= *pMax))
+    if (pMax)
         pCalendar->setMaximumDate(*pMax);
+    if (!pDX->m_bSaveAndValidate)
+        pCalendar->setSelectedDate(value);
 }

@@ -27,6 +27,14 @@ public:
     Q_DISABLE_COPY_MOVE(OverrideArrow)
 };
 
+// For a dialog that exec() was torn out of: it still knows its event loop, which is gone, and would
+// end it when it is hidden in its own way. Hidden already, it is left alone.
+void hideWithoutLoop(QDialog& dialog)
+{
+    dialog.QWidget::setVisible(false);
+    dialog.setAttribute(Qt::WA_ShowModal, false);
+}
+
 void connectButton(CDialog_E* pDialog, const char* pszName, const char* pszSlot)
 {
     QWidget* const pButton = pDialog->GetChildWidget(pszName);
@@ -55,7 +63,7 @@ void CDialog_E::SetTemplate(const QString& strName, CWnd_E* pParent)
 {
     m_pParentWidget = widgetOf(pParent);
     m_strTemplateName = strName;
-    m_lpszTemplateName = m_strTemplateName.GetString();
+    m_lpszTemplateName = strName.isEmpty() ? nullptr : m_strTemplateName.GetString();
     m_strForm = strName.isEmpty() ? QString()
                                   : QStringLiteral(":/%1/%2.ui").arg(GetMfyResourceName(), strName);
 }
@@ -93,25 +101,30 @@ int CDialog_E::DoModal()
     if (!CWnd_E::Create(m_pParentWidget))
         return IDABORT;
     const QPointer<CDialog_E> self(this);
-    const int nResult = RunModal();
+    vx::detail::ModalLoop loop([self] {
+        if (self)
+            self->EndDialog(-1);
+    });
+    const int nResult = RunModal(loop);
     if (!self)
         return IDCANCEL;
-    const std::exception_ptr pException = std::exchange(m_pException, nullptr);
     DestroyWindow(); // may be the end of this object
-    if (pException)
-        std::rethrow_exception(pException);
+    loop.rethrow();
     return nResult == QDialog::Accepted ? IDOK : nResult == QDialog::Rejected ? IDCANCEL : nResult;
 }
 
-int CDialog_E::RunModal()
+int CDialog_E::RunModal(vx::detail::ModalLoop& loop)
 {
-    const QPointer<CDialog_E> self(this);
+    const QPointer<QDialog> pDialog(static_cast<QDialog*>(GetSafeHwnd()));
     const OverrideArrow arrow;
-    m_bModal = true;
-    const int nResult = static_cast<QDialog*>(GetSafeHwnd())->exec();
-    if (self)
-        m_bModal = false;
-    return nResult;
+    try {
+        return pDialog->exec();
+    } catch (...) { // of code that the library does not call, such as a slot
+        loop.keepCurrentException();
+        if (pDialog)
+            hideWithoutLoop(*pDialog);
+        return -1;
+    }
 }
 
 BOOL CDialog_E::OnInitDialog()
@@ -147,33 +160,14 @@ void CDialog_E::EndDialog(int nResult)
         pDialog->done(nResult);
 }
 
-// An exception must not pass through the event loop of exec(), which leaves the dialog with a
-// pointer to it.
-template <typename Function>
-void CDialog_E::RunHandler(const QPointer<CDialog_E>& self, Function function)
-{
-    vx::detail::reportExceptions([&] {
-        try {
-            function();
-        } catch (const CException_E*) {
-            throw;
-        } catch (...) {
-            if (!self || !m_bModal)
-                throw;
-            m_pException = std::current_exception();
-            EndDialog(-1);
-        }
-    });
-}
-
 void CDialog_E::accept()
 {
-    RunHandler(this, [this] { OnOK(); });
+    vx::detail::callGuarded([this] { OnOK(); });
 }
 
 void CDialog_E::reject()
 {
-    RunHandler(this, [this] { OnCancel(); });
+    vx::detail::callGuarded([this] { OnCancel(); });
 }
 
 BOOL CDialog_E::PreTranslateMessage(tagMSG* pMsg)
@@ -191,8 +185,7 @@ BOOL CDialog_E::PreTranslateMessage(tagMSG* pMsg)
 bool CDialog_E::eventFilter(QObject* watched, QEvent* e)
 {
     const QPointer<CDialog_E> self(this);
-    bool bConsumed = true;
-    RunHandler(self, [&] { bConsumed = CWnd_E::eventFilter(watched, e); });
+    const bool bConsumed = CWnd_E::eventFilter(watched, e);
     if (bConsumed || !self || watched != GetSafeHwnd() || IsTemporary())
         return bConsumed;
     const bool bTopLevel = GetSafeHwnd()->isWindow();
@@ -201,8 +194,11 @@ bool CDialog_E::eventFilter(QObject* watched, QEvent* e)
     if (e->type() != QEvent::KeyPress || bTopLevel)
         return false;
     e->ignore(); // on to the parent
-    // A QDialog would hide itself for Escape, wherever it is.
-    return static_cast<QKeyEvent*>(e)->matches(QKeySequence::Cancel);
+    // A QDialog would hide itself for Escape and click a button for Enter, wherever it is, and so
+    // would the parent after it.
+    const auto* const pKey = static_cast<QKeyEvent*>(e);
+    return pKey->matches(QKeySequence::Cancel) || pKey->key() == Qt::Key_Return ||
+           pKey->key() == Qt::Key_Enter;
 }
 
 bool CDialog_E::OnCloseButton(QEvent* e)

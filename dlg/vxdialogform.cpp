@@ -56,6 +56,7 @@ QDialog* aroundContent(std::unique_ptr<QWidget> pContent, QWidget* pParent)
     pDialog->setWindowTitle(pContent->windowTitle());
     pDialog->setProperty("mfcStyle", pContent->property("mfcStyle"));
     pContent->setProperty("mfcStyle", QVariant());
+    setupStyle(pContent.get()); // its controls'
     pDialog->resize(pContent->size());
     auto* const pLayout = new QVBoxLayout(pDialog);
     pLayout->setContentsMargins(0, 0, 0, 0);

@@ -30,6 +30,8 @@ void CCmdUI_E::SetCheck(int nCheck)
     changeCommand(m_pObject, [nCheck](auto& object) { object.setChecked(nCheck == 1); });
 }
 
+void CCmdUI_E::SetRadio(BOOL bOn) { SetCheck(bOn ? 1 : 0); }
+
 void CCmdUI_E::SetText(const wchar_t* pszText)
 {
     const VxQString text(pszText);

@@ -3,6 +3,7 @@
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
 #include <VxMFCEmu/wnd/hostwindows.h>
+#include <VxMFCEmu/wnd/window.h>
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMetaMethod>
@@ -23,6 +24,22 @@ QMetaMethod idleSlot(const QObject* pObject)
     return pMeta->method(pMeta->indexOfSlot("OnEnterIdle()"));
 }
 
+// 0 for what can be no address, such as a truth value.
+std::uintptr_t addressIn(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::VoidStar:
+        return reinterpret_cast<std::uintptr_t>(value.value<void*>());
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+        return static_cast<std::uintptr_t>(value.toULongLong());
+    default:
+        return 0;
+    }
+}
+
 // The host announces a running command through a function whose address its main frame carries.
 bool isHostCommandRunning()
 {
@@ -30,11 +47,9 @@ bool isHostCommandRunning()
     if (!pFrame)
         return false;
     const QVariant property = pFrame->property("IsTolmCmdActive");
-    const auto address = property.userType() == QMetaType::VoidStar
-                             ? reinterpret_cast<std::uintptr_t>(property.value<void*>())
-                             : static_cast<std::uintptr_t>(property.toULongLong());
     using IsActive = bool (*)();
-    return address != 0 && reinterpret_cast<IsActive>(address)();
+    const auto pfnIsActive = reinterpret_cast<IsActive>(addressIn(property));
+    return pfnIsActive && pfnIsActive();
 }
 
 } // namespace
@@ -53,8 +68,11 @@ void ConnectIdleSlot(QObject* pObject)
 void DisconnectIdleSlot(QObject* pObject)
 {
     QAbstractEventDispatcher* const pDispatcher = QAbstractEventDispatcher::instance();
-    if (pObject && pDispatcher)
-        QObject::disconnect(pDispatcher, aboutToBlock(), pObject, idleSlot(pObject));
+    const QMetaMethod slot = pObject ? idleSlot(pObject) : QMetaMethod();
+    if (auto* const pWindow = qobject_cast<CWnd_E*>(pObject))
+        pWindow->m_bIdleSlot = false;
+    if (pDispatcher && slot.isValid()) // without a slot it would take away other connections too
+        QObject::disconnect(pDispatcher, aboutToBlock(), pObject, slot);
 }
 
 void QGlobalEventHandler::OnEnterIdle()

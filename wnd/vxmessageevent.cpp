@@ -1,4 +1,5 @@
 #include <VxMFCEmu/wnd/messageevent.h>
+#include <VxMFCEmu/wnd/window.h>
 
 #include <QtCore/QCoreApplication>
 
@@ -44,7 +45,16 @@ struct LibraryLifetime
 } // namespace
 
 VxWinMsgEvent::~VxWinMsgEvent() = default;
-VxMsgBoxEvent::~VxMsgBoxEvent() = default;
+VxMsgBoxEvent::VxMsgBoxEvent(const CString_E& strText, const CString_E& strCaption)
+    : QEvent(EventType), text(strText), caption(strCaption)
+{
+}
+
+VxMsgBoxEvent::~VxMsgBoxEvent()
+{
+    if (m_pPoster)
+        m_pPoster->ForgetPending(this); // dropped, or swallowed by another filter
+}
 
 void* VxWinMsgEvent::operator new(std::size_t size)
 {

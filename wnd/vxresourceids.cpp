@@ -31,9 +31,17 @@ void load(const QString& strResource, ResourceIds& ids)
 const ResourceIds& idsOf(const QString& strResource)
 {
     static std::map<QString, ResourceIds> all;
+    static QString strLast; // one plug-in asks for many ids, each time by the same text
+    static const ResourceIds* pLast = nullptr;
+    if (pLast && strLast.isSharedWith(strResource))
+        return *pLast;
     ResourceIds& ids = all[strResource];
     if (ids.names.isEmpty())
         load(strResource, ids);
+    if (!ids.names.isEmpty()) { // tried again while it is empty
+        strLast = strResource;
+        pLast = &ids;
+    }
     return ids;
 }
 

@@ -1,5 +1,7 @@
 #include <VxMFCEmu/wnd/timers.h>
 
+#include "wnd/vxhandlerexception_p.h"
+
 #include <VxMFCEmu/wnd/globaleventhandler.h>
 #include <VxMFCEmu/wnd/hostwindows.h>
 #include <VxMFCEmu/wnd/winmessages.h>
@@ -22,7 +24,7 @@ void tick(QWidget* pWidget, UINT_PTR id, TIMERPROC pfnTimer)
         // Seconds since 1970 are the same in every time zone, whose lookup would cost more than all
         // the rest of a tick.
         const qint64 now = QDateTime::currentSecsSinceEpoch();
-        pfnTimer(pWidget, WM_TIMER, id, static_cast<DWORD>(now));
+        vx::detail::callGuarded([&] { pfnTimer(pWidget, WM_TIMER, id, static_cast<DWORD>(now)); });
     } else if (pWidget) {
         QTimerEvent event(static_cast<int>(id));
         QCoreApplication::sendEvent(pWidget, &event);
@@ -75,18 +77,23 @@ bool QGlobalEventHandler::KillTimer(UINT_PTR id)
 void QGlobalEventHandler::OnTimerWindowDestroyed(QObject* pWidget)
 {
     const auto timers = pWidget->findChildren<QTimer*>();
-    for (const QTimer* pTimer : timers)
-        ForgetTimer(pTimer);
+    for (const QTimer* pTimer : timers) {
+        const auto it = FindTimer(pTimer);
+        // Intended: -1 for a timer of somebody else's, which ends the one with that id.
+        KillTimer(static_cast<UINT_PTR>(it == m_timers.end() ? -1 : it->first));
+    }
 }
 
-void QGlobalEventHandler::OnTimerDestroyed(QObject* pTimer) { ForgetTimer(pTimer); }
-
-void QGlobalEventHandler::ForgetTimer(const QObject* pTimer)
+void QGlobalEventHandler::OnTimerDestroyed(QObject* pTimer)
 {
-    const auto it = std::find_if(m_timers.begin(), m_timers.end(),
-                                 [pTimer](const auto& entry) { return entry.second == pTimer; });
-    if (it != m_timers.end())
+    if (const auto it = FindTimer(pTimer); it != m_timers.end())
         m_timers.erase(it);
+}
+
+std::map<int, QTimer*>::iterator QGlobalEventHandler::FindTimer(const QObject* pTimer)
+{
+    return std::find_if(m_timers.begin(), m_timers.end(),
+                        [pTimer](const auto& entry) { return entry.second == pTimer; });
 }
 
 UINT_PTR SetTimer_E(QWidget* pWidget, UINT_PTR nIDEvent, UINT uElapse, TIMERPROC pfnTimer)

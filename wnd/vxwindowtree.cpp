@@ -1,8 +1,9 @@
 #include <VxMFCEmu/wnd/windowtree.h>
 
-#include <VxMFCEmu/wnd/resourceids.h>
-
+#include "core/vxqtinternals_p.h"
 #include "wnd/vxlivewidgets_p.h"
+
+#include <VxMFCEmu/wnd/resourceids.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariant>
@@ -85,7 +86,7 @@ HWND GetDlgItem_E(HWND hDlg, int nID)
         return nullptr;
     const QString strName = ToStringId(static_cast<UINT>(nID));
     // Qt's search takes an empty name for any child.
-    return strName.isEmpty() ? nullptr : hDlg->findChild<QWidget*>(strName);
+    return strName.isEmpty() ? nullptr : vx::detail::findChildWidget(hDlg, strName);
 }
 
 int GetDlgCtrlID_E(HWND hWnd) { return hWnd ? static_cast<int>(ToCtrlId(hWnd->objectName())) : 0; }

@@ -1,6 +1,8 @@
 // Binding a window to its widget, and finding windows and controls again.
 #include <VxMFCEmu/wnd/window.h>
 
+#include "core/vxdispatchguard_p.h"
+#include "core/vxqtinternals_p.h"
 #include "wnd/vxcommandmap_p.h"
 #include "wnd/vxseesmessages_p.h"
 
@@ -16,6 +18,26 @@
 #include <QtWidgets/QScrollBar>
 
 IMPLEMENT_DYNCREATE_E(CWnd_E, CCmdTarget_E, QWidget)
+
+namespace {
+
+const QMetaMethod& updateCmdUiSignal()
+{
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&CWnd_E::updateCmdUi);
+    return signal;
+}
+
+bool hasOwnIdleSlot(const QMetaObject* pMeta)
+{
+    for (; pMeta != &CWnd_E::staticMetaObject; pMeta = pMeta->superClass()) {
+        const bool bMethods = pMeta->methodCount() > pMeta->methodOffset();
+        if (bMethods && pMeta->indexOfSlot("OnEnterIdle()") >= pMeta->methodOffset())
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 CWnd_E::CWnd_E() { vx::detail::notePlainWindow(*this); }
 
@@ -38,8 +60,10 @@ BOOL CWnd_E::OnAttach()
     CWnd_E::OnDestroy();   // what lies along the edges of an earlier widget
     tagCREATESTRUCTW create{};
     create.style = m_dwStyle;
-    // Intended: anything but 0 stops creation, not only -1.
-    if (OnCreate(&create) != 0 || !GetSafeHwnd() || !InitDialog() || !GetSafeHwnd())
+    // Intended: anything but 0 stops creation, not only -1. Both may delete this object.
+    const vx::detail::DispatchGuard guard(this, GetSafeHwnd(), true);
+    const auto isBound = [this, &guard] { return guard.wrapperAlive() && GetSafeHwnd(); };
+    if (OnCreate(&create) != 0 || !isBound() || !InitDialog() || !isBound())
         return FALSE;
     ConnectSlotsFrom(GetSafeHwnd(), false);
     OnMessageMap();
@@ -51,12 +75,18 @@ BOOL CWnd_E::OnAttach()
 
 void CWnd_E::OnMessageMap()
 {
-    AddMsgMapEntry(WM_NCDESTROY, 19, static_cast<AFX_PMSG_E>(&CWnd_E::OnNcDestroy), nullptr);
-    AddMsgMapEntry(WM_DESTROY, 19, static_cast<AFX_PMSG_E>(&CWnd_E::OnDestroy), nullptr);
-    AddMsgMapEntry(WM_SIZE, 26,
-                   vx::detail::eraseHandler<CWnd_E, void(UINT, int, int)>(&CWnd_E::OnSize),
-                   nullptr);
-    ConnectIdleSlot(this);
+    m_bBaseMap = true;
+    m_bIdleSlot = true;
+    if (hasOwnIdleSlot(metaObject()) || isSignalConnected(updateCmdUiSignal()))
+        ConnectIdleSlot(this);
+}
+
+// Most windows have nothing to do at idle time: they are not told of it before somebody listens.
+void CWnd_E::connectNotify(const QMetaMethod& signal)
+{
+    if (m_bIdleSlot && signal == updateCmdUiSignal())
+        ConnectIdleSlot(this);
+    CCmdTarget_E::connectNotify(signal);
 }
 
 BOOL CWnd_E::SubclassWindow(QWidget* pWidget)
@@ -105,7 +135,7 @@ QWidget* CWnd_E::GetChildWidget(const char* pszName) const
     // Qt's own search takes an empty name for any child.
     if (!GetSafeHwnd() || !pszName || !*pszName)
         return nullptr;
-    return GetSafeHwnd()->findChild<QWidget*>(QString::fromLatin1(pszName));
+    return vx::detail::findChildWidget(GetSafeHwnd(), QString::fromLatin1(pszName));
 }
 
 CWnd_E* CWnd_E::GetDlgItem(const char* pszName) const

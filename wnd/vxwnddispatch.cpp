@@ -4,6 +4,7 @@
 #include "core/vxdispatchguard_p.h"
 #include "wnd/vxcontrolproc_p.h"
 #include "wnd/vxeventtable_p.h"
+#include "wnd/vxhandlerexception_p.h"
 #include "wnd/vxpainting_p.h"
 #include "wnd/vxseesmessages_p.h"
 #include "wnd/vxsignatures_p.h"
@@ -33,6 +34,27 @@ bool isBefore(const std::pair<UINT, AFX_MSGMAP_ENTRY_E>& entry, UINT message)
     return entry.first < message;
 }
 
+// What every window handles, unless its own map says how.
+const AFX_MSGMAP_ENTRY_E* baseEntry(UINT message)
+{
+    static const AFX_MSGMAP_ENTRY_E ncDestroy = {19, static_cast<AFX_PMSG_E>(&CWnd_E::OnNcDestroy),
+                                                 nullptr};
+    static const AFX_MSGMAP_ENTRY_E destroy = {19, static_cast<AFX_PMSG_E>(&CWnd_E::OnDestroy),
+                                               nullptr};
+    static const AFX_MSGMAP_ENTRY_E size = {
+        26, vx::detail::eraseHandler<CWnd_E, void(UINT, int, int)>(&CWnd_E::OnSize), nullptr};
+    switch (message) {
+    case WM_NCDESTROY:
+        return &ncDestroy;
+    case WM_DESTROY:
+        return &destroy;
+    case WM_SIZE:
+        return &size;
+    default:
+        return nullptr;
+    }
+}
+
 } // namespace
 
 bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
@@ -57,7 +79,8 @@ bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
         consumed = isMessage ? DispatchMessage(guard, watched, e, msg) : showMessageBox(watched, e);
     } catch (...) {
         leave();
-        throw;
+        vx::detail::handleCurrentException();
+        return true;
     }
     leave();
     return consumed || !guard.objectAlive();
@@ -174,8 +197,6 @@ void CWnd_E::AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AF
 
 void CWnd_E::AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry)
 {
-    if (m_messages.empty())
-        m_messages.reserve(4); // what every window has fits
     const auto it = std::lower_bound(m_messages.begin(), m_messages.end(), message, isBefore);
     if (it != m_messages.end() && it->first == message)
         it->second = entry;
@@ -186,7 +207,9 @@ void CWnd_E::AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry)
 const AFX_MSGMAP_ENTRY_E* CWnd_E::FindMsgMapEntry(UINT message) const
 {
     const auto it = std::lower_bound(m_messages.begin(), m_messages.end(), message, isBefore);
-    return it != m_messages.end() && it->first == message ? &it->second : nullptr;
+    return it != m_messages.end() && it->first == message ? &it->second
+           : m_bBaseMap                                   ? baseEntry(message)
+                                                          : nullptr;
 }
 
 LRESULT CWnd_E::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
@@ -219,6 +242,8 @@ BOOL CWnd_E::PostEvent(QEvent* e, int nPriority, bool bCompress)
         if (std::any_of(m_pendingEvents.cbegin(), m_pendingEvents.cend(), sameType))
             return FALSE;
         m_pendingEvents.append({e, e->type()});
+        if (e->type() == VxMsgBoxEvent::EventType)
+            static_cast<VxMsgBoxEvent*>(e)->m_pPoster = this;
     }
     QCoreApplication::postEvent(GetSafeHwnd(), owned.release(), nPriority);
     return TRUE;

@@ -11,8 +11,8 @@
 /// filled, and FALSE makes Create() and DoModal() fail; EndDialog() called there does not keep
 /// DoModal() from showing the dialog; EndDialog(0) ends it with IDCANCEL.
 ///
-/// An MFC exception that a handler lets out is reported in a message box and the dialog stays; any
-/// other ends a modal dialog and comes out of DoModal().
+/// Any other exception than MFC's that comes out of a handler while a modal dialog runs ends the
+/// innermost one and comes out of its DoModal(). Hiding a modal dialog ends it, as in Qt.
 ///
 /// A temporary dialog, which FromHandle() makes for a QDialog of somebody else's, leaves it as it
 /// is.
@@ -22,9 +22,16 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
-#include <exception>
+namespace vx::detail {
+class ModalLoop;
+} // namespace vx::detail
 
-struct AFX_CMDHANDLERINFO_E;
+/// The handler that OnCmdMsg() found, for whoever asked only for it.
+struct AFX_CMDHANDLERINFO_E
+{
+    CCmdTarget_E* pTarget;
+    AFX_PMSG_E pmf;
+};
 
 class VXMFC_EXPORT CDialog_E : public CWnd_E
 {
@@ -75,15 +82,11 @@ protected:
 
 private:
     void SetTemplate(const QString& strName, CWnd_E* pParent);
-    template <typename Function>
-    void RunHandler(const QPointer<CDialog_E>& self, Function function);
     BOOL CreateModeless();
-    int RunModal();
+    int RunModal(vx::detail::ModalLoop& loop);
     bool OnCloseButton(QEvent* e);
 
     CString_E m_strTemplateName;
-    QString m_strForm; // path of the form; empty without a template
-    std::exception_ptr m_pException;
-    bool m_bModal = false;
+    QString m_strForm;     // path of the form; empty without a template
     bool m_bShown = false; // by the style of its form
 };

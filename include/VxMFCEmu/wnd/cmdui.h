@@ -6,7 +6,7 @@
 
 #include <VxMFCEmu/types.h>
 
-class QObject;
+#include <QtCore/QPointer>
 
 /// Handed to update handlers. Each member does nothing when the object is neither a QAction nor a
 /// QAbstractButton.
@@ -22,8 +22,10 @@ public:
     virtual void Enable(BOOL bOn = TRUE);
     /// Checks for 1. Intended: 2 (indeterminate) unchecks as 0 does.
     virtual void SetCheck(int nCheck = 1);
+    /// Checks for any value but 0.
+    virtual void SetRadio(BOOL bOn = TRUE);
     /// Sets the text; null counts as empty.
     virtual void SetText(const wchar_t* pszText);
 
-    QObject* m_pObject = nullptr;
+    QPointer<QObject> m_pObject; ///< null as well when it is gone
 };

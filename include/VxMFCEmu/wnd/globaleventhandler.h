@@ -56,7 +56,7 @@ private:
     void UpdateAppFilter();
     void OnTimerWindowDestroyed(QObject* pWidget);
     void OnTimerDestroyed(QObject* pTimer);
-    void ForgetTimer(const QObject* pTimer);
+    std::map<int, QTimer*>::iterator FindTimer(const QObject* pTimer);
     bool CallHooks(const QPointer<QObject>& receiver, const tagMSG& msg) const;
     bool CallMsgFns(const QPointer<QObject>& receiver, tagMSG* pMsg) const;
 

@@ -8,8 +8,11 @@
 #include <VxMFCEmu/types.h>
 
 #include <QtCore/QEvent>
+#include <QtCore/QPointer>
 
 #include <cstddef>
+
+class CWnd_E;
 
 /// A window message on its way to a window, and its result on the way back.
 class VXMFC_EXPORT VxWinMsgEvent : public QEvent
@@ -39,12 +42,13 @@ class VXMFC_EXPORT VxMsgBoxEvent : public QEvent
 public:
     static constexpr QEvent::Type EventType = static_cast<QEvent::Type>(QEvent::User + 129);
 
-    VxMsgBoxEvent(const CString_E& strText, const CString_E& strCaption)
-        : QEvent(EventType), text(strText), caption(strCaption)
-    {
-    }
+    VxMsgBoxEvent(const CString_E& strText, const CString_E& strCaption);
     ~VxMsgBoxEvent() override;
 
     CString_E text;
     CString_E caption;
+
+private:
+    friend class CWnd_E;
+    QPointer<CWnd_E> m_pPoster; // which waits for it, until it ends
 };

@@ -146,7 +146,10 @@ public:
     BOOL CallWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// Adds or replaces the handler of a command, or of its state; see commandmap.h for the checked
     /// way to do so. An empty name adds nothing.
-    void AddCmdMapEntry(const QString& strName, VxCommandEntry_E entry, AFX_PMSG_E pfn);
+    void AddCmdMapEntry(const QString& strName, VxCommandEntry_E entry, AFX_PMSG_E pfn,
+                        UINT nID = 0);
+    /// The same for all ids of a range that the calling plug-in's id map has.
+    void AddCmdMapRange(UINT nFirst, UINT nLast, VxCommandEntry_E entry, AFX_PMSG_E pfn);
     /// A control's own answer to a message that no handler took (EM_*, CB_*, ...); TRUE when it has
     /// one. FALSE here.
     virtual BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
@@ -442,10 +445,13 @@ public:
     void OnVScrollClipboard_E(CWnd_E* pClipAppWnd, UINT nSBCode, UINT nPos);
 
 protected:
+    void connectNotify(const QMetaMethod& signal) override;
+
     /// The style bits that the window was created with, and that it found at its widget.
     UINT m_dwStyle = 0;
 
 private:
+    friend class VxMsgBoxEvent;
     struct PendingEvent
     {
         QEvent* event;
@@ -487,10 +493,13 @@ private:
     }
     void ShowAsStyled();
 
+    friend VXMFC_EXPORT void DisconnectIdleSlot(QObject* pObject);
     QEvent* m_pCurrentEvent = nullptr;
     QList<PendingEvent> m_pendingEvents;
     std::map<int, QTimer*> m_mapTimers;
-    MessageEntries m_messages; // in the order of their numbers
+    MessageEntries m_messages; // in the order of their numbers; what every window has is elsewhere
+    bool m_bBaseMap = false;
+    bool m_bIdleSlot = false; // to be connected to idle time when somebody listens
     QPointer<QScrollBar> m_pHScrollBar;
     QPointer<QScrollBar> m_pVScrollBar;
     QPointer<QMenuBar> m_pMenuBar;
