@@ -9,8 +9,10 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
+#include <vector>
 
 namespace vxtest {
 namespace {
@@ -20,6 +22,19 @@ Display* display()
     static const std::unique_ptr<Display, int (*)(Display*)> connection(XOpenDisplay(nullptr),
                                                                         &XCloseDisplay);
     return connection.get();
+}
+
+// From the lowest to the one over all others.
+std::vector<Window> topLevelWindows()
+{
+    Window root = 0, parent = 0;
+    Window* children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display(), DefaultRootWindow(display()), &root, &parent, &children, &count))
+        return {};
+    const std::vector<Window> windows(children, children + count);
+    XFree(children);
+    return windows;
 }
 
 } // namespace
@@ -71,22 +86,32 @@ void typeKey(unsigned long keysym)
 
 unsigned long findWindow(const char* title)
 {
-    Window root = 0, parent = 0;
-    Window* children = nullptr;
-    unsigned count = 0;
-    unsigned long found = 0;
-    if (!XQueryTree(display(), DefaultRootWindow(display()), &root, &parent, &children, &count))
-        return 0;
-    for (unsigned i = 0; i < count && !found; ++i) {
+    for (const Window window : topLevelWindows()) {
         char* name = nullptr;
-        if (XFetchName(display(), children[i], &name) && name) {
-            if (std::strcmp(name, title) == 0)
-                found = children[i];
+        const bool named = XFetchName(display(), window, &name) && name;
+        const bool found = named && std::strcmp(name, title) == 0;
+        if (named)
             XFree(name);
-        }
+        if (found)
+            return window;
     }
-    XFree(children);
-    return found;
+    return 0;
+}
+
+unsigned long topWindow()
+{
+    const std::vector<Window> windows = topLevelWindows();
+    const auto top = std::find_if(windows.rbegin(), windows.rend(), [](Window window) {
+        XWindowAttributes state;
+        return XGetWindowAttributes(display(), window, &state) && state.map_state == IsViewable;
+    });
+    return top != windows.rend() ? *top : 0;
+}
+
+void focusWindow(unsigned long window)
+{
+    XSetInputFocus(display(), window, RevertToPointerRoot, CurrentTime);
+    XSync(display(), False);
 }
 
 void resizeWindow(unsigned long window, QSize size)

@@ -22,6 +22,8 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
+#include <QtWidgets/QDialog>
+
 #include <exception>
 
 struct AFX_CMDHANDLERINFO_E;
