@@ -16,6 +16,7 @@
 
 #include <X11/keysym.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <initializer_list>
@@ -80,17 +81,16 @@ void click(QPoint global, unsigned button = 1)
 /// What to do, and what is to be reported from then on; nothing to do asks for another line.
 using Steps = std::vector<std::pair<std::function<void()>, QString>>;
 
+/// Up to the first step without its line.
 bool perform(Report& report, const Steps& steps)
 {
-    bool passed = true;
-    for (const auto& [action, expected] : steps) {
-        if (action) {
+    return std::all_of(steps.begin(), steps.end(), [&](const auto& step) {
+        if (step.first) {
             report.startOver();
-            action();
+            step.first();
         }
-        passed = report.waitFor(expected).hasMatch() && passed;
-    }
-    return passed;
+        return report.waitFor(step.second).hasMatch();
+    });
 }
 
 bool check(bool passed, const char* what)
@@ -140,12 +140,14 @@ bool correctSpacing(unsigned long dialog, const QString& picture)
     typeText("300");
     vxtest::typeKey(XK_Return);
     const unsigned long box = waitForWindowOver(dialog);
-    bool passed = check(box, "a message box is over the settings");
+    if (!check(box, "a message box is over the settings"))
+        return false;
     savePicture(picture);
     vxtest::typeKey(XK_Return);
-    passed &= check(waitForWindowOver(box) == dialog, "the message box is closed");
+    if (!check(waitForWindowOver(box) == dialog, "the message box is closed"))
+        return false;
     typeText("25"); // the refused text is selected
-    return passed;
+    return true;
 }
 
 /// Gives the settings new values by keys alone, and leaves them in all the other ways.
@@ -155,28 +157,23 @@ bool useSettings(Report& report, unsigned long window, const QString& pictures)
     const QPoint grid = geometryOf(report, "grid").center();
     const QRect plot = geometryOf(report, "plot");
     const QString stored =
-        QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, labels 0, lines 2");
+        QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, labels 0, lines 1");
     const QString status =
         QStringLiteral("status: Grid 25 mm%1, Labels, Fit off, 108 items, 100 %");
     const QString shown = QStringLiteral("settings shown");
     const auto open = [&] { click(button); };
 
-    bool passed = perform(report, {{open, shown}});
-    const unsigned long dialog = waitForWindowOver(window);
-    passed &= check(dialog, "the settings are on the screen");
-    typeText("gears");
-    typeKeys({XK_Tab, XK_Down, XK_Tab, XK_space, XK_Tab});
-    passed &= correctSpacing(dialog, pictures.arg(QStringLiteral("box")));
-    typeKeys({XK_Tab, XK_space, XK_Tab, XK_Right, XK_Right});
-    passed &=
-        perform(report, {{[] { vxtest::typeKey(XK_Return); }, QStringLiteral("settings accepted")},
-                         {nullptr, stored},
-                         {nullptr, status.arg(QStringLiteral(" on"))}});
+    const auto enterAll = [&] {
+        const unsigned long dialog = waitForWindowOver(window);
+        typeText("gears");
+        typeKeys({XK_Tab, XK_Down, XK_Tab, XK_space, XK_Tab});
+        const bool corrected = correctSpacing(dialog, pictures.arg(QStringLiteral("box")));
+        typeKeys({XK_Tab, XK_space, XK_Tab, XK_Right});
+        return corrected;
+    };
     const auto isPaperBlue = [corner = plot.bottomRight() - QPoint(8, 8)] {
         return vxtest::screenshot().pixelColor(corner) == QColor(16, 46, 92);
     };
-    passed &= check(vxtest::waitUntil(isPaperBlue), "the paper is blue");
-
     const auto clickDefaultsAndCancel = [&] {
         waitForWindowOver(window);
         savePicture(pictures.arg(QStringLiteral("settings")));
@@ -191,7 +188,13 @@ bool useSettings(Report& report, unsigned long window, const QString& pictures)
         waitForWindowOver(window);
         click(geometryOf(report, "OK").center());
     };
-    return perform(report, {{open, shown},
+    return perform(report, {{open, shown}}) && enterAll() &&
+           perform(report,
+                   {{[] { vxtest::typeKey(XK_Return); }, QStringLiteral("settings accepted")},
+                    {nullptr, stored},
+                    {nullptr, status.arg(QStringLiteral(" on"))}}) &&
+           check(vxtest::waitUntil(isPaperBlue), "the paper is blue") &&
+           perform(report, {{open, shown},
                             {clickDefaultsAndCancel, QStringLiteral("settings cancelled")},
                             {nullptr, stored},
                             {open, shown},
@@ -201,8 +204,7 @@ bool useSettings(Report& report, unsigned long window, const QString& pictures)
                             {clickOk, QStringLiteral("settings accepted")},
                             {nullptr, stored},
                             {[&] { click(grid); }, status.arg(QString())},
-                            {[&] { click(grid); }, status.arg(QStringLiteral(" on"))}}) &&
-           passed;
+                            {[&] { click(grid); }, status.arg(QStringLiteral(" on"))}});
 }
 
 /// Uses the tracker and the plot as a user would.
@@ -254,12 +256,15 @@ bool secondRun(Report& report, unsigned long, const QString&)
     const bool sameSize =
         check(geometryOf(report, "frame").size() == kLaterSize, "the window has its size again");
     const QPoint post = geometryOf(report, "post").center();
+    const QPoint labels = geometryOf(report, "labels").center();
     return perform(report,
                    {{nullptr, QStringLiteral("run 2, tracker on #E6EEF8")},
                     {nullptr, QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, "
-                                             "labels 0, lines 2")},
+                                             "labels 0, lines 1")},
                     {nullptr, QStringLiteral("status: Grid 25 mm on, Labels, Fit off, .*")},
-                    {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 2")}}) &&
+                    {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 2")},
+                    {[&] { click(labels); },
+                     QStringLiteral("status: Grid 25 mm on, Labels on, .*")}}) &&
            sameSize;
 }
 

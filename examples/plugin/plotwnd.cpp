@@ -160,12 +160,13 @@ void CPlotWnd::DrawGrid(CDC_E& dc) const
 void CPlotWnd::DrawTitle(CDC_E& dc) const
 {
     CFont_E font;
-    font.CreateFont(-18, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+    font.CreateFont(-16, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
                     CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"DejaVu Sans");
     dc.SelectObject(&font);
     dc.SetTextColor(7);
     dc.SetTextAlign(TA_TOP | TA_LEFT);
-    dc.TextOut(14, 10, m_look.strTitle);
+    const CPoint_E corner = ToWindow({m_rcBounds.left, m_rcBounds.bottom});
+    dc.TextOut(corner.x + 14, corner.y + 10, m_look.strTitle);
 }
 
 void CPlotWnd::DrawItem(CDC_E& dc, const PlotItem& item)

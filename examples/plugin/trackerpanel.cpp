@@ -268,6 +268,7 @@ void CTrackerPanel::ReportReady()
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
     WriteGeometry(L"settings", GetDlgItem(IDC_SETTINGS, nullptr));
     WriteGeometry(L"grid", GetDlgItem(ID_VIEW_GRID, nullptr));
+    WriteGeometry(L"labels", GetDlgItem(ID_VIEW_LABELS, nullptr));
     WriteGeometry(L"fit", GetDlgItem(ID_VIEW_FIT, nullptr));
     CString_E strRun;
     strRun.Format(L"run %d, tracker on %s", m_settings.Number(L"Runs"),

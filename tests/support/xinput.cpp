@@ -24,6 +24,22 @@ Display* display()
     return connection.get();
 }
 
+// Windows of others may be gone before a request for them arrives.
+class IgnoreErrors
+{
+public:
+    IgnoreErrors() : m_previous(XSetErrorHandler([](Display*, XErrorEvent*) { return 0; })) {}
+    ~IgnoreErrors()
+    {
+        XSync(display(), False);
+        XSetErrorHandler(m_previous);
+    }
+    Q_DISABLE_COPY_MOVE(IgnoreErrors)
+
+private:
+    XErrorHandler m_previous;
+};
+
 // From the lowest to the one over all others.
 std::vector<Window> topLevelWindows()
 {
@@ -32,7 +48,7 @@ std::vector<Window> topLevelWindows()
     unsigned count = 0;
     if (!XQueryTree(display(), DefaultRootWindow(display()), &root, &parent, &children, &count))
         return {};
-    const std::vector<Window> windows(children, children + count);
+    std::vector<Window> windows(children, children + count);
     XFree(children);
     return windows;
 }
@@ -86,6 +102,7 @@ void typeKey(unsigned long keysym)
 
 unsigned long findWindow(const char* title)
 {
+    const IgnoreErrors ignore;
     for (const Window window : topLevelWindows()) {
         char* name = nullptr;
         const bool named = XFetchName(display(), window, &name) && name;
@@ -100,6 +117,7 @@ unsigned long findWindow(const char* title)
 
 unsigned long topWindow()
 {
+    const IgnoreErrors ignore;
     const std::vector<Window> windows = topLevelWindows();
     const auto top = std::find_if(windows.rbegin(), windows.rend(), [](Window window) {
         XWindowAttributes state;
@@ -110,8 +128,8 @@ unsigned long topWindow()
 
 void focusWindow(unsigned long window)
 {
+    const IgnoreErrors ignore;
     XSetInputFocus(display(), window, RevertToPointerRoot, CurrentTime);
-    XSync(display(), False);
 }
 
 void resizeWindow(unsigned long window, QSize size)
@@ -142,9 +160,9 @@ QImage screenshot()
                                    static_cast<unsigned>(screen.height), AllPlanes, ZPixmap);
     if (!grab)
         return {};
-    const QImage copy = QImage(reinterpret_cast<const uchar*>(grab->data), screen.width,
-                               screen.height, grab->bytes_per_line, QImage::Format_RGB32)
-                            .copy();
+    QImage copy = QImage(reinterpret_cast<const uchar*>(grab->data), screen.width, screen.height,
+                         grab->bytes_per_line, QImage::Format_RGB32)
+                      .copy();
     XDestroyImage(grab);
     return copy;
 }

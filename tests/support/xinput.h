@@ -31,7 +31,7 @@ void typeKey(unsigned long keysym);
 unsigned long findWindow(const char* title);
 /// The visible top-level X window that lies over all others; 0 when there is none.
 unsigned long topWindow();
-/// Gives @p window, which must be visible, the keyboard.
+/// Gives @p window the keyboard.
 void focusWindow(unsigned long window);
 void resizeWindow(unsigned long window, QSize size);
 /// Asks @p window to close.
