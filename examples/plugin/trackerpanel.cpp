@@ -15,6 +15,8 @@ namespace {
 
 constexpr int nTrackerHeight = 110;
 constexpr int nReportsWidth = 256;
+constexpr int nStatusIds[] = {ID_VIEW_GRID, ID_VIEW_LABELS, ID_VIEW_FIT, ID_INDICATOR_ITEMS,
+                              ID_INDICATOR_ZOOM};
 
 template <typename Button>
 Button* makeButton(int nID, const QString& strText, QWidget* pParent)
@@ -142,8 +144,7 @@ QWidget* CTrackerPanel::MakeStatusLine()
     auto* const pStatus = new QLabel(pLine);
     pStatus->setObjectName(ToStringId(IDC_STATUS));
     pLine->addWidget(pStatus, 1);
-    for (const int nID :
-         {ID_VIEW_GRID, ID_VIEW_LABELS, ID_VIEW_FIT, ID_INDICATOR_ITEMS, ID_INDICATOR_ZOOM}) {
+    for (const int nID : nStatusIds) {
         auto* const pButton = makeButton<QToolButton>(nID, QString(), pLine);
         pButton->setAutoRaise(true);
         pButton->setCheckable(nID == ID_VIEW_GRID || nID == ID_VIEW_LABELS);
@@ -294,8 +295,7 @@ void CTrackerPanel::ReportLook() const
 void CTrackerPanel::ReportStatus()
 {
     CString_E strStatus;
-    for (const int nID :
-         {ID_VIEW_GRID, ID_VIEW_LABELS, ID_VIEW_FIT, ID_INDICATOR_ITEMS, ID_INDICATOR_ZOOM}) {
+    for (const int nID : nStatusIds) {
         CString_E strText;
         GetDlgItemText(nID, strText);
         strStatus += (strStatus.IsEmpty() ? L"status: " : L", ") + strText;
