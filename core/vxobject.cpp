@@ -44,6 +44,12 @@ CObject_E::CObject_E() = default;
 CObject_E::~CObject_E()
 {
     vx::detail::DispatchGuard::wrapperDestroyed(this);
+    DetachAtEnd();
+}
+
+void CObject_E::DetachAtEnd()
+{
+    SetObjectFlag(EndingFlag, true);
     Detach();
 }
 
@@ -114,7 +120,8 @@ void CObject_E::Detach()
     if (!pImp)
         return;
     vx::detail::DispatchGuard::objectReleased(pImp);
-    disconnect(pImp, nullptr, this, nullptr);
+    if ((m_nObjectFlags & EndingFlag) == 0)
+        disconnect(pImp, nullptr, this, nullptr);
     pImp->removeEventFilter(this);
     // Another wrapper may have taken the object over meanwhile; its binding stays.
     if (GetOwner(pImp) == this) {

@@ -11,7 +11,6 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
 
 IMPLEMENT_DYNCREATE_E(CDialog_E, CWnd_E, QDialog)
 

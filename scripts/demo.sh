@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds and shows the demo: a host program that loads a plug-in written against this library.
 # Without a display it is driven with real keys and clicks under Xvfb, what arrived is checked, and
-# a picture is left in build/demo.png.
+# pictures are left in build/demo*.png.
 # shellcheck source=scripts/common.sh
 source "$(dirname "$0")/common.sh"
 
@@ -21,4 +21,4 @@ unset QT_QPA_PLATFORM
 test_environment
 with_display build/release/bin/vxdemo_driver --host "$host" --load "$plugin" \
   --report build/demo-report.txt --screenshot build/demo.png
-echo "picture: build/demo.png"
+echo "pictures: build/demo*.png"

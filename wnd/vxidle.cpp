@@ -83,16 +83,16 @@ void QGlobalEventHandler::OnEnterIdle()
 
 void QGlobalEventHandler::AppendTempObject(QObject* pObject)
 {
-    if (m_tempObjects.isEmpty())
+    if (m_tempObjects.empty())
         ConnectIdleSlot(this);
-    m_tempObjects.append(pObject);
+    m_tempObjects.emplace_back(pObject);
 }
 
 void QGlobalEventHandler::RemoveTempObject()
 {
     // Deleting an object may make new temporary ones.
-    while (!m_tempObjects.isEmpty()) {
-        const QList<QPointer<QObject>> objects = std::exchange(m_tempObjects, {});
+    while (!m_tempObjects.empty()) {
+        const std::vector<QPointer<QObject>> objects = std::exchange(m_tempObjects, {});
         for (const QPointer<QObject>& object : objects)
             delete object;
     }

@@ -43,7 +43,7 @@ CWnd_E::CWnd_E() { vx::detail::notePlainWindow(*this); }
 
 CWnd_E::~CWnd_E()
 {
-    Detach(); // before anything else: the handlers of the derived classes are gone already
+    DetachAtEnd(); // before anything else: the handlers of the derived classes are gone already
     OnDestroy();
 }
 

@@ -1,4 +1,5 @@
 // Works the demo as a user would and checks what its window reported.
+#include "support/waiting.h"
 #include "support/xinput.h"
 
 #include <QtCore/QCommandLineParser>
@@ -11,11 +12,14 @@
 #include <QtCore/QSize>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
+#include <QtGui/QColor>
 
 #include <X11/keysym.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -30,17 +34,24 @@ class Report
 public:
     explicit Report(const QString& path) : m_path(path) { QFile::remove(path); }
 
+    /// Lines that are there by now count no more.
+    void startOver() { m_start = QFile(m_path).size(); }
+
     /// Waits for a line that matches; an empty match when none comes in time.
     QRegularExpressionMatch waitFor(const QString& pattern) const
     {
-        const QRegularExpression expression(QStringLiteral("^%1$").arg(pattern),
+        return waitFor(pattern, m_start);
+    }
+    QRegularExpressionMatch waitFor(const QString& pattern, qint64 start) const
+    {
+        const QRegularExpression expression(QStringLiteral("^%1\n").arg(pattern),
                                             QRegularExpression::MultilineOption);
         QElapsedTimer clock;
         clock.start();
         QRegularExpressionMatch match;
         while (!match.hasMatch() && !clock.hasExpired(kLimitMs)) {
             QFile file(m_path);
-            if (file.open(QIODevice::ReadOnly))
+            if (file.open(QIODevice::ReadOnly) && file.seek(start))
                 match = expression.match(QString::fromUtf8(file.readAll()));
             QThread::msleep(10);
         }
@@ -50,12 +61,13 @@ public:
 
 private:
     QString m_path;
+    qint64 m_start = 0;
 };
 
 QRect geometryOf(const Report& report, const char* part)
 {
     const QRegularExpressionMatch match = report.waitFor(
-        QStringLiteral("geometry %1 (\\d+) (\\d+) (\\d+) (\\d+)").arg(QLatin1String(part)));
+        QStringLiteral("geometry %1 (\\d+) (\\d+) (\\d+) (\\d+)").arg(QLatin1String(part)), 0);
     return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
             match.captured(4).toInt()};
 }
@@ -66,64 +78,207 @@ void click(QPoint global, unsigned button = 1)
     vxtest::clickButton(button);
 }
 
+/// What to do, and what is to be reported from then on; nothing to do asks for another line.
 using Steps = std::vector<std::pair<std::function<void()>, QString>>;
 
-bool perform(const Report& report, const Steps& steps)
+/// Up to the first step without its line.
+bool perform(Report& report, const Steps& steps)
 {
-    bool passed = true;
-    for (const auto& [action, expected] : steps) {
-        action();
-        passed = report.waitFor(expected).hasMatch() && passed;
-    }
+    return std::all_of(steps.begin(), steps.end(), [&](const auto& step) {
+        if (step.first) {
+            report.startOver();
+            step.first();
+        }
+        return report.waitFor(step.second).hasMatch();
+    });
+}
+
+bool check(bool passed, const char* what)
+{
+    std::printf("%s  %s\n", passed ? "ok     " : "FAILED ", what);
     return passed;
 }
 
-/// Uses the tracker as a user would.
-bool useTracker(const Report& report, unsigned long window)
+void typeText(const char* text)
+{
+    for (; *text; ++text)
+        vxtest::typeKey(static_cast<unsigned char>(*text)); // Latin 1 is its own keysyms
+}
+
+void typeKeys(std::initializer_list<unsigned long> keysyms)
+{
+    for (const unsigned long keysym : keysyms)
+        vxtest::typeKey(keysym);
+}
+
+/// Waits until a window other than @p below lies over all and gives it the keyboard, as a window
+/// manager would; 0 when none does.
+unsigned long waitForWindowOver(unsigned long below)
+{
+    unsigned long top = below;
+    if (!vxtest::waitUntil([&] { return (top = vxtest::topWindow()) != below; }) || !top)
+        return 0;
+    vxtest::focusWindow(top);
+    return top;
+}
+
+/// Saves the screen when it shows no more changes.
+void savePicture(const QString& path)
+{
+    QImage picture = vxtest::screenshot();
+    vxtest::waitUntil([&] {
+        QThread::msleep(100);
+        const QImage previous = std::exchange(picture, vxtest::screenshot());
+        return picture == previous;
+    });
+    picture.copy(QRect(QPoint(0, 0), kLaterSize)).save(path);
+}
+
+/// Enters a value that the dialog does not take, and then one in its place.
+bool correctSpacing(unsigned long dialog, const QString& picture)
+{
+    typeText("300");
+    vxtest::typeKey(XK_Return);
+    const unsigned long box = waitForWindowOver(dialog);
+    if (!check(box, "a message box is over the settings"))
+        return false;
+    savePicture(picture);
+    vxtest::typeKey(XK_Return);
+    if (!check(waitForWindowOver(box) == dialog, "the message box is closed"))
+        return false;
+    typeText("25"); // the refused text is selected
+    return true;
+}
+
+/// Gives the settings new values by keys alone, and leaves them in all the other ways.
+bool useSettings(Report& report, unsigned long window, const QString& pictures)
+{
+    const QPoint button = geometryOf(report, "settings").center();
+    const QPoint grid = geometryOf(report, "grid").center();
+    const QRect plot = geometryOf(report, "plot");
+    const QString stored =
+        QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, labels 0, lines 1");
+    const QString status =
+        QStringLiteral("status: Grid 25 mm%1, Labels, Fit off, 108 items, 100 %");
+    const QString shown = QStringLiteral("settings shown");
+    const auto open = [&] { click(button); };
+
+    const auto enterAll = [&] {
+        const unsigned long dialog = waitForWindowOver(window);
+        typeText("gears");
+        typeKeys({XK_Tab, XK_Down, XK_Tab, XK_space, XK_Tab});
+        const bool corrected = correctSpacing(dialog, pictures.arg(QStringLiteral("box")));
+        typeKeys({XK_Tab, XK_space, XK_Tab, XK_Right});
+        return corrected;
+    };
+    const auto isPaperBlue = [corner = plot.bottomRight() - QPoint(8, 8)] {
+        return vxtest::screenshot().pixelColor(corner) == QColor(16, 46, 92);
+    };
+    const auto clickDefaultsAndCancel = [&] {
+        waitForWindowOver(window);
+        savePicture(pictures.arg(QStringLiteral("settings")));
+        click(geometryOf(report, "defaultsButton").center());
+        click(geometryOf(report, "Cancel").center());
+    };
+    const auto typeAndEscape = [&] {
+        waitForWindowOver(window);
+        typeKeys({XK_x, XK_Escape});
+    };
+    const auto clickOk = [&] {
+        waitForWindowOver(window);
+        click(geometryOf(report, "OK").center());
+    };
+    return perform(report, {{open, shown}}) && enterAll() &&
+           perform(report,
+                   {{[] { vxtest::typeKey(XK_Return); }, QStringLiteral("settings accepted")},
+                    {nullptr, stored},
+                    {nullptr, status.arg(QStringLiteral(" on"))}}) &&
+           check(vxtest::waitUntil(isPaperBlue), "the paper is blue") &&
+           perform(report, {{open, shown},
+                            {clickDefaultsAndCancel, QStringLiteral("settings cancelled")},
+                            {nullptr, stored},
+                            {open, shown},
+                            {typeAndEscape, QStringLiteral("settings cancelled")},
+                            {nullptr, stored},
+                            {open, shown},
+                            {clickOk, QStringLiteral("settings accepted")},
+                            {nullptr, stored},
+                            {[&] { click(grid); }, status.arg(QString())},
+                            {[&] { click(grid); }, status.arg(QStringLiteral(" on"))}});
+}
+
+/// Uses the tracker and the plot as a user would.
+bool useTracker(Report& report, unsigned long window)
 {
     const QRect tracker = geometryOf(report, "tracker");
     const QPoint origin = tracker.topLeft();
     const QPoint plot = geometryOf(report, "plot").center();
     const QPoint post = geometryOf(report, "post").center();
+    const QPoint fit = geometryOf(report, "fit").center();
     const int growth = kLaterSize.width() - geometryOf(report, "frame").width();
     return perform(
         report,
-        {{[] {}, QStringLiteral("run 1, tracker on #E6EEF8")},
-         {[&] { vxtest::movePointer(origin + QPoint(20, 25)); },
+        {{[&] { vxtest::movePointer(origin + QPoint(20, 25)); },
           QStringLiteral("WM_MOUSEMOVE 20,25")},
-         {[] {}, QStringLiteral("WM_SETCURSOR for the tracker")},
+         {nullptr, QStringLiteral("WM_SETCURSOR for the tracker")},
          {[&] { click(origin + QPoint(30, 40)); }, QStringLiteral("WM_LBUTTONDOWN 30,40 flags 1")},
          {[] { vxtest::typeKey(XK_a); }, QStringLiteral("WM_KEYDOWN 0x41")},
-         {[] {}, QStringLiteral("WM_CHAR 'a'")},
+         {nullptr, QStringLiteral("WM_CHAR 'a'")},
          {[] { vxtest::typeKey(XK_F5); }, QStringLiteral("WM_KEYDOWN 0x74")},
          {[&] { click(origin + QPoint(50, 60), 3); },
           QStringLiteral("WM_RBUTTONDOWN 50,60 flags 2")},
          {[&] { click(origin + QPoint(50, 60), 4); }, QStringLiteral("WM_MOUSEWHEEL 120")},
          {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 1")},
          {[&] { click(plot + QPoint(60, -40), 4); }, QStringLiteral("plot of \\d+ items at 125 %")},
+         {nullptr, QStringLiteral("status: .*, Fit, 108 items, 125 %")},
          {[&] { click(plot + QPoint(60, -40), 5); }, QStringLiteral("plot of \\d+ items at 100 %")},
+         {nullptr, QStringLiteral("status: .*, Fit off, 108 items, 100 %")},
+         {[&] { click(plot, 4); }, QStringLiteral("plot of \\d+ items at 125 %")},
+         {[&] { click(fit); }, QStringLiteral("status: .*, Fit off, 108 items, 100 %")},
          {[&] { click(plot, 3); }, QStringLiteral("plot of 44 items at 100 %")},
-         {[&] { click(plot, 3); }, QStringLiteral("plot of 108 items at 100 %")},
+         {[&] { click(plot + QPoint(40, 0), 3); }, // elsewhere, or it is a double click
+          QStringLiteral("plot of 108 items at 100 %")},
          {[&] { vxtest::resizeWindow(window, kLaterSize); },
           QStringLiteral("WM_SIZE %1,\\d+").arg(tracker.width() + growth)}});
 }
 
-/// The second run finds the window as the first one left it, and the registry counts on.
-bool findAgain(const Report& report, unsigned long)
+bool firstRun(Report& report, unsigned long window, const QString& pictures)
 {
-    const bool sameSize = geometryOf(report, "frame").size() == kLaterSize;
-    std::printf("%s  the window has its size again\n", sameSize ? "ok     " : "FAILED ");
+    return perform(report, {{nullptr, QStringLiteral("run 1, tracker on #E6EEF8")},
+                            {nullptr, QStringLiteral("stored: title '', paper 0, grid 0 of 20 mm, "
+                                                     "labels 1, lines 0")}}) &&
+           useSettings(report, window, pictures) && useTracker(report, window);
+}
+
+/// The second run finds the window as the first one left it, and the registry counts on.
+bool secondRun(Report& report, unsigned long, const QString&)
+{
+    const bool sameSize =
+        check(geometryOf(report, "frame").size() == kLaterSize, "the window has its size again");
     const QPoint post = geometryOf(report, "post").center();
-    return perform(report, {{[] {}, QStringLiteral("run 2, tracker on #E6EEF8")},
-                            {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 2")}}) &&
+    const QPoint labels = geometryOf(report, "labels").center();
+    return perform(report,
+                   {{nullptr, QStringLiteral("run 2, tracker on #E6EEF8")},
+                    {nullptr, QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, "
+                                             "labels 0, lines 1")},
+                    {nullptr, QStringLiteral("status: Grid 25 mm on, Labels, Fit off, .*")},
+                    {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 2")},
+                    {[&] { click(labels); },
+                     QStringLiteral("status: Grid 25 mm on, Labels on, .*")}}) &&
            sameSize;
 }
 
 /// Starts the host with its plug-in, works it, and ends it by its close button.
-bool runHost(const QCommandLineParser& options, bool (*use)(const Report&, unsigned long))
+using Use = bool (*)(Report& report, unsigned long window, const QString& pictures);
+
+bool runHost(const QCommandLineParser& options, Use use)
 {
     const QString reportPath = options.value(QStringLiteral("report"));
-    const Report report(reportPath);
+    Report report(reportPath);
+    const QString picture = options.value(QStringLiteral("screenshot"));
+    // Beside it are those of the dialogs.
+    QString pictures = picture;
+    pictures.insert(pictures.lastIndexOf(QLatin1Char('.')), QStringLiteral("-%1"));
     QProcess host;
     host.setProcessChannelMode(QProcess::ForwardedChannels);
     host.start(options.value(QStringLiteral("host")),
@@ -131,17 +286,15 @@ bool runHost(const QCommandLineParser& options, bool (*use)(const Report&, unsig
                 QStringLiteral("--report"), reportPath});
     bool passed = report.waitFor(QStringLiteral("ready")).hasMatch();
     const unsigned long window = passed ? vxtest::findWindow(kTitle) : 0;
-    passed = window && use(report, window);
+    passed = window && use(report, window, pictures);
     if (window) {
-        vxtest::screenshot()
-            .copy(QRect(QPoint(0, 0), kLaterSize))
-            .save(options.value(QStringLiteral("screenshot")));
+        vxtest::screenshot().copy(QRect(QPoint(0, 0), kLaterSize)).save(picture);
         vxtest::closeWindow(window);
         passed = report.waitFor(QStringLiteral("WM_DESTROY")).hasMatch() && passed;
     }
     const bool ended = host.waitForFinished(kLimitMs) &&
                        host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
-    std::printf("%s  host ended\n", ended ? "ok     " : "FAILED ");
+    check(ended, "host ended");
     if (!ended)
         host.kill();
     return passed && ended;
@@ -164,5 +317,5 @@ int main(int argc, char** argv)
     // Settings of the user are neither read nor changed.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
-    return runHost(options, &useTracker) && runHost(options, &findAgain) ? 0 : 1;
+    return runHost(options, &firstRun) && runHost(options, &secondRun) ? 0 : 1;
 }

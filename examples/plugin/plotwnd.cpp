@@ -1,6 +1,5 @@
 #include "plotwnd.h"
 
-#include "settings.h"
 #include "trackerwnd.h"
 
 #include <algorithm>
@@ -8,6 +7,16 @@
 
 namespace {
 
+struct Paper
+{
+    COLORREF colour;
+    COLORREF grid;
+};
+constexpr Paper kPapers[] = {{RGB(33, 40, 48), RGB(56, 66, 78)},
+                             {RGB(16, 46, 92), RGB(40, 76, 130)},
+                             {RGB(0, 0, 0), RGB(52, 52, 52)}};
+
+constexpr LONG kUnitsPerMillimetre = 40;
 constexpr double kMargin = 1.06;
 constexpr int kPenStyles[] = {PS_DOT,     PS_DOT,     PS_DASH,      PS_DASH,
                               PS_DASHDOT, PS_DASHDOT, PS_DASHDOTDOT};
@@ -47,17 +56,30 @@ bool CPlotWnd::Open(int nPlot)
     const bool loaded = m_plot.Load(BesidePlugin(ProfileText(L"Plot", strKey, L"")));
     m_nPlot = nPlot;
     m_rcBounds = m_plot.Bounds();
+    Fit();
+    return loaded;
+}
+
+void CPlotWnd::SetLook(const PlotLook& look)
+{
+    m_look = look;
+    m_pens.clear();
+    Invalidate();
+}
+
+void CPlotWnd::Fit()
+{
     m_ptCentre = m_rcBounds.CenterPoint();
     m_dZoom = 1;
     Invalidate();
-    return loaded;
 }
+
+int CPlotWnd::ZoomPercent() const { return static_cast<int>(std::lround(m_dZoom * 100)); }
 
 void CPlotWnd::ReportZoom()
 {
     CString_E strLine;
-    strLine.Format(L"plot of %d items at %d %%", static_cast<int>(m_plot.Items().size()),
-                   static_cast<int>(std::lround(m_dZoom * 100)));
+    strLine.Format(L"plot of %d items at %d %%", ItemCount(), ZoomPercent());
     if (CWnd_E* const pParent = GetParent())
         pParent->SendMessage(WM_TRACKER_REPORT, 0, reinterpret_cast<LPARAM>(&strLine));
 }
@@ -86,7 +108,7 @@ BOOL CPlotWnd::OnEraseBkgnd(CDC_E* pDC)
 {
     CRect_E rect;
     GetClientRect(&rect);
-    pDC->FillSolidRect(0, 0, rect.Width() + 1, rect.Height() + 1, paletteColour(*pDC, 0));
+    pDC->FillSolidRect(0, 0, rect.Width() + 1, rect.Height() + 1, kPapers[m_look.nPaper].colour);
     return TRUE;
 }
 
@@ -94,8 +116,10 @@ void CPlotWnd::OnPaint()
 {
     CPaintDC_E dc(this);
     dc.SetBkMode(TRANSPARENT);
+    DrawGrid(dc);
     for (const PlotItem& item : m_plot.Items())
         DrawItem(dc, item);
+    DrawTitle(dc);
     CRect_E rect;
     GetClientRect(&rect);
     rect.DeflateRect(0, 0, 1, 1);
@@ -109,9 +133,40 @@ CPen_E* CPlotWnd::Pen(CDC_E& dc, int nIndex, int nLineType)
     if (!pen) {
         const bool known = nLineType >= 0 && nLineType < static_cast<int>(std::size(kPenStyles));
         const int nStyle = known ? kPenStyles[nLineType] : PS_SOLID;
-        pen = std::make_unique<CPen_E>(nStyle, 1, paletteColour(dc, nIndex));
+        pen = std::make_unique<CPen_E>(nStyle, 1 + m_look.nLines, paletteColour(dc, nIndex));
     }
     return pen.get();
+}
+
+void CPlotWnd::DrawGrid(CDC_E& dc) const
+{
+    constexpr int nNarrowest = 4; // in pixels
+    const LONG step = m_look.nSpacing * kUnitsPerMillimetre;
+    if (!m_look.bGrid || step * Scale() < nNarrowest)
+        return;
+    CPen_E pen(PS_SOLID, 1, kPapers[m_look.nPaper].grid);
+    dc.SelectObject(&pen);
+    const auto drawLine = [&](LONG x1, LONG y1, LONG x2, LONG y2) {
+        dc.MoveTo(ToWindow({x1, y1}));
+        dc.LineTo(ToWindow({x2, y2}));
+    };
+    const CRect_E& sheet = m_rcBounds;
+    for (LONG x = sheet.left; x <= sheet.right; x += step)
+        drawLine(x, sheet.top, x, sheet.bottom);
+    for (LONG y = sheet.top; y <= sheet.bottom; y += step)
+        drawLine(sheet.left, y, sheet.right, y);
+}
+
+void CPlotWnd::DrawTitle(CDC_E& dc) const
+{
+    CFont_E font;
+    font.CreateFont(-16, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                    CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"DejaVu Sans");
+    dc.SelectObject(&font);
+    dc.SetTextColor(7);
+    dc.SetTextAlign(TA_TOP | TA_LEFT);
+    const CPoint_E corner = ToWindow({m_rcBounds.left, m_rcBounds.bottom});
+    dc.TextOut(corner.x + 14, corner.y + 10, m_look.strTitle);
 }
 
 void CPlotWnd::DrawItem(CDC_E& dc, const PlotItem& item)
@@ -132,7 +187,8 @@ void CPlotWnd::DrawItem(CDC_E& dc, const PlotItem& item)
         DrawArc(dc, item);
         break;
     case PlotItem::Kind::Text:
-        DrawLabel(dc, item);
+        if (m_look.bLabels)
+            DrawLabel(dc, item);
         break;
     }
 }

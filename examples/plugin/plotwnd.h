@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plotfile.h"
+#include "settings.h"
 
 #include <map>
 #include <memory>
@@ -15,6 +16,13 @@ class CPlotWnd : public CWnd_E
     /// Shows plot number @p nPlot; false when there is no such plot.
     bool Open(int nPlot);
 
+    void SetLook(const PlotLook& look);
+    const PlotLook& Look() const { return m_look; }
+    /// Shows the whole plot.
+    void Fit();
+
+    int ItemCount() const { return static_cast<int>(m_plot.Items().size()); }
+    int ZoomPercent() const;
     /// Sends the parent a line for its report.
     void ReportZoom();
 
@@ -32,11 +40,14 @@ private:
     double Scale() const { return FittingScale() * m_dZoom; }
     CPoint_E ToWindow(CPoint_E point) const;
     CPen_E* Pen(CDC_E& dc, int nIndex, int nLineType);
+    void DrawGrid(CDC_E& dc) const;
+    void DrawTitle(CDC_E& dc) const;
     void DrawItem(CDC_E& dc, const PlotItem& item);
     void DrawRegion(CDC_E& dc, const PlotItem& item, const std::vector<CPoint_E>& corners) const;
     void DrawArc(CDC_E& dc, const PlotItem& item) const;
     void DrawLabel(CDC_E& dc, const PlotItem& item) const;
 
+    PlotLook m_look;
     CPlotFile m_plot;
     int m_nPlot = 0;
     CRect_E m_rcBounds;

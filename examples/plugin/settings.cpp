@@ -4,6 +4,7 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -19,6 +20,19 @@ constexpr PlacePart kPlace[] = {{L"Left", &tagRECT::left},
                                 {L"Right", &tagRECT::right},
                                 {L"Bottom", &tagRECT::bottom}};
 
+struct LookPart
+{
+    const wchar_t* name;
+    int PlotLook::*member;
+    int least, most;
+};
+constexpr LookPart kLook[] = {
+    {L"Paper", &PlotLook::nPaper, 0, 2},
+    {L"Grid", &PlotLook::bGrid, FALSE, TRUE},
+    {L"Spacing", &PlotLook::nSpacing, PlotLook::nMinSpacing, PlotLook::nMaxSpacing},
+    {L"Labels", &PlotLook::bLabels, FALSE, TRUE},
+    {L"Lines", &PlotLook::nLines, 0, 2}};
+
 } // namespace
 
 CTrackerSettings::CTrackerSettings()
@@ -32,14 +46,21 @@ CTrackerSettings::~CTrackerSettings()
     RegCloseKey_E(m_hKey);
 }
 
+std::vector<BYTE> CTrackerSettings::Data(const wchar_t* lpszName, DWORD& dwType) const
+{
+    DWORD size = 0;
+    dwType = REG_NONE;
+    RegQueryValueExW_E(m_hKey, lpszName, nullptr, &dwType, nullptr, &size);
+    std::vector<BYTE> data(size);
+    RegQueryValueExW_E(m_hKey, lpszName, nullptr, nullptr, data.data(), nullptr);
+    return data;
+}
+
 // A number that this run has written is a number; one that comes out of the file is its text.
 int CTrackerSettings::Number(const wchar_t* lpszName, int nDefault) const
 {
     DWORD type = REG_NONE;
-    DWORD size = 0;
-    RegQueryValueExW_E(m_hKey, lpszName, nullptr, &type, nullptr, &size);
-    std::vector<BYTE> data(size);
-    RegQueryValueExW_E(m_hKey, lpszName, nullptr, nullptr, data.data(), nullptr);
+    const std::vector<BYTE> data = Data(lpszName, type);
     if (type == REG_SZ)
         return std::atoi(reinterpret_cast<const char*>(data.data()));
     int nValue = nDefault;
@@ -52,6 +73,38 @@ void CTrackerSettings::SetNumber(const wchar_t* lpszName, int nValue)
 {
     RegSetValueExW_E(m_hKey, lpszName, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&nValue),
                      sizeof nValue);
+}
+
+CString_E CTrackerSettings::Text(const wchar_t* lpszName) const
+{
+    DWORD type = REG_NONE;
+    const std::vector<BYTE> data = Data(lpszName, type);
+    return type == REG_SZ ? CString_E(reinterpret_cast<const char*>(data.data())) : CString_E();
+}
+
+void CTrackerSettings::SetText(const wchar_t* lpszName, const CString_E& strValue)
+{
+    const auto size = static_cast<DWORD>(strValue.GetLength() + 1) * sizeof(wchar_t);
+    RegSetValueExW_E(m_hKey, lpszName, 0, REG_SZ,
+                     reinterpret_cast<const BYTE*>(strValue.GetString()), static_cast<DWORD>(size));
+}
+
+PlotLook CTrackerSettings::Look() const
+{
+    PlotLook look;
+    look.strTitle = Text(L"Title");
+    for (const LookPart& part : kLook) {
+        int& value = look.*part.member;
+        value = std::clamp(Number(part.name, value), part.least, part.most);
+    }
+    return look;
+}
+
+void CTrackerSettings::SetLook(const PlotLook& look)
+{
+    SetText(L"Title", look.strTitle);
+    for (const LookPart& part : kLook)
+        SetNumber(part.name, look.*part.member);
 }
 
 bool CTrackerSettings::RestorePlace() const

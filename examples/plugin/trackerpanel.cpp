@@ -1,17 +1,38 @@
 #include "trackerpanel.h"
 
 #include "resource.h"
+#include "settingsdialog.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolButton>
 
 namespace {
 
 constexpr int nTrackerHeight = 110;
 constexpr int nReportsWidth = 256;
+constexpr int nStatusIds[] = {ID_VIEW_GRID, ID_VIEW_LABELS, ID_VIEW_FIT, ID_INDICATOR_ITEMS,
+                              ID_INDICATOR_ZOOM};
+
+template <typename Button>
+Button* makeButton(int nID, const QString& strText, QWidget* pParent)
+{
+    auto* const pButton = new Button(pParent);
+    pButton->setObjectName(ToStringId(static_cast<UINT>(nID)));
+    pButton->setText(strText);
+    return pButton;
+}
+
+CString_E formatted(UINT nFormatID, int nValue)
+{
+    CString_E strText;
+    strText.Format(nFormatID, nValue);
+    return strText;
+}
 
 } // namespace
 
@@ -32,8 +53,17 @@ IMPLEMENT_DYNAMIC_E(CTrackerPanel, CWnd_E, QWidget)
 BEGIN_MESSAGE_MAP_E(CTrackerPanel, CWnd_E)
 ON_WM_DESTROY_E()
 ON_MESSAGE_E(WM_TRACKER_REPORT, &CTrackerPanel::OnReport)
-CObject_E::Connect(IDC_POST, SIGNAL(clicked()), this, SLOT(OnPost()), GetSafeHwnd());
-CObject_E::Connect(IDC_CLEAR, SIGNAL(clicked()), this, SLOT(OnClear()), GetSafeHwnd());
+ON_BN_CLICKED_E(IDC_POST, &CTrackerPanel::OnPost)
+ON_BN_CLICKED_E(IDC_CLEAR, &CTrackerPanel::OnClear)
+ON_BN_CLICKED_E(IDC_SETTINGS, &CTrackerPanel::OnSettings)
+ON_COMMAND_E(ID_VIEW_GRID, &CTrackerPanel::OnViewGrid)
+ON_COMMAND_E(ID_VIEW_LABELS, &CTrackerPanel::OnViewLabels)
+ON_COMMAND_E(ID_VIEW_FIT, &CTrackerPanel::OnViewFit)
+ON_UPDATE_COMMAND_UI_E(ID_VIEW_GRID, &CTrackerPanel::OnUpdateViewGrid)
+ON_UPDATE_COMMAND_UI_E(ID_VIEW_LABELS, &CTrackerPanel::OnUpdateViewLabels)
+ON_UPDATE_COMMAND_UI_E(ID_VIEW_FIT, &CTrackerPanel::OnUpdateViewFit)
+ON_UPDATE_COMMAND_UI_E(ID_INDICATOR_ITEMS, &CTrackerPanel::OnUpdateItems)
+ON_UPDATE_COMMAND_UI_E(ID_INDICATOR_ZOOM, &CTrackerPanel::OnUpdateZoom)
 END_MESSAGE_MAP_E()
 
 CTrackerPanel::CTrackerPanel(const CString_E& strReportPath)
@@ -53,7 +83,8 @@ BOOL CTrackerPanel::CreateInView()
     m_wndDrawing.GetClientRect(&rect);
     FillDrawing(rect.Width(), rect.Height());
     SetupUI();
-    OnMessageMap(); // the buttons exist now
+    // After the update handlers, which the message map has connected.
+    connect(this, &CWnd_E::updateCmdUi, this, &CTrackerPanel::ReportStatus);
     ShowWindow(SW_SHOW);
     QTimer::singleShot(0, this, [this] { ReportReady(); });
     return TRUE;
@@ -73,17 +104,9 @@ void CTrackerPanel::SetupUI()
     QWidget* const pPanel = GetSafeHwnd();
     pPanel->setAutoFillBackground(true);
 
-    auto* const pStatus = new QLabel(pPanel);
-    pStatus->setObjectName(ToStringId(IDC_STATUS));
-    pStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* const pReports = new QListWidget(pPanel);
     pReports->setFixedWidth(nReportsWidth);
     pReports->setObjectName(ToStringId(IDC_REPORTS));
-    auto* const pPost = new QPushButton(QStringLiteral("Post a message"), pPanel);
-    pPost->setObjectName(ToStringId(IDC_POST));
-    auto* const pClear = new QPushButton(QStringLiteral("Clear"), pPanel);
-    pClear->setObjectName(ToStringId(IDC_CLEAR));
-
     m_wndTracker.Create(pPanel);
     QWidget* const pTracker = m_wndTracker.GetSafeHwnd();
     pTracker->setFocusPolicy(Qt::StrongFocus);
@@ -93,20 +116,44 @@ void CTrackerPanel::SetupUI()
 
     pTracker->setFixedHeight(nTrackerHeight);
     m_wndPlot.Create(pPanel);
+    m_wndPlot.SetLook(m_settings.Look());
     m_wndPlot.Open(0);
 
     auto* const pGrid = new QGridLayout(pPanel);
     pGrid->addWidget(m_wndPlot.GetSafeHwnd(), 0, 0);
     pGrid->addWidget(pTracker, 1, 0, 2, 1);
     pGrid->addWidget(pReports, 0, 1, 1, 2);
-    pGrid->addWidget(pPost, 1, 1);
-    pGrid->addWidget(pClear, 1, 2);
-    pGrid->addWidget(pStatus, 2, 1, 1, 2);
+    pGrid->addWidget(makeButton<QPushButton>(IDC_POST, QStringLiteral("Post a message"), pPanel), 1,
+                     1);
+    pGrid->addWidget(makeButton<QPushButton>(IDC_CLEAR, QStringLiteral("Clear"), pPanel), 1, 2);
+    pGrid->addWidget(
+        makeButton<QPushButton>(IDC_SETTINGS, QStringLiteral("Plot settings..."), pPanel), 2, 1, 1,
+        2);
+    pGrid->addWidget(MakeStatusLine(), 3, 0, 1, 3);
     pGrid->setColumnStretch(0, 1);
 
     CString_E strReady;
     strReady.LoadString(IDS_READY);
     SetDlgItemText(IDC_STATUS, strReady);
+}
+
+QWidget* CTrackerPanel::MakeStatusLine()
+{
+    auto* const pLine = new QStatusBar(GetSafeHwnd());
+    pLine->setSizeGripEnabled(false);
+    auto* const pStatus = new QLabel(pLine);
+    pStatus->setObjectName(ToStringId(IDC_STATUS));
+    pLine->addWidget(pStatus, 1);
+    for (const int nID : nStatusIds) {
+        auto* const pButton = makeButton<QToolButton>(nID, QString(), pLine);
+        pButton->setAutoRaise(true);
+        pButton->setCheckable(nID == ID_VIEW_GRID || nID == ID_VIEW_LABELS);
+        pButton->setAttribute(Qt::WA_TransparentForMouseEvents, nID >= ID_INDICATOR_ITEMS);
+        pLine->addPermanentWidget(pButton);
+    }
+    SetDlgItemText(ID_VIEW_LABELS, L"Labels");
+    SetDlgItemText(ID_VIEW_FIT, L"Fit");
+    return pLine;
 }
 
 LRESULT CTrackerPanel::OnReport(WPARAM, LPARAM lParam)
@@ -137,6 +184,73 @@ void CTrackerPanel::OnClear()
         pReports->clear();
 }
 
+void CTrackerPanel::OnSettings()
+{
+    CSettingsDialog dlg(this);
+    dlg.m_look = m_settings.Look();
+    // When it is on the screen.
+    QTimer::singleShot(0, &dlg, [&] {
+        for (const int nID : {IDC_TITLE, IDC_PAPER, IDC_SPACING, IDC_GRID, IDC_LABELS, IDC_FINE,
+                              IDC_DEFAULTS, IDOK, IDCANCEL})
+            WriteGeometry(CString_E(ToStringId(static_cast<UINT>(nID))),
+                          dlg.GetDlgItem(nID, nullptr));
+        WriteReport(L"settings shown");
+    });
+    const bool bAccepted = dlg.DoModal() == IDOK;
+    WriteReport(bAccepted ? L"settings accepted" : L"settings cancelled");
+    if (bAccepted)
+        SetLook(dlg.m_look);
+    ReportLook();
+}
+
+void CTrackerPanel::SetLook(const PlotLook& look)
+{
+    m_settings.SetLook(look);
+    m_wndPlot.SetLook(look);
+}
+
+void CTrackerPanel::OnViewGrid()
+{
+    PlotLook look = m_wndPlot.Look();
+    look.bGrid = !look.bGrid;
+    SetLook(look);
+}
+
+void CTrackerPanel::OnViewLabels()
+{
+    PlotLook look = m_wndPlot.Look();
+    look.bLabels = !look.bLabels;
+    SetLook(look);
+}
+
+void CTrackerPanel::OnViewFit() { m_wndPlot.Fit(); }
+
+void CTrackerPanel::OnUpdateViewGrid(CCmdUI_E* pCmdUI)
+{
+    pCmdUI->SetCheck(m_wndPlot.Look().bGrid);
+    pCmdUI->SetText(formatted(IDS_GRID, m_wndPlot.Look().nSpacing));
+}
+
+void CTrackerPanel::OnUpdateViewLabels(CCmdUI_E* pCmdUI)
+{
+    pCmdUI->SetCheck(m_wndPlot.Look().bLabels);
+}
+
+void CTrackerPanel::OnUpdateViewFit(CCmdUI_E* pCmdUI)
+{
+    pCmdUI->Enable(m_wndPlot.ZoomPercent() != 100);
+}
+
+void CTrackerPanel::OnUpdateItems(CCmdUI_E* pCmdUI)
+{
+    pCmdUI->SetText(formatted(IDS_ITEMS, m_wndPlot.ItemCount()));
+}
+
+void CTrackerPanel::OnUpdateZoom(CCmdUI_E* pCmdUI)
+{
+    pCmdUI->SetText(formatted(IDS_ZOOM, m_wndPlot.ZoomPercent()));
+}
+
 void CTrackerPanel::OnDestroy()
 {
     m_settings.SavePlace();
@@ -153,12 +267,48 @@ void CTrackerPanel::ReportReady()
     WriteGeometry(L"plot", m_wndPlot);
     WriteGeometry(L"tracker", m_wndTracker);
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
+    WriteGeometry(L"settings", GetDlgItem(IDC_SETTINGS, nullptr));
+    WriteGeometry(L"grid", GetDlgItem(ID_VIEW_GRID, nullptr));
+    WriteGeometry(L"labels", GetDlgItem(ID_VIEW_LABELS, nullptr));
+    WriteGeometry(L"fit", GetDlgItem(ID_VIEW_FIT, nullptr));
     CString_E strRun;
     strRun.Format(L"run %d, tracker on %s", m_settings.Number(L"Runs"),
                   ProfileText(L"Tracker", L"Background", L"white").GetString());
     WriteReport(strRun);
     m_wndPlot.ReportZoom();
+    ReportLook();
     WriteReport(L"ready");
+}
+
+// As the registry has it.
+void CTrackerPanel::ReportLook() const
+{
+    const PlotLook look = m_settings.Look();
+    CString_E strLine;
+    strLine.Format(L"stored: title '%s', paper %d, grid %d of %d mm, labels %d, lines %d",
+                   look.strTitle.GetString(), look.nPaper, look.bGrid, look.nSpacing, look.bLabels,
+                   look.nLines);
+    WriteReport(strLine);
+}
+
+// As the buttons of the status line show it.
+void CTrackerPanel::ReportStatus()
+{
+    CString_E strStatus;
+    for (const int nID : nStatusIds) {
+        CString_E strText;
+        GetDlgItemText(nID, strText);
+        strStatus += (strStatus.IsEmpty() ? L"status: " : L", ") + strText;
+        if (IsDlgButtonChecked(nID) == BST_CHECKED)
+            strStatus += L" on";
+        const QWidget* const pButton = GetDlgItem(nID, nullptr);
+        if (pButton && !pButton->isEnabled())
+            strStatus += L" off";
+    }
+    if (strStatus == m_strStatus)
+        return;
+    m_strStatus = strStatus;
+    WriteReport(strStatus);
 }
 
 void CTrackerPanel::WriteGeometry(const wchar_t* lpszName, QWidget* pWidget) const

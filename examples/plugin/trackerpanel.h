@@ -21,7 +21,8 @@ private:
     CTrackerPanel& m_panel;
 };
 
-/// The plug-in's window: the tracker, the list of what it reported, and two buttons.
+/// The plug-in's window: a plot, the tracker, the list of what they reported, some buttons and a
+/// status line that follows the plot.
 class CTrackerPanel : public CWnd_E
 {
     Q_OBJECT
@@ -39,21 +40,33 @@ class CTrackerPanel : public CWnd_E
     void OnDestroy();
     LRESULT OnReport(WPARAM wParam, LPARAM lParam);
 
-public Q_SLOTS:
     void OnPost();
     void OnClear();
+    void OnSettings();
+    void OnViewGrid();
+    void OnViewLabels();
+    void OnViewFit();
+    void OnUpdateViewGrid(CCmdUI_E* pCmdUI);
+    void OnUpdateViewLabels(CCmdUI_E* pCmdUI);
+    void OnUpdateViewFit(CCmdUI_E* pCmdUI);
+    void OnUpdateItems(CCmdUI_E* pCmdUI);
+    void OnUpdateZoom(CCmdUI_E* pCmdUI);
 
-protected:
-    void OnMessageMap() override;
+    DECLARE_MESSAGE_MAP_E()
 
 private:
+    QWidget* MakeStatusLine();
+    void SetLook(const PlotLook& look);
     void WriteReport(const CString_E& strLine) const;
     void WriteGeometry(const wchar_t* lpszName, QWidget* pWidget) const;
     void ReportReady();
+    void ReportLook() const;
+    void ReportStatus();
 
     CDrawingWnd m_wndDrawing;
     CPlotWnd m_wndPlot;
     CTrackerWnd m_wndTracker;
     CTrackerSettings m_settings;
     CString_E m_strReportPath;
+    CString_E m_strStatus; // as reported last
 };

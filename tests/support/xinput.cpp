@@ -9,8 +9,10 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
+#include <vector>
 
 namespace vxtest {
 namespace {
@@ -20,6 +22,35 @@ Display* display()
     static const std::unique_ptr<Display, int (*)(Display*)> connection(XOpenDisplay(nullptr),
                                                                         &XCloseDisplay);
     return connection.get();
+}
+
+// Windows of others may be gone before a request for them arrives.
+class IgnoreErrors
+{
+public:
+    IgnoreErrors() : m_previous(XSetErrorHandler([](Display*, XErrorEvent*) { return 0; })) {}
+    ~IgnoreErrors()
+    {
+        XSync(display(), False);
+        XSetErrorHandler(m_previous);
+    }
+    Q_DISABLE_COPY_MOVE(IgnoreErrors)
+
+private:
+    XErrorHandler m_previous;
+};
+
+// From the lowest to the one over all others.
+std::vector<Window> topLevelWindows()
+{
+    Window root = 0, parent = 0;
+    Window* children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display(), DefaultRootWindow(display()), &root, &parent, &children, &count))
+        return {};
+    std::vector<Window> windows(children, children + count);
+    XFree(children);
+    return windows;
 }
 
 } // namespace
@@ -71,22 +102,34 @@ void typeKey(unsigned long keysym)
 
 unsigned long findWindow(const char* title)
 {
-    Window root = 0, parent = 0;
-    Window* children = nullptr;
-    unsigned count = 0;
-    unsigned long found = 0;
-    if (!XQueryTree(display(), DefaultRootWindow(display()), &root, &parent, &children, &count))
-        return 0;
-    for (unsigned i = 0; i < count && !found; ++i) {
+    const IgnoreErrors ignore;
+    for (const Window window : topLevelWindows()) {
         char* name = nullptr;
-        if (XFetchName(display(), children[i], &name) && name) {
-            if (std::strcmp(name, title) == 0)
-                found = children[i];
+        const bool named = XFetchName(display(), window, &name) && name;
+        const bool found = named && std::strcmp(name, title) == 0;
+        if (named)
             XFree(name);
-        }
+        if (found)
+            return window;
     }
-    XFree(children);
-    return found;
+    return 0;
+}
+
+unsigned long topWindow()
+{
+    const IgnoreErrors ignore;
+    const std::vector<Window> windows = topLevelWindows();
+    const auto top = std::find_if(windows.rbegin(), windows.rend(), [](Window window) {
+        XWindowAttributes state;
+        return XGetWindowAttributes(display(), window, &state) && state.map_state == IsViewable;
+    });
+    return top != windows.rend() ? *top : 0;
+}
+
+void focusWindow(unsigned long window)
+{
+    const IgnoreErrors ignore;
+    XSetInputFocus(display(), window, RevertToPointerRoot, CurrentTime);
 }
 
 void resizeWindow(unsigned long window, QSize size)
@@ -117,9 +160,9 @@ QImage screenshot()
                                    static_cast<unsigned>(screen.height), AllPlanes, ZPixmap);
     if (!grab)
         return {};
-    const QImage copy = QImage(reinterpret_cast<const uchar*>(grab->data), screen.width,
-                               screen.height, grab->bytes_per_line, QImage::Format_RGB32)
-                            .copy();
+    QImage copy = QImage(reinterpret_cast<const uchar*>(grab->data), screen.width, screen.height,
+                         grab->bytes_per_line, QImage::Format_RGB32)
+                      .copy();
     XDestroyImage(grab);
     return copy;
 }

@@ -29,6 +29,10 @@ void typeKey(unsigned long keysym);
 
 /// The top-level X window with this title; 0 when there is none.
 unsigned long findWindow(const char* title);
+/// The visible top-level X window that lies over all others; 0 when there is none.
+unsigned long topWindow();
+/// Gives @p window the keyboard.
+void focusWindow(unsigned long window);
 void resizeWindow(unsigned long window, QSize size);
 /// Asks @p window to close.
 void closeWindow(unsigned long window);

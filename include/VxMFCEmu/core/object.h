@@ -98,11 +98,16 @@ public Q_SLOTS:
     /// Forgets an implementation object that somebody else is destroying.
     void OnImpDestroy();
 
+protected:
+    /// Detach() for destructors: the connections end with the object.
+    void DetachAtEnd();
+
 private:
     // A window's handle is this pointer.
     friend VXMFC_EXPORT CHandleMap_E* afxMapHWND_E(BOOL bCreate);
     static constexpr UINT ExternalFlag = 1;
     static constexpr UINT TemporaryFlag = 2;
+    static constexpr UINT EndingFlag = 4;
 
     void SetObjectFlag(UINT flag, bool on);
 

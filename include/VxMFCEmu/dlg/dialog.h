@@ -22,6 +22,8 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
+#include <QtWidgets/QDialog>
+
 namespace vx::detail {
 class ModalLoop;
 } // namespace vx::detail

@@ -12,6 +12,7 @@
 #include <QtCore/QPointer>
 
 #include <map>
+#include <vector>
 
 class QTimer;
 
@@ -62,7 +63,7 @@ private:
 
     QList<HOOKPROC> m_hooks;
     QList<VxWinMsgFn> m_msgFns;
-    QList<QPointer<QObject>> m_tempObjects;
+    std::vector<QPointer<QObject>> m_tempObjects;
     std::map<int, QTimer*> m_timers; // by id
     QPointer<QObject> m_pFiltered;   // the application object while it is filtered
 };

@@ -3,7 +3,8 @@
 ///
 /// A style is found by a case-sensitive search in the text, so that a name is also found inside a
 /// longer one: "WS_MINIMIZEBOX" holds "WS_MINIMIZE" and minimizes the window too. Qt hides a window
-/// whose flags change; show it afterwards.
+/// whose flags change; show it afterwards. WS_CHILD makes a Qt::SubWindow, which the Tab key does
+/// not leave: take it out of the styles of single controls.
 ///
 /// Threads: GUI thread only.
 #pragma once
