@@ -12,6 +12,14 @@ public:
     void OnApply() { onApply(); }
     void OnZoom() { ++zooms; }
     void OnLate() { ++lates; }
+    void OnPick(UINT nID) { picked.push_back(nID); }
+    void OnUpdatePick(CCmdUI_E*)
+    {
+        ++depth;
+        maxDepth = std::max(maxDepth, depth);
+        onUpdatePick();
+        --depth;
+    }
     void OnUpdateZoom(CCmdUI_E* pCmdUI)
     {
         pCmdUI->Enable(enabled);
@@ -20,7 +28,9 @@ public:
 
     int oks = 0, zooms = 0, lates = 0, updates = 0;
     BOOL enabled = TRUE;
-    std::function<void()> onApply = [] {};
+    int depth = 0, maxDepth = 0;
+    std::vector<UINT> picked;
+    std::function<void()> onApply = [] {}, onUpdatePick = [] {};
     DECLARE_MESSAGE_MAP_E()
 };
 
@@ -32,6 +42,8 @@ ON_COMMAND_E(1021, &CommandDlg::OnZoom)
 ON_UPDATE_COMMAND_UI_E(1021, &CommandDlg::OnUpdateZoom)
 ON_COMMAND_E(1022, &CommandDlg::OnLate)
 ON_COMMAND_E(4711, &CommandDlg::OnLate)
+ON_COMMAND_RANGE_E(1023, 1030, &CommandDlg::OnPick)
+ON_UPDATE_COMMAND_UI_RANGE_E(1023, 1030, &CommandDlg::OnUpdatePick)
 END_MESSAGE_MAP_E()
 
 /// Waits for @p done in an event loop that goes idle.
@@ -109,6 +121,60 @@ TEST_F(CommandTest, WhatComesLaterIsFound)
         }));
         delete pLate;
     }
+}
+
+// What menus and tool buttons of the window show may belong elsewhere.
+TEST_F(CommandTest, ActionsOfOthers)
+{
+    QMenu menu, inner;
+    menu.addMenu(&inner);
+    QToolButton tool(&m_widget);
+    QAction action;
+    QMenuBar bar(&m_widget);
+    bar.addMenu(&menu);
+    inner.addAction(&action);
+    action.setObjectName("first"_q);
+    QAction second;
+    second.setObjectName("second"_q);
+    tool.setDefaultAction(&second);
+    EXPECT_TRUE(waitIdle([&] {
+        action.trigger();
+        tool.click();
+        return m_window.picked.size() >= 2;
+    }));
+    EXPECT_EQ(m_window.picked, (std::vector<UINT>{1023, 1024}));
+}
+
+TEST_F(CommandTest, UpdatesDoNotNest)
+{
+    add<QAction>("first");
+    int calls = 0;
+    m_window.onUpdatePick = [&calls] {
+        ++calls;
+        waitIdle([] { return true; });
+    };
+    EXPECT_TRUE(waitIdle([&] { return calls >= 2; }));
+    EXPECT_EQ(m_window.maxDepth, 1);
+}
+
+TEST_F(CommandTest, AnUpdateThatThrowsIsReportedOnce)
+{
+    add<QAction>("first");
+    int boxes = 0, calls = 0;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&boxes] {
+        QWidget* const pBox = QApplication::activeModalWidget();
+        boxes += pBox && pBox->isVisible() && pBox->close();
+    });
+    poll.start(5);
+    m_window.onUpdatePick = [&calls] {
+        ++calls;
+        AfxThrowMemoryException_E();
+    };
+    const int updates = m_window.updates;
+    EXPECT_TRUE(waitIdle([&] { return boxes > 0 && m_window.updates > updates + 20; }));
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(CommandTest, HandlersMayThrowAndDelete)

@@ -317,6 +317,52 @@ TEST(Ddv, LimitsTheControl)
     }
 }
 
+TEST(Ddv, LoadsWithinTheNewLimits)
+{
+    Form form;
+    CDataExchange_E dx(&form.window, FALSE);
+    auto* const pText = form.widget.findChild<QLineEdit*>("text"_q);
+    pText->setMaxLength(3);
+    CString_E text = L"\x1F600\x1F600\x1F600"; // two UTF-16 units each
+    DDV_MaxChars(&dx, text, 2);                // the control is not yet known
+    dx.PrepareCtrl(pText);
+    DDV_MaxChars(&dx, text, 2);
+    DDX_Text(&dx, pText, text);
+    EXPECT_EQ(pText->text(), "\U0001F600\U0001F600"_q) << "no character is cut through";
+
+    auto* const pEdit = form.widget.findChild<QDateTimeEdit*>("dateTime"_q);
+    auto* const pCalendar = form.widget.findChild<QCalendarWidget*>("calendar"_q);
+    const QDateTime from(QDate(2026, 1, 1), QTime()), to(QDate(2027, 12, 31), QTime());
+    const QDate first = from.date(), last = to.date();
+    pEdit->setDateTimeRange(from.addYears(-2), from.addDays(-1));
+    pCalendar->setDateRange(first.addYears(-2), first.addDays(-1));
+    QDateTime moment(QDate(2026, 6, 1), QTime(12, 0));
+    QDate day = moment.date();
+    DDX_DateTimeCtrl(&dx, pEdit, moment);
+    DDV_MinMaxDateTime(&dx, moment, &from, &to);
+    DDV_MinMaxDateTime(&dx, moment, &to, &from); // an empty range changes nothing
+    EXPECT_EQ(pEdit->dateTime(), moment);
+    EXPECT_EQ(pEdit->minimumDateTime(), from);
+    DDX_MonthCalCtrl(&dx, pCalendar, day);
+    DDV_MinMaxMonth(&dx, day, &first, &last);
+    DDV_MinMaxMonth(&dx, day, &last, &first);
+    EXPECT_EQ(pCalendar->selectedDate(), day);
+    EXPECT_EQ(pCalendar->maximumDate(), last);
+}
+
+TEST(DataExchange, AMessageThatWasDroppedDoesNotHoldUpTheNext)
+{
+    Form form;
+    const auto fail = [](CDataExchange_E* pDX) {
+        pDX->PrepareCtrl(pDX->GetDlgItem("text"));
+        pDX->Fail(L"message");
+    };
+    CDataExchange_E dx(&form.window, TRUE);
+    EXPECT_THROW(fail(&dx), QString);
+    QCoreApplication::removePostedEvents(&form.widget, VxMsgBoxEvent::EventType);
+    EXPECT_EQ(form.failure(fail), "message"_q);
+}
+
 TEST(DataExchange, FailWithoutAControlOrAMessageShowsNothing)
 {
     Form form;

@@ -255,6 +255,7 @@ TEST(Dialog, EmbeddedDialogLeavesEscapeToItsParent)
     VXTEST_NEEDS_X11();
     NotingDlg outer(kSettings);
     NotingDlg page;
+    int clicks = 0;
     const int result = runModal(outer, [&] {
         ASSERT_TRUE(page.Create(L"none", &outer));
         auto* const pEdit = new QLineEdit(page);
@@ -266,11 +267,19 @@ TEST(Dialog, EmbeddedDialogLeavesEscapeToItsParent)
             EXPECT_TRUE(page.IsWindowVisible());
             outer.EndDialog(5);
         };
+        auto* const pDefault = new QPushButton(page);
+        pDefault->setDefault(true);
+        pDefault->show();
+        QObject::connect(pDefault, &QPushButton::clicked, pDefault, [&] { ++clicks; });
+        outer.onOK = [&] { ++clicks; };
+        vxtest::typeKey(XK_Return);
+        ASSERT_TRUE(vxtest::waitUntil([&] { return clicks > 0; }));
         vxtest::typeKey(XK_Escape);
     });
     EXPECT_EQ(result, 5);
+    EXPECT_EQ(clicks, 1) << "one default button takes Enter";
     EXPECT_EQ(page.notes, "init gone");
-    EXPECT_EQ(outer.notes, "init cancel gone");
+    EXPECT_EQ(outer.notes.substr(outer.notes.size() - 11), "cancel gone");
 }
 
 TEST(Dialog, SurvivesDeletionWhileItRuns)
@@ -299,6 +308,12 @@ TEST(Dialog, RefusedInitialisation)
         {"MFC exception", [] { return AfxThrowUserException_E(), TRUE; }},
         {"exception", []() -> BOOL { throw std::runtime_error("init"); }},
     };
+    auto* const pGone = new NotingDlg(kSettings);
+    pGone->onInit = [pGone] {
+        const auto keep = std::move(pGone->onInit); // what runs outlives its dialog
+        return delete pGone, TRUE;
+    };
+    EXPECT_FALSE(pGone->Create(static_cast<QWidget*>(nullptr)));
     for (const auto& [name, onInit] : rows) {
         SCOPED_TRACE(name);
         NotingDlg dialog(kSettings);
@@ -337,29 +352,60 @@ TEST(Dialog, ExchangeThatThrowsIsAFailure)
     EXPECT_TRUE(plain.UpdateData(TRUE));
 }
 
+std::function<void()> g_onTimer;
+
 TEST(Dialog, ExceptionsOfHandlers)
 {
-    for (const bool byMessage : {false, true}) {
+    using Raise = std::function<void(NotingDlg&, const std::function<void()>&)>;
+    const Row<const char*, Raise> rows[] = {
+        {"slot", [](NotingDlg& d, auto& handler) { d.onOK = handler, d.accept(); }},
+        {"message", [](NotingDlg& d, auto& handler) { d.onUser = handler, d.SendMessage(WM_APP); }},
+        {"timer",
+         [](NotingDlg& d, auto& handler) {
+             g_onTimer = handler;
+             d.SetTimer(77, 1, [](QWidget* w, UINT, UINT_PTR id, DWORD) {
+                 KillTimer_E(w, id);
+                 std::exchange(g_onTimer, nullptr)();
+             });
+             EXPECT_TRUE(vxtest::waitUntil([] { return !g_onTimer; }));
+         }},
+    };
+    for (const auto& [name, raise] : rows) {
+        SCOPED_TRACE(name);
         NotingDlg dialog(kSettings);
-        const auto handle = [&](std::function<void()> handler) {
-            dialog.onOK = dialog.onUser = std::move(handler);
-            byMessage ? void(dialog.SendMessage(WM_APP)) : dialog.accept();
-        };
         EXPECT_EQ(runModal(dialog,
                            [&] {
-                               withBox([&] { handle([] { AfxThrowMemoryException_E(); }); },
+                               withBox([&] { raise(dialog, [] { AfxThrowMemoryException_E(); }); },
                                        [](QMessageBox& box) { box.done(0); });
                                EXPECT_TRUE(dialog.IsWindowVisible()) << "reported, not ended";
                                dialog.EndDialog(7);
                            }),
                   7);
-        EXPECT_THROW(runModal(dialog, [&] { handle([] { throw std::runtime_error("handler"); }); }),
-                     std::runtime_error);
+        EXPECT_THROW(
+            runModal(dialog, [&] { raise(dialog, [] { throw std::runtime_error("handler"); }); }),
+            std::runtime_error);
         EXPECT_FALSE(dialog.GetSafeHwnd());
         EXPECT_FALSE(QApplication::overrideCursor());
         dialog.onOK = [] { throw 1; };
         EXPECT_THROW(dialog.accept(), int) << "outside of DoModal nothing holds it";
     }
+}
+
+// Thrown in a slot that the library does not call, it comes through the event loop.
+TEST(Dialog, AnExceptionTearsItOutOfItsLoop)
+{
+    NotingDlg dialog(kSettings);
+    QPointer<QWidget> pTorn;
+    EXPECT_THROW(runModal(dialog,
+                          [&] {
+                              pTorn = dialog.GetSafeHwnd();
+                              throw 1;
+                          }),
+                 int);
+    EXPECT_FALSE(dialog.GetSafeHwnd());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_TRUE(vxtest::waitUntil([&] { return !pTorn; })) << "deleted without its loop";
+    EXPECT_EQ(runModal(dialog, [&] { dialog.EndDialog(7); }), 7);
 }
 
 TEST(Dialog, FormsOfThePlugIn)
@@ -374,6 +420,7 @@ TEST(Dialog, FormsOfThePlugIn)
     ASSERT_TRUE(panel.Create(L"panel"));
     EXPECT_EQ(panel.GetSafeHwnd()->windowTitle(), "A panel"_q);
     EXPECT_TRUE(qobject_cast<VxCUILineEdit*>(panel.GetChildWidget("text")));
+    EXPECT_FALSE(panel.GetChildWidget("text")->isEnabled()) << "its style";
 
     CDialog_E broken;
     EXPECT_FALSE(broken.Create(101U));

@@ -179,8 +179,13 @@ TEST(FromHandleTest, IdleTimeClearsThePoolUnlessAHostCommandRuns)
     idleTwice();
     EXPECT_TRUE(window);
     running = false;
+    DisconnectIdleSlot(&widget); // which has no such slot: its other connection stays
     idleTwice();
     EXPECT_FALSE(window);
+    frame.setProperty("IsTolmCmdActive", true); // no address
+    const QPointer<CWnd_E> next(CWnd_E::FromHandle(&widget));
+    idleTwice();
+    EXPECT_FALSE(next);
 }
 
 TEST(HandleMapTest, TheWindowMapMakesWindowsOverAHandle)

@@ -106,6 +106,16 @@ TEST_F(TimerTest, EndsWithItsWindow)
     EXPECT_FALSE(KillTimer_E(nullptr, 1) || KillTimer_E(nullptr, 2));
 }
 
+// Intended: the search for a foreign timer gives -1, which is an id like any other.
+TEST_F(TimerTest, AForeignTimerEndsTheOneWithIdMinusOne)
+{
+    SetTimer_E(nullptr, 0xFFFFFFFF, 1000, nullptr);
+    SetTimer_E(widget, 1, 1000, nullptr);
+    new QTimer(widget);
+    delete widget;
+    EXPECT_FALSE(KillTimer_E(nullptr, 0xFFFFFFFF));
+}
+
 TEST_F(TimerTest, AThousandAtOnce)
 {
     for (UINT_PTR id = 1; id <= 1000; ++id)
