@@ -82,8 +82,8 @@ void runSteps(DWORD style, const std::vector<Step>& steps)
             EXPECT_EQ(SendMessage_E(pWidget, step.message, step.wParam, step.lParam), step.result)
                 << "step " << &step - steps.data() << ", message " << step.message;
     };
-    forMadeAndFound<Control, Widgets...>(
-        style, [&run](Control& control) { run(control.GetSafeHwnd()); });
+    forMadeAndFound<Control, Widgets...>(style,
+                                         [&run](Control& control) { run(control.GetSafeHwnd()); });
     const auto runPlain = [&](auto* pWidget, bool bound) {
         SCOPED_TRACE(bound ? "bound to a plain window" : "not bound");
         CWnd_E plain;

@@ -48,91 +48,93 @@ TEST(SpinButton, WholeNumbersByMessages)
 
 TEST(SpinButton, DecimalNumbers)
 {
-    forMadeAndFound<CSpinButtonCtrl_E, QDoubleSpinBox, VxCUIDoubleSpinBox>(0x200, [](auto& spin) {
-        auto* const pBox = qobject_cast<QDoubleSpinBox*>(spin.GetSafeHwnd());
-        ASSERT_TRUE(pBox);
-        pBox->setRange(-1.5, 9.9);
-        int lower = 0, upper = 0;
-        spin.GetRange32(lower, upper);
-        EXPECT_EQ(std::tie(lower, upper), std::make_tuple(-1, 9)) << "cut towards zero";
-        pBox->setValue(2.9);
-        EXPECT_EQ(spin.GetPos(), 2);
-        EXPECT_EQ(spin.SetPos(-2), -1);
-        EXPECT_EQ(spin.SetPos(3), 2);
-        EXPECT_EQ(pBox->value(), 3.0);
-        const UDACCEL accel{0, 4};
-        EXPECT_TRUE(spin.SetAccel(1, &accel));
-        EXPECT_TRUE(pBox->isAccelerated());
-        EXPECT_EQ(pBox->singleStep(), 1.0) << "for whole numbers only";
-        EXPECT_EQ(spin.SetBase(16), -1);
-        EXPECT_EQ(spin.GetBase(), -1);
-        spin.SetDecimals(3);
-        EXPECT_EQ(spin.GetDecimals(), 3);
-        spin.SetWindowText(L"2.125");
-        EXPECT_EQ(pBox->value(), 2.125);
-        CString_E text;
-        spin.GetWindowText(text);
-        EXPECT_EQ(text.Compare(L"2.125"), 0);
-        spin.SetRange32(INT_MIN, INT_MAX);
-        spin.SetWindowText(L"no number");
-        EXPECT_EQ(pBox->value(), 0.0);
-    });
+    forMadeAndFound<CSpinButtonCtrl_E, QDoubleSpinBox, VxCUIDoubleSpinBox>(
+        0x200, [](CSpinButtonCtrl_E& spin) {
+            auto* const pBox = qobject_cast<QDoubleSpinBox*>(spin.GetSafeHwnd());
+            ASSERT_TRUE(pBox);
+            pBox->setRange(-1.5, 9.9);
+            int lower = 0, upper = 0;
+            spin.GetRange32(lower, upper);
+            EXPECT_EQ(std::tie(lower, upper), std::make_tuple(-1, 9)) << "cut towards zero";
+            pBox->setValue(2.9);
+            EXPECT_EQ(spin.GetPos(), 2);
+            EXPECT_EQ(spin.SetPos(-2), -1);
+            EXPECT_EQ(spin.SetPos(3), 2);
+            EXPECT_EQ(pBox->value(), 3.0);
+            const UDACCEL accel{0, 4};
+            EXPECT_TRUE(spin.SetAccel(1, &accel));
+            EXPECT_TRUE(pBox->isAccelerated());
+            EXPECT_EQ(pBox->singleStep(), 1.0) << "for whole numbers only";
+            EXPECT_EQ(spin.SetBase(16), -1);
+            EXPECT_EQ(spin.GetBase(), -1);
+            spin.SetDecimals(3);
+            EXPECT_EQ(spin.GetDecimals(), 3);
+            spin.SetWindowText(L"2.125");
+            EXPECT_EQ(pBox->value(), 2.125);
+            CString_E text;
+            spin.GetWindowText(text);
+            EXPECT_EQ(text.Compare(L"2.125"), 0);
+            spin.SetRange32(INT_MIN, INT_MAX);
+            spin.SetWindowText(L"no number");
+            EXPECT_EQ(pBox->value(), 0.0);
+        });
 }
 
 TEST(SpinButton, TextSelectionAndBuddy)
 {
-    forMadeAndFound<CSpinButtonCtrl_E, QSpinBox, VxCUISpinBox>(ES_NOHIDESEL, [](auto& spin) {
-        auto* const pBox = qobject_cast<QSpinBox*>(spin.GetSafeHwnd());
-        pBox->setRange(0, 10000);
-        pBox->setPrefix("No. "_q);
-        spin.SetWindowText(L"1234");
-        CString_E text;
-        spin.GetWindowText(text);
-        EXPECT_EQ(text.Compare(L"1234"), 0) << "the value alone";
-        spin.SetWindowText(L"1e3");
-        EXPECT_EQ(pBox->value(), 0);
-        spin.SetWindowText(nullptr);
-        EXPECT_EQ(pBox->value(), 0);
-        EXPECT_EQ(spin.GetDecimals(), 0);
+    forMadeAndFound<CSpinButtonCtrl_E, QSpinBox, VxCUISpinBox>(
+        ES_NOHIDESEL, [](CSpinButtonCtrl_E& spin) {
+            auto* const pBox = qobject_cast<QSpinBox*>(spin.GetSafeHwnd());
+            pBox->setRange(0, 10000);
+            pBox->setPrefix("No. "_q);
+            spin.SetWindowText(L"1234");
+            CString_E text;
+            spin.GetWindowText(text);
+            EXPECT_EQ(text.Compare(L"1234"), 0) << "the value alone";
+            spin.SetWindowText(L"1e3");
+            EXPECT_EQ(pBox->value(), 0);
+            spin.SetWindowText(nullptr);
+            EXPECT_EQ(pBox->value(), 0);
+            EXPECT_EQ(spin.GetDecimals(), 0);
 
-        pBox->setPrefix({});
-        pBox->setValue(1234);
-        const bool made = !spin.IsTemporary();
-        const Row<int, int, int, int> rows[] = {
-            {1, 3, 1, 3},   {0, -1, 0, 4},      {-1, 2, 4, 4}, {2, 2, 2, 2},
-            {3, 1, 1, 3},   {0, INT_MAX, 0, 4}, {-2, 3, 0, 4}, {INT_MAX, 0, 0, 4},
-            {4, INT_MIN, 0, 4},
-        };
-        forRows(rows, [&](int from, int to, int start, int end) {
-            spin.SetSel(from, to);
-            int gotStart = -1, gotEnd = -1;
-            spin.GetSel(gotStart, gotEnd);
-            if (made)
-                EXPECT_EQ(std::tie(gotStart, gotEnd), std::tie(start, end));
-            else
-                EXPECT_EQ(gotStart, gotEnd) << "nothing without the focus or ES_NOHIDESEL";
+            pBox->setPrefix({});
+            pBox->setValue(1234);
+            const bool made = !spin.IsTemporary();
+            const Row<int, int, int, int> rows[] = {
+                {1, 3, 1, 3},  {0, -1, 0, 4},      {-1, 2, 4, 4},
+                {2, 2, 2, 2},  {3, 1, 1, 3},       {0, INT_MAX, 0, 4},
+                {-2, 3, 0, 4}, {INT_MAX, 0, 0, 4}, {4, INT_MIN, 0, 4},
+            };
+            forRows(rows, [&](int from, int to, int start, int end) {
+                spin.SetSel(from, to);
+                int gotStart = -1, gotEnd = -1;
+                spin.GetSel(gotStart, gotEnd);
+                if (made)
+                    EXPECT_EQ(std::tie(gotStart, gotEnd), std::tie(start, end));
+                else
+                    EXPECT_EQ(gotStart, gotEnd) << "nothing without the focus or ES_NOHIDESEL";
+            });
+
+            QWidget home;
+            const QPointer<QLineEdit> pBuddy = new QLineEdit(&home);
+            const QPointer<QLineEdit> pOwn = spin.GetBuddy();
+            spin.SetBuddy(nullptr);
+            EXPECT_EQ(spin.GetBuddy(), pOwn);
+            EXPECT_EQ(spin.SendMessage(UDM_SETBUDDY, WPARAM(at(pBuddy.data()))), 0);
+            EXPECT_EQ(spin.SendMessage(UDM_GETBUDDY), at(pBuddy.data()));
+            EXPECT_EQ(pBuddy->parentWidget(), pBox);
+            EXPECT_TRUE(pOwn.isNull());
+            spin.SetPos(77);
+            EXPECT_EQ(pBuddy->text(), "77"_q);
+            QSpinBox other;
+            spin.SetBuddy(other.findChild<QLineEdit*>());
+            EXPECT_EQ(spin.GetBuddy(), pBuddy);
         });
-
-        QWidget home;
-        const QPointer<QLineEdit> pBuddy = new QLineEdit(&home);
-        const QPointer<QLineEdit> pOwn = spin.GetBuddy();
-        spin.SetBuddy(nullptr);
-        EXPECT_EQ(spin.GetBuddy(), pOwn);
-        EXPECT_EQ(spin.SendMessage(UDM_SETBUDDY, WPARAM(at(pBuddy.data()))), 0);
-        EXPECT_EQ(spin.SendMessage(UDM_GETBUDDY), at(pBuddy.data()));
-        EXPECT_EQ(pBuddy->parentWidget(), pBox);
-        EXPECT_TRUE(pOwn.isNull());
-        spin.SetPos(77);
-        EXPECT_EQ(pBuddy->text(), "77"_q);
-        QSpinBox other;
-        spin.SetBuddy(other.findChild<QLineEdit*>());
-        EXPECT_EQ(spin.GetBuddy(), pBuddy);
-    });
 }
 
 TEST(SpinButton, WithoutAUsableWidget)
 {
-    forUnusable<CSpinButtonCtrl_E>([](auto& spin) {
+    forUnusable<CSpinButtonCtrl_E>([](CSpinButtonCtrl_E& spin) {
         int first = 1, second = 2;
         BOOL error = FALSE;
         QLineEdit edit;
