@@ -79,6 +79,24 @@ QString formatOfStyle(const QLocale& locale, DWORD dwStyle)
                                                           : QLocale::ShortFormat);
 }
 
+/// Shows another format, which has to show something of the date or the time. The widget would
+/// forget the time for a format of dates, and every date but one for a format of times.
+BOOL setFormat(QDateTimeEdit& edit, const QString& strFormat)
+{
+    const QSignalBlocker quiet(edit);
+    const QDateTime shown = edit.dateTime();
+    const QDate first = edit.minimumDate();
+    const QDate last = edit.maximumDate();
+    const QString strPrevious = edit.displayFormat();
+    edit.setDisplayFormat(strFormat);
+    const bool bDone = edit.displayedSections() != QDateTimeEdit::NoSection;
+    if (!bDone)
+        edit.setDisplayFormat(strPrevious);
+    edit.setDateTime(shown);
+    edit.setDateRange(first, last);
+    return bDone;
+}
+
 LRESULT setSystemTime(CDateTimeCtrl_E& control, WPARAM wParam, LPARAM lParam)
 {
     return wParam == GDT_VALID ? control.SetTime(pointerIn<_SYSTEMTIME>(lParam)) : FALSE;
@@ -137,7 +155,7 @@ BOOL CDateTimeCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParen
         return FALSE;
     if (auto* const pEdit = widgetOf<QDateTimeEdit>(*this)) {
         pEdit->setDateTime(QDateTime::currentDateTime());
-        pEdit->setDisplayFormat(formatOfStyle(pEdit->locale(), dwStyle));
+        setFormat(*pEdit, formatOfStyle(pEdit->locale(), dwStyle));
         pEdit->setCalendarPopup(!(dwStyle & DTS_UPDOWN));
     }
     return TRUE;
@@ -152,9 +170,13 @@ BOOL CDateTimeCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent
 BOOL CDateTimeCtrl_E::SetTime(const _SYSTEMTIME* pTime)
 {
     return askWidget<QDateTimeEdit>(*this, FALSE, [pTime](auto& edit) {
-        if (pTime)
-            edit.setDate(dateOf(*pTime));
-        return pTime != nullptr;
+        if (!pTime)
+            return FALSE;
+        const QDate first = edit.minimumDate();
+        const QDate last = edit.maximumDate();
+        edit.setDate(dateOf(*pTime));
+        edit.setDateRange(first, last); // narrowed to the date while only a time shows
+        return TRUE;
     });
 }
 
@@ -167,10 +189,11 @@ DWORD CDateTimeCtrl_E::GetTime(_SYSTEMTIME* pTime) const
 
 BOOL CDateTimeCtrl_E::SetFormat(const wchar_t* pszFormat)
 {
-    return askWidget<QDateTimeEdit>(*this, FALSE, [pszFormat](auto& edit) {
-        edit.setDisplayFormat(pszFormat ? displayFormat(VxQString(pszFormat))
-                                        : formatOfStyle(edit.locale(), DTS_SHORTDATEFORMAT));
-        return TRUE;
+    const QString strFormat = displayFormat(VxQString(pszFormat));
+    return askWidget<QDateTimeEdit>(*this, FALSE, [&strFormat](auto& edit) {
+        return setFormat(edit, strFormat.isEmpty()
+                                   ? formatOfStyle(edit.locale(), DTS_SHORTDATEFORMAT)
+                                   : strFormat);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "ctrl/vxcontroltable_p.h"
 
+#include <QtCore/QVariant>
 #include <QtWidgets/QScrollBar>
 
 #include <climits>

@@ -74,6 +74,12 @@ TEST(DateTime, Formats)
             EXPECT_TRUE(control.SetFormat(format));
             EXPECT_EQ(pEdit->text().trimmed(), QString::fromLatin1(shown));
         });
+        SYSTEMTIME day = date(2024, 3, 1);
+        EXPECT_TRUE(control.SetTime(&day)); // while the hour shows alone
+        EXPECT_EQ(control.GetRange(nullptr, nullptr), 0U);
+        EXPECT_EQ(pEdit->date(), QDate(2024, 3, 1));
+        EXPECT_FALSE(control.SetFormat(L"'no date'"));
+        EXPECT_EQ(pEdit->text(), "15 open"_q);
         EXPECT_TRUE(control.SetFormat(nullptr));
         EXPECT_EQ(pEdit->displayFormat(), QLocale::c().dateFormat(QLocale::ShortFormat));
     });

@@ -19,7 +19,8 @@ TEST(Progress, ByMessages)
                {PBM_GETRANGE, TRUE, 0, 0},
                {PBM_GETRANGE, FALSE, at(&ends), 60000},
                {PBM_SETRANGE32, WPARAM(-1000), 1000, MAKELONG(0, 60000)},
-               {PBM_SETPOS, 5, 0, ends.low}, // -1 for a widget that nobody has set
+               {PBM_GETSTEP, 0, 0, 10},
+               {PBM_GETRANGE, TRUE, 0, -1000},
            });
     EXPECT_EQ(ends.high, 60000);
 }

@@ -35,8 +35,9 @@ class VXMFC_EXPORT CDateTimeCtrl_E : public CWnd_E
     BOOL SetTime(const _SYSTEMTIME* pTime = nullptr);
     /// Stores the year, month and day and leaves the other members alone. GDT_VALID, also for null.
     DWORD GetTime(_SYSTEMTIME* pTime) const;
-    /// Shows date and time in a format of GetDateFormat() and GetTimeFormat(); null is the short
-    /// date of the locale. FALSE on failure.
+    /// Shows date and time in a format of GetDateFormat() and GetTimeFormat(); null and an
+    /// empty text are the short date of the locale. FALSE, changing nothing, for a format that
+    /// shows neither.
     BOOL SetFormat(const wchar_t* pszFormat);
     /// Limits the dates; null is no limit on that side. FALSE, changing nothing, for a date that
     /// does not exist.

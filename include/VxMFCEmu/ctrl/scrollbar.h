@@ -2,8 +2,7 @@
 /// CScrollBar_E: a scroll bar that is a control of its own.
 ///
 /// Handlers of WM_HSCROLL and WM_VSCROLL with the suffix `_E` get one for the bar that was used.
-/// When that is a slider, they get the address of its CSliderCtrl_E, to be cast back; the positions
-/// of either class can be read and set through it.
+/// When that is a slider, they get the address of its CSliderCtrl_E, to be compared or cast back.
 ///
 /// Differs from MFC: SetScrollRange() and GetScrollRange() do nothing, SetScrollInfo() and
 /// GetScrollInfo() are there for that; EnableScrollBar() changes nothing. The control sends its
