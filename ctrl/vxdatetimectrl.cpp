@@ -79,22 +79,24 @@ QString formatOfStyle(const QLocale& locale, DWORD dwStyle)
                                                           : QLocale::ShortFormat);
 }
 
+/// While only a time shows, setting anything else narrows the range to the one date.
+void setWithin(QDateTimeEdit& edit, const QDateTime& value, const QDate& first, const QDate& last)
+{
+    edit.setDateTime(value);
+    edit.setDateRange(first, last);
+}
+
 /// Shows another format, which has to show something of the date or the time. The widget would
-/// forget the time for a format of dates, and every date but one for a format of times.
+/// forget the time for a format of dates.
 BOOL setFormat(QDateTimeEdit& edit, const QString& strFormat)
 {
     const QSignalBlocker quiet(edit);
     const QDateTime shown = edit.dateTime();
     const QDate first = edit.minimumDate();
     const QDate last = edit.maximumDate();
-    const QString strPrevious = edit.displayFormat();
     edit.setDisplayFormat(strFormat);
-    const bool bDone = edit.displayedSections() != QDateTimeEdit::NoSection;
-    if (!bDone)
-        edit.setDisplayFormat(strPrevious);
-    edit.setDateTime(shown);
-    edit.setDateRange(first, last);
-    return bDone;
+    setWithin(edit, shown, first, last);
+    return edit.displayFormat() == strFormat; // one that shows nothing is not taken
 }
 
 LRESULT setSystemTime(CDateTimeCtrl_E& control, WPARAM wParam, LPARAM lParam)
@@ -172,10 +174,8 @@ BOOL CDateTimeCtrl_E::SetTime(const _SYSTEMTIME* pTime)
     return askWidget<QDateTimeEdit>(*this, FALSE, [pTime](auto& edit) {
         if (!pTime)
             return FALSE;
-        const QDate first = edit.minimumDate();
-        const QDate last = edit.maximumDate();
-        edit.setDate(dateOf(*pTime));
-        edit.setDateRange(first, last); // narrowed to the date while only a time shows
+        if (const QDate day = dateOf(*pTime); day.isValid())
+            setWithin(edit, {day, edit.time()}, edit.minimumDate(), edit.maximumDate());
         return TRUE;
     });
 }

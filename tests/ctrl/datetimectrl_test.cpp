@@ -21,29 +21,18 @@ TEST(DateTime, ByMessages)
     static SYSTEMTIME range[2] = {date(2020, 1, 2), date(2023, 12, 30)};
     static SYSTEMTIME gotRange[2] = {};
     static SIZE size;
-    runSteps<CDateTimeCtrl_E, QDateTimeEdit, QDateEdit>(
-        0, {
-               {DTM_SETSYSTEMTIME, GDT_VALID, at(&leapDay), TRUE},
-               {DTM_SETSYSTEMTIME, GDT_VALID, at(&none), TRUE}, // Intended: TRUE all the same
-               {DTM_SETSYSTEMTIME, GDT_NONE, at(&leapDay), FALSE},
-               {DTM_SETSYSTEMTIME, GDT_VALID, 0, FALSE},
-               {DTM_GETSYSTEMTIME, 0, 0, GDT_VALID},
-               {DTM_GETSYSTEMTIME, 0, at(&got), GDT_VALID},
-               {DTM_GETRANGE, 0, at(gotRange), 0},
-               {DTM_SETRANGE, GDTR_MIN | GDTR_MAX, at(range), TRUE},
-               {DTM_GETRANGE, 0, at(gotRange), GDTR_MIN | GDTR_MAX},
-               {DTM_GETRANGE, 0, 0, GDTR_MIN | GDTR_MAX},
-               {DTM_SETRANGE, GDTR_MIN, at(&none), FALSE},
-               {DTM_SETRANGE, GDTR_MAX, at(range), TRUE},
-               {DTM_GETRANGE, 0, 0, GDTR_MAX},
-               {DTM_SETRANGE, GDTR_MAX, 0, TRUE},
-               {DTM_GETRANGE, 0, 0, 0},
-               {DTM_SETFORMAT, 0, at(L"yyyy"), TRUE},
-               {DTM_SETFORMAT, 0, 0, TRUE},
-               {DTM_GETIDEALSIZE, 0, at(&size), TRUE},
-               {DTM_GETIDEALSIZE, 0, 0, FALSE},
-               {DTM_CLOSEMONTHCAL, 0, 0, 0},
-           });
+    // clang-format off
+    runSteps<CDateTimeCtrl_E, QDateTimeEdit, QDateEdit>(0, {
+        {DTM_SETSYSTEMTIME, GDT_VALID, at(&leapDay), TRUE},
+        {DTM_SETSYSTEMTIME, GDT_VALID, at(&none), TRUE}, // Intended: TRUE all the same
+        {DTM_SETSYSTEMTIME, GDT_NONE, at(&leapDay), FALSE}, {DTM_SETSYSTEMTIME, GDT_VALID, 0, FALSE}, {DTM_GETSYSTEMTIME, 0, 0, GDT_VALID},
+        {DTM_GETSYSTEMTIME, 0, at(&got), GDT_VALID}, {DTM_GETRANGE, 0, at(gotRange), 0}, {DTM_SETRANGE, GDTR_MIN | GDTR_MAX, at(range), TRUE},
+        {DTM_GETRANGE, 0, at(gotRange), GDTR_MIN | GDTR_MAX}, {DTM_GETRANGE, 0, 0, GDTR_MIN | GDTR_MAX}, {DTM_SETRANGE, GDTR_MIN, at(&none), FALSE},
+        {DTM_SETRANGE, GDTR_MAX, at(range), TRUE}, {DTM_GETRANGE, 0, 0, GDTR_MAX}, {DTM_SETRANGE, GDTR_MAX, 0, TRUE}, {DTM_GETRANGE, 0, 0, 0},
+        {DTM_SETFORMAT, 0, at(L"yyyy"), TRUE}, {DTM_SETFORMAT, 0, 0, TRUE}, {DTM_GETIDEALSIZE, 0, at(&size), TRUE}, {DTM_GETIDEALSIZE, 0, 0, FALSE},
+        {DTM_CLOSEMONTHCAL, 0, 0, 0},
+    });
+    // clang-format on
     EXPECT_EQ(std::tie(got.wYear, got.wMonth, got.wDay),
               std::tie(leapDay.wYear, leapDay.wMonth, leapDay.wDay));
     EXPECT_EQ(std::tie(got.wDayOfWeek, got.wMilliseconds), std::make_tuple(9, 4)) << "left alone";

@@ -13,15 +13,12 @@ struct Ends
 TEST(Progress, ByMessages)
 {
     static Ends ends;
-    runSteps<CProgressCtrl_E, QProgressBar>(
-        0, {
-               {PBM_SETRANGE, 0, MAKELPARAM(0, 60000), MAKELONG(0, 100)},
-               {PBM_GETRANGE, TRUE, 0, 0},
-               {PBM_GETRANGE, FALSE, at(&ends), 60000},
-               {PBM_SETRANGE32, WPARAM(-1000), 1000, MAKELONG(0, 60000)},
-               {PBM_GETSTEP, 0, 0, 10},
-               {PBM_GETRANGE, TRUE, 0, -1000},
-           });
+    // clang-format off
+    runSteps<CProgressCtrl_E, QProgressBar>(0, {
+        {PBM_SETRANGE, 0, MAKELPARAM(0, 60000), MAKELONG(0, 100)}, {PBM_GETRANGE, TRUE, 0, 0}, {PBM_GETRANGE, FALSE, at(&ends), 60000},
+        {PBM_SETRANGE32, WPARAM(-1000), 1000, MAKELONG(0, 60000)}, {PBM_GETSTEP, 0, 0, 10}, {PBM_GETRANGE, TRUE, 0, -1000},
+    });
+    // clang-format on
     EXPECT_EQ(ends.high, 60000);
 }
 

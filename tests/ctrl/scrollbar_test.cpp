@@ -16,25 +16,18 @@ TEST(ScrollBar, ByMessages)
     static SCROLLINFO rangeOnly{0, SIF_RANGE, -50, 49, 0, 3, 0};
     static SCROLLINFO page{0, SIF_PAGE, 0, 0, UINT_MAX, 0, 0};
     static SCROLLINFO nothing{0, SIF_RANGE | SIF_PAGE | SIF_DISABLENOSCROLL, 5, -5, 0, 0, 0};
-    runSteps<CScrollBar_E, QScrollBar>(
-        0, {
-               {SBM_SETPOS, 30, TRUE, 0},
-               {SBM_SETPOS, WPARAM(-1), TRUE, 30},
-               {SBM_GETPOS, 0, 0, 0},
-               {SBM_SETRANGE, 0, 100, 0},
-               {SBM_SETPOS, 100, TRUE, 0},
-               {SBM_SETRANGEREDRAW, 0, 50, 100}, // the position that it had to leave
-               {SBM_GETRANGE, 0, 0, 0},
-               {SBM_GETRANGE, WPARAM(at(&low)), at(&high), 0},
-               {SBM_ENABLE_ARROWS, ESB_DISABLE_BOTH, 0, TRUE},
-               {SBM_SETSCROLLINFO, TRUE, at(&set), 100}, // the thumb covers the last nine
-               {SBM_GETSCROLLINFO, 0, at(&got), TRUE},
-               {SBM_SETSCROLLINFO, TRUE, at(&rangeOnly), 40}, // the page stays
-               {SBM_SETSCROLLINFO, TRUE, at(&page), -50},
-               {SBM_SETSCROLLINFO, TRUE, at(&nothing), 5},
-               {SBM_SETSCROLLINFO, TRUE, 0, 5},
-               {SBM_GETSCROLLINFO, 0, 0, FALSE},
-           });
+    // clang-format off
+    runSteps<CScrollBar_E, QScrollBar>(0, {
+        {SBM_SETPOS, 30, TRUE, 0}, {SBM_SETPOS, WPARAM(-1), TRUE, 30}, {SBM_GETPOS, 0, 0, 0}, {SBM_SETRANGE, 0, 100, 0}, {SBM_SETPOS, 100, TRUE, 0},
+        {SBM_SETRANGEREDRAW, 0, 50, 100}, // the position that it had to leave
+        {SBM_GETRANGE, 0, 0, 0}, {SBM_GETRANGE, WPARAM(at(&low)), at(&high), 0}, {SBM_ENABLE_ARROWS, ESB_DISABLE_BOTH, 0, TRUE},
+        {SBM_SETSCROLLINFO, TRUE, at(&set), 100}, // the thumb covers the last nine
+        {SBM_GETSCROLLINFO, 0, at(&got), TRUE},
+        {SBM_SETSCROLLINFO, TRUE, at(&rangeOnly), 40}, // the page stays
+        {SBM_SETSCROLLINFO, TRUE, at(&page), -50}, {SBM_SETSCROLLINFO, TRUE, at(&nothing), 5}, {SBM_SETSCROLLINFO, TRUE, 0, 5},
+        {SBM_GETSCROLLINFO, 0, 0, FALSE},
+    });
+    // clang-format on
     EXPECT_EQ(std::tie(low, high), std::make_tuple(0, 50));
     EXPECT_EQ(std::tie(got.nMin, got.nMax, got.nPage, got.nPos, got.nTrackPos),
               std::make_tuple(0, 109, 10U, 100, 100));

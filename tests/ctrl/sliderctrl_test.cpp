@@ -13,56 +13,25 @@ using namespace vxtest;
 TEST(Slider, ByMessages)
 {
     static RECT thumb, channel;
-    runSteps<CSliderCtrl_E, QSlider>(TBS_AUTOTICKS,
-                                     {
-                                         {TBM_SETRANGE, TRUE, MAKELPARAM(-10, 90), 0},
-                                         {TBM_GETRANGEMIN, 0, 0, -10},
-                                         {TBM_GETRANGEMAX, 0, 0, 90},
-                                         {TBM_SETPOS, TRUE, 33, 0},
-                                         {TBM_GETPOS, 0, 0, 33},
-                                         {TBM_SETPOSNOTIFY, 0, 1000, 0},
-                                         {TBM_GETPOS, 0, 0, 90},
-                                         {TBM_SETRANGEMIN, FALSE, 0, 0},
-                                         {TBM_SETRANGEMAX, FALSE, 60, 0},
-                                         {TBM_GETPOS, 0, 0, 60},
-                                         {TBM_SETLINESIZE, 0, 2, 1},
-                                         {TBM_SETLINESIZE, 0, INT_MIN, 2},
-                                         {TBM_SETLINESIZE, 0, 3, INT_MAX},
-                                         {TBM_GETLINESIZE, 0, 0, 3},
-                                         {TBM_SETPAGESIZE, 0, 20, 10},
-                                         {TBM_GETPAGESIZE, 0, 0, 20},
-                                         {TBM_GETNUMTICS, 0, 0, 2},
-                                         {TBM_SETTIC, 0, 40, TRUE},
-                                         {TBM_SETTIC, 0, 15, TRUE},
-                                         {TBM_SETTIC, 0, 15, TRUE},
-                                         {TBM_SETTIC, 0, 60, TRUE}, // the last one is there anyway
-                                         {TBM_SETTIC, 0, 61, FALSE},
-                                         {TBM_SETTIC, 0, -1, FALSE},
-                                         {TBM_SETTICFREQ, 1, 0, 0},
-                                         {TBM_GETNUMTICS, 0, 0, 4},
-                                         {TBM_GETTIC, 0, 0, 15},
-                                         {TBM_GETTIC, 1, 0, 40},
-                                         {TBM_GETTIC, 2, 0, -1},
-                                         {TBM_GETTIC, WPARAM(-1), 0, -1},
-                                         {TBM_CLEARTICS, 0, 0, 0},
-                                         {TBM_GETNUMTICS, 0, 0, 2},
-                                         {TBM_GETSELEND, 0, 0, 0},
-                                         {TBM_SETSEL, TRUE, MAKELPARAM(-5, 20), 0},
-                                         {TBM_GETSELSTART, 0, 0, 0},
-                                         {TBM_GETSELEND, 0, 0, 20},
-                                         {TBM_SETSELSTART, 0, 30, 0},
-                                         {TBM_GETSELEND, 0, 0, 30},
-                                         {TBM_SETSELEND, 0, 1000, 0},
-                                         {TBM_GETSELSTART, 0, 0, 30},
-                                         {TBM_GETSELEND, 0, 0, 60},
-                                         {TBM_CLEARSEL, 0, 0, 0},
-                                         {TBM_GETSELEND, 0, 0, 0},
-                                         {TBM_GETTHUMBRECT, 0, at(&thumb), 0},
-                                         {TBM_GETCHANNELRECT, 0, at(&channel), 0},
-                                         {TBM_GETTHUMBRECT, 0, 0, 0},
-                                         {TBM_GETCHANNELRECT, 0, 0, 0},
-                                     });
-    EXPECT_TRUE(thumb.left > channel.left && thumb.right > thumb.left);
+    // clang-format off
+    runSteps<CSliderCtrl_E, QSlider>(TBS_AUTOTICKS, {
+        {TBM_SETRANGE, TRUE, MAKELPARAM(-10, 90), 0}, {TBM_GETRANGEMIN, 0, 0, -10}, {TBM_GETRANGEMAX, 0, 0, 90},
+        {TBM_SETPOS, TRUE, 33, 0}, {TBM_GETPOS, 0, 0, 33}, {TBM_SETPOSNOTIFY, 0, 1000, 0}, {TBM_GETPOS, 0, 0, 90},
+        {TBM_SETRANGEMIN, FALSE, 0, 0}, {TBM_SETRANGEMAX, FALSE, 60, 0}, {TBM_GETPOS, 0, 0, 60}, {TBM_SETLINESIZE, 0, 2, 1},
+        {TBM_SETLINESIZE, 0, INT_MIN, 2}, {TBM_SETLINESIZE, 0, 3, INT_MAX}, {TBM_GETLINESIZE, 0, 0, 3},
+        {TBM_SETPAGESIZE, 0, 20, 10}, {TBM_GETPAGESIZE, 0, 0, 20}, {TBM_GETNUMTICS, 0, 0, 2}, {TBM_SETTIC, 0, 40, TRUE},
+        {TBM_SETTIC, 0, 15, TRUE}, {TBM_SETTIC, 0, 15, TRUE},
+        {TBM_SETTIC, 0, 60, TRUE}, // the last one is there anyway
+        {TBM_SETTIC, 0, 61, FALSE}, {TBM_SETTIC, 0, -1, FALSE}, {TBM_SETTICFREQ, 1, 0, 0}, {TBM_GETNUMTICS, 0, 0, 4},
+        {TBM_GETTIC, 0, 0, 15}, {TBM_GETTIC, 1, 0, 40}, {TBM_GETTIC, 2, 0, -1}, {TBM_GETTIC, WPARAM(-1), 0, -1},
+        {TBM_CLEARTICS, 0, 0, 0}, {TBM_GETNUMTICS, 0, 0, 2}, {TBM_GETSELEND, 0, 0, 0}, {TBM_SETSEL, TRUE, MAKELPARAM(-5, 20), 0},
+        {TBM_GETSELSTART, 0, 0, 0}, {TBM_GETSELEND, 0, 0, 20}, {TBM_SETSELSTART, 0, 30, 0}, {TBM_GETSELEND, 0, 0, 30},
+        {TBM_SETSELEND, 0, 1000, 0}, {TBM_GETSELSTART, 0, 0, 30}, {TBM_GETSELEND, 0, 0, 60}, {TBM_CLEARSEL, 0, 0, 0},
+        {TBM_GETSELEND, 0, 0, 0}, {TBM_GETTHUMBRECT, 0, at(&thumb), 0}, {TBM_GETCHANNELRECT, 0, at(&channel), 0},
+        {TBM_GETTHUMBRECT, 0, 0, 0}, {TBM_GETCHANNELRECT, 0, 0, 0},
+    });
+    // clang-format on
+    EXPECT_TRUE(thumb.right > thumb.left && channel.bottom > channel.top);
 }
 
 TEST(Slider, WhatShows)
