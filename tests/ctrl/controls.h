@@ -21,6 +21,7 @@ void checkFound(const Check& check)
     ASSERT_TRUE(pControl);
     EXPECT_TRUE(pControl->IsTemporary());
     check(*pControl);
+    ClearTempObjectPool(); // as the next idle time would
 }
 
 /// Calls @p check with a control made by Create() and with those of the form widgets @p Widgets.

@@ -118,6 +118,7 @@ TEST(ScrollBar, WhatScrollHandlersGet)
     window.SendMessage(WM_VSCROLL, SB_TOP, 0);
     EXPECT_EQ(window.m_pSender, nullptr);
     EXPECT_EQ(window.GetScrollBarCtrl(SB_VERT), nullptr);
+    ClearTempObjectPool();
 }
 
 TEST(ScrollBar, RealScrolling)
@@ -137,6 +138,7 @@ TEST(ScrollBar, RealScrolling)
     bar.SetFocus();
     typeKey(XK_End);
     EXPECT_TRUE(waitUntil([&] { return bar.GetScrollPos() == bar.GetScrollLimit(); }));
+    ClearTempObjectPool();
 }
 
 } // namespace
