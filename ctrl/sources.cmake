@@ -1,5 +1,13 @@
 vxmfc_sources(FOLDER ctrl
   HEADERS
+    ctrl/datetimectrl.h
     ctrl/progressctrl.h
+    ctrl/scrollbar.h
+    ctrl/sliderctrl.h
+    ctrl/spinbuttonctrl.h
   SOURCES
-    vxprogressctrl.cpp)
+    vxdatetimectrl.cpp
+    vxprogressctrl.cpp
+    vxscrollbar.cpp
+    vxsliderctrl.cpp
+    vxspinbuttonctrl.cpp)

@@ -75,6 +75,11 @@ T* pointerIn(LPARAM lParam)
 {
     return reinterpret_cast<T*>(static_cast<std::intptr_t>(lParam));
 }
+template <typename T>
+T* pointerIn(WPARAM wParam)
+{
+    return pointerIn<T>(static_cast<LPARAM>(wParam));
+}
 inline int intIn(WPARAM wParam) { return static_cast<int>(wParam); }
 inline int intIn(LPARAM lParam) { return static_cast<int>(lParam); }
 inline short lowWord(LPARAM lParam) { return static_cast<short>(lParam & 0xFFFF); }

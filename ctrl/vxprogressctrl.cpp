@@ -2,7 +2,9 @@
 
 #include "ctrl/vxcontroltable_p.h"
 
-#include <QtCore/QCoreApplication>
+#include <VxMFCEmu/gdi/colorref.h>
+
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QProgressBar>
 
 IMPLEMENT_DYNCREATE_E(CProgressCtrl_E, CWnd_E, QProgressBar)
@@ -14,6 +16,8 @@ using namespace vx::detail;
 using Row = ControlMessage<CProgressCtrl_E>;
 
 constexpr char kRangeBeforeMarquee[] = "rangeBeforeMarquee";
+/// The step once more, for messages to a bar that no control is bound to.
+constexpr char kStep[] = "progressStep";
 
 /// As PBM_GETRANGE fills it.
 struct ProgressRange
@@ -27,7 +31,7 @@ LRESULT setRange(CProgressCtrl_E& bar, int nLower, int nUpper)
     ProgressRange old{};
     bar.GetRange(&old.nLow, &old.nHigh);
     bar.SetRange32(nLower, nUpper);
-    return (old.nLow & 0xFFFF) | ((old.nHigh & 0xFFFF) << 16);
+    return MAKELRESULT(old.nLow, old.nHigh);
 }
 
 LRESULT getRange(CProgressCtrl_E& bar, WPARAM bLow, LPARAM lParam)
@@ -39,9 +43,25 @@ LRESULT getRange(CProgressCtrl_E& bar, WPARAM bLow, LPARAM lParam)
     return bLow ? range.nLow : range.nHigh;
 }
 
+/// Sets one colour, which @p pszName keeps, and gives the previous one.
+COLORREF setColor(const CProgressCtrl_E& control, QPalette::ColorRole role, const char* pszName,
+                  COLORREF color)
+{
+    return askWidget<QProgressBar>(control, COLORREF{0}, [=](auto& bar) {
+        const bool bDefault = color == CLR_DEFAULT;
+        const QVariant previous = bar.property(pszName);
+        bar.setProperty(pszName, bDefault ? QVariant() : QVariant(color));
+        QPalette palette = bar.palette();
+        palette.setColor(role,
+                         bDefault ? QApplication::palette(&bar).color(role) : toQColor(color));
+        bar.setPalette(palette);
+        return previous.isValid() ? previous.toUInt() : CLR_DEFAULT;
+    });
+}
+
 // clang-format off
 constexpr Row kMessages[] = {
-    {PBM_SETRANGE,   [](auto& bar, WPARAM, LPARAM l) { return setRange(bar, lowWord(l), highWord(l)); }},
+    {PBM_SETRANGE,   [](auto& bar, WPARAM, LPARAM l) { return setRange(bar, LOWORD(l), HIWORD(l)); }},
     {PBM_SETRANGE32, [](auto& bar, WPARAM w, LPARAM l) { return setRange(bar, intIn(w), intIn(l)); }},
     {PBM_GETRANGE,   getRange},
     {PBM_SETPOS,     [](auto& bar, WPARAM w, LPARAM) -> LRESULT { return bar.SetPos(intIn(w)); }},
@@ -51,6 +71,8 @@ constexpr Row kMessages[] = {
     {PBM_GETSTEP,    [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.GetStep(); }},
     {PBM_STEPIT,     [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.StepIt(); }},
     {PBM_SETMARQUEE, [](auto& bar, WPARAM w, LPARAM l) -> LRESULT { return bar.SetMarquee(w != 0, intIn(l)); }},
+    {PBM_SETBARCOLOR, [](auto& bar, WPARAM, LPARAM l) -> LRESULT { return bar.SetBarColor(static_cast<COLORREF>(l)); }},
+    {PBM_SETBKCOLOR,  [](auto& bar, WPARAM, LPARAM l) -> LRESULT { return bar.SetBkColor(static_cast<COLORREF>(l)); }},
 };
 // clang-format on
 
@@ -58,7 +80,9 @@ constexpr Row kMessages[] = {
 
 BOOL CProgressCtrl_E::AttachDefault(QWidget* pParent)
 {
-    return attachNew<QProgressBar>(*this, pParent);
+    auto* const pBar = new QProgressBar(pParent);
+    pBar->setValue(0);
+    return Attach(pBar, pParent, false);
 }
 
 BOOL CProgressCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent)
@@ -112,14 +136,39 @@ int CProgressCtrl_E::OffsetPos(int nOffset)
 {
     return askWidget<QProgressBar>(*this, 0, [nOffset](auto& bar) {
         const int nPrevious = bar.value();
-        bar.setValue(nPrevious + nOffset);
+        bar.setValue(wrappingAdd(nPrevious, nOffset));
         return nPrevious;
     });
 }
 
-int CProgressCtrl_E::SetStep(int nStep) { return std::exchange(m_nStep, nStep); }
+int CProgressCtrl_E::SetStep(int nStep)
+{
+    const int nPrevious = GetStep();
+    m_nStep = nStep;
+    return askWidget<QProgressBar>(*this, 0, [=](auto& bar) {
+        bar.setProperty(kStep, nStep);
+        return nPrevious;
+    });
+}
 
-int CProgressCtrl_E::StepIt() { return OffsetPos(m_nStep); }
+int CProgressCtrl_E::GetStep() const
+{
+    const auto* const pBar = widgetOf<QProgressBar>(*this);
+    const QVariant step = pBar ? pBar->property(kStep) : QVariant();
+    return step.isValid() ? step.toInt() : m_nStep;
+}
+
+int CProgressCtrl_E::StepIt() { return OffsetPos(GetStep()); }
+
+COLORREF CProgressCtrl_E::SetBarColor(COLORREF color)
+{
+    return setColor(*this, QPalette::Highlight, "barColor", color);
+}
+
+COLORREF CProgressCtrl_E::SetBkColor(COLORREF color)
+{
+    return setColor(*this, QPalette::Base, "backColor", color);
+}
 
 BOOL CProgressCtrl_E::SetMarquee(BOOL bMarquee, int)
 {

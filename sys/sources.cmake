@@ -15,6 +15,7 @@ vxmfc_sources(FOLDER sys
     sys/securityattributes.h
     sys/semaphore.h
     sys/srwlock.h
+    sys/systemtime.h
     sys/threads.h
     sys/tls.h
     sys/wait.h

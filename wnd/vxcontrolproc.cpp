@@ -7,8 +7,13 @@
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QWidget>
 
+#include <limits>
+
 namespace vx::detail {
 namespace {
+
+// Widgets take every event of a user's type for theirs: that somebody answered shows in the result.
+constexpr LRESULT kUnanswered = std::numeric_limits<LRESULT>::min() + 1;
 
 VxCreateObjectFn controlFactory(const QWidget* pWidget)
 {
@@ -75,10 +80,18 @@ bool answerAsControl(QWidget* pWidget, VxWinMsgEvent& e)
     return bAnswered;
 }
 
-bool answerUnbound(QWidget* pWidget, VxWinMsgEvent& e)
+bool sendToUnbound(QWidget* pWidget, VxWinMsgEvent& e)
 {
-    return isControlMessage(e.message) && !CObject_E::GetOwner(pWidget) &&
-           answerAsControl(pWidget, e);
+    if (!isControlMessage(e.message) || CObject_E::GetOwner(pWidget) || !controlFactory(pWidget))
+        return false;
+    const QPointer<QWidget> alive(pWidget);
+    e.result = kUnanswered;
+    QCoreApplication::sendEvent(pWidget, &e);
+    if (e.result == kUnanswered) {
+        e.result = 0;
+        answerAsControl(alive, e);
+    }
+    return true;
 }
 
 bool postToControl(QWidget* pWidget, UINT message, WPARAM wParam, LPARAM lParam)

@@ -19,8 +19,10 @@ constexpr bool isControlMessage(UINT message)
 /// result. False when the class is none of a control, and for messages that it does not know.
 bool answerAsControl(QWidget* pWidget, VxWinMsgEvent& e);
 
-/// The same for a widget that no window is bound to, whatever the message.
-bool answerUnbound(QWidget* pWidget, VxWinMsgEvent& e);
+/// Sends a message to a control that no window is bound to, and has it answered as above when
+/// neither a filter nor the widget itself writes a result. False, sending nothing, for messages and
+/// widgets that need no such help.
+bool sendToUnbound(QWidget* pWidget, VxWinMsgEvent& e);
 
 /// Posts a message so that its control answers it also when no window is bound to it by then.
 /// False, posting nothing, for messages and widgets that need no such help.

@@ -15,9 +15,9 @@ LRESULT SendMessage_E(QWidget* pWidget, UINT message, WPARAM wParam, LPARAM lPar
         return 0;
     if (!vx::detail::hasQtEvent(message)) {
         VxWinMsgEvent event(message, wParam, lParam);
-        const bool answered = QCoreApplication::sendEvent(pWidget, &event) ||
-                              vx::detail::answerUnbound(pWidget, event);
-        return answered ? event.result : 0;
+        const bool sent = vx::detail::sendToUnbound(pWidget, event) ||
+                          QCoreApplication::sendEvent(pWidget, &event);
+        return sent ? event.result : 0;
     }
     const std::unique_ptr<QEvent> event(vxMsgToQEvent(pWidget, message, wParam, lParam));
     const bool sent = QCoreApplication::sendEvent(pWidget, event.get());

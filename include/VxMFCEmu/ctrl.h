@@ -2,4 +2,8 @@
 /// The standard controls.
 #pragma once
 
+#include <VxMFCEmu/ctrl/datetimectrl.h>
 #include <VxMFCEmu/ctrl/progressctrl.h>
+#include <VxMFCEmu/ctrl/scrollbar.h>
+#include <VxMFCEmu/ctrl/sliderctrl.h>
+#include <VxMFCEmu/ctrl/spinbuttonctrl.h>

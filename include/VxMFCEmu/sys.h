@@ -17,6 +17,7 @@
 #include <VxMFCEmu/sys/securityattributes.h>
 #include <VxMFCEmu/sys/semaphore.h>
 #include <VxMFCEmu/sys/srwlock.h>
+#include <VxMFCEmu/sys/systemtime.h>
 #include <VxMFCEmu/sys/threads.h>
 #include <VxMFCEmu/sys/tls.h>
 #include <VxMFCEmu/sys/wait.h>

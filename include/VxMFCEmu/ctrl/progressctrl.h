@@ -3,8 +3,8 @@
 ///
 /// Differs from MFC: SetPos() processes pending events, so that the bar shows during long loops
 /// that never get back to the event loop; a handler may run, and the control may be gone, before
-/// it returns. Positions are kept within the range by the widget. A control of another class and
-/// one without a widget give 0 and change nothing.
+/// it returns. A position outside of the range changes nothing. A control of another class and one
+/// without a widget give 0 and change nothing.
 ///
 /// Threads: GUI thread only.
 #pragma once
@@ -31,14 +31,18 @@ class VXMFC_EXPORT CProgressCtrl_E : public CWnd_E
     int GetPos() const;
     /// Adds to the position and returns the previous one.
     int OffsetPos(int nOffset);
-    /// Stores the step of StepIt() and returns the previous one; 10 at first.
+    /// Stores the step of StepIt(), 10 at first, and returns the previous one; 0 without a widget.
     int SetStep(int nStep);
-    int GetStep() const { return m_nStep; }
+    int GetStep() const;
     /// Adds the step to the position and returns the previous one.
     int StepIt();
     /// Shows that something goes on, without a position, until it is switched off again; the
     /// widget sets the pace. TRUE with a widget.
     BOOL SetMarquee(BOOL bMarquee, int nInterval = 0);
+    /// Set the colour of the bar and of what lies behind it, as far as the widget's style uses it,
+    /// and return the previous one; CLR_DEFAULT stands for the style's own.
+    COLORREF SetBarColor(COLORREF color);
+    COLORREF SetBkColor(COLORREF color);
 
     BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 

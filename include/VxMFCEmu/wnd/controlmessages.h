@@ -255,6 +255,32 @@ inline constexpr UINT UDM_GETRANGE32 = 0x0470;
 inline constexpr UINT UDM_SETPOS32 = 0x0471;
 inline constexpr UINT UDM_GETPOS32 = 0x0472;
 
+// Date and time controls
+inline constexpr UINT DTM_GETSYSTEMTIME = 0x1001;
+inline constexpr UINT DTM_SETSYSTEMTIME = 0x1002;
+inline constexpr UINT DTM_GETRANGE = 0x1003;
+inline constexpr UINT DTM_SETRANGE = 0x1004;
+inline constexpr UINT DTM_SETMCCOLOR = 0x1006;
+inline constexpr UINT DTM_GETMCCOLOR = 0x1007;
+inline constexpr UINT DTM_GETMONTHCAL = 0x1008;
+inline constexpr UINT DTM_SETMCFONT = 0x1009;
+inline constexpr UINT DTM_GETMCFONT = 0x100A;
+inline constexpr UINT DTM_SETMCSTYLE = 0x100B;
+inline constexpr UINT DTM_GETMCSTYLE = 0x100C;
+inline constexpr UINT DTM_CLOSEMONTHCAL = 0x100D;
+inline constexpr UINT DTM_GETDATETIMEPICKERINFO = 0x100E;
+inline constexpr UINT DTM_GETIDEALSIZE = 0x100F;
+inline constexpr UINT DTM_SETFORMAT = 0x1032;
+
+// Results of date and time controls
+inline constexpr int GDT_ERROR = -1;
+inline constexpr int GDT_VALID = 0;
+inline constexpr int GDT_NONE = 1;
+
+// Limits that DTM_GETRANGE and DTM_SETRANGE carry
+inline constexpr DWORD GDTR_MIN = 1;
+inline constexpr DWORD GDTR_MAX = 2;
+
 // Notification codes of buttons
 inline constexpr UINT BN_CLICKED = 0;
 inline constexpr UINT BN_PAINT = 1;

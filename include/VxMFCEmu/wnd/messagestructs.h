@@ -137,6 +137,30 @@ struct tagDELETEITEMSTRUCT
 using DELETEITEMSTRUCT = tagDELETEITEMSTRUCT;
 using LPDELETEITEMSTRUCT = tagDELETEITEMSTRUCT*;
 
+/// SBM_SETSCROLLINFO and SBM_GETSCROLLINFO.
+struct tagSCROLLINFO
+{
+    UINT cbSize; ///< not looked at
+    UINT fMask;  ///< SIF_* of the members that count
+    int nMin;
+    int nMax;
+    UINT nPage; ///< the positions from nMax - nPage + 2 on cannot be scrolled to
+    int nPos;
+    int nTrackPos; ///< only read
+};
+using SCROLLINFO = tagSCROLLINFO;
+using LPSCROLLINFO = tagSCROLLINFO*;
+using LPCSCROLLINFO = const tagSCROLLINFO*;
+
+/// UDM_SETACCEL and UDM_GETACCEL.
+struct _UDACCEL
+{
+    UINT nSec; ///< seconds for which a button is held
+    UINT nInc; ///< step from then on
+};
+using UDACCEL = _UDACCEL;
+using LPUDACCEL = _UDACCEL*;
+
 /// Head of every WM_NOTIFY record.
 struct tagNMHDR
 {

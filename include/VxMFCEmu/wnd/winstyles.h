@@ -241,6 +241,16 @@ inline constexpr DWORD UDS_HORZ = 0x00000040;
 inline constexpr DWORD UDS_NOTHOUSANDS = 0x00000080;
 inline constexpr DWORD UDS_HOTTRACK = 0x00000100;
 
+// Date and time styles
+inline constexpr DWORD DTS_SHORTDATEFORMAT = 0x00000000;
+inline constexpr DWORD DTS_UPDOWN = 0x00000001;
+inline constexpr DWORD DTS_SHOWNONE = 0x00000002;
+inline constexpr DWORD DTS_LONGDATEFORMAT = 0x00000004;
+inline constexpr DWORD DTS_TIMEFORMAT = 0x00000009;
+inline constexpr DWORD DTS_SHORTDATECENTURYFORMAT = 0x0000000C;
+inline constexpr DWORD DTS_APPCANPARSE = 0x00000010;
+inline constexpr DWORD DTS_RIGHTALIGN = 0x00000020;
+
 // Styles of common controls
 inline constexpr DWORD CCS_TOP = 0x00000001;
 inline constexpr DWORD CCS_NOMOVEY = 0x00000002;

@@ -1,0 +1,138 @@
+// CDateTimeCtrl_E over date and time fields.
+#include "controls.h"
+#include "support/xinput.h"
+
+#include <X11/keysym.h>
+
+namespace {
+
+using namespace vxtest;
+
+constexpr SYSTEMTIME date(WORD year, WORD month, WORD day)
+{
+    return {year, month, 9, day, 1, 2, 3, 4};
+}
+
+TEST(DateTime, ByMessages)
+{
+    static SYSTEMTIME leapDay = date(2024, 2, 29);
+    static SYSTEMTIME none = date(2023, 2, 29);
+    static SYSTEMTIME got = date(0, 0, 0);
+    static SYSTEMTIME range[2] = {date(2020, 1, 2), date(2023, 12, 30)};
+    static SYSTEMTIME gotRange[2] = {};
+    static SIZE size;
+    // clang-format off
+    runSteps<CDateTimeCtrl_E, QDateTimeEdit, QDateEdit>(0, {
+        {DTM_SETSYSTEMTIME, GDT_VALID, at(&leapDay), TRUE},
+        {DTM_SETSYSTEMTIME, GDT_VALID, at(&none), TRUE}, // Intended: TRUE all the same
+        {DTM_SETSYSTEMTIME, GDT_NONE, at(&leapDay), FALSE}, {DTM_SETSYSTEMTIME, GDT_VALID, 0, FALSE}, {DTM_GETSYSTEMTIME, 0, 0, GDT_VALID},
+        {DTM_GETSYSTEMTIME, 0, at(&got), GDT_VALID}, {DTM_GETRANGE, 0, at(gotRange), 0}, {DTM_SETRANGE, GDTR_MIN | GDTR_MAX, at(range), TRUE},
+        {DTM_GETRANGE, 0, at(gotRange), GDTR_MIN | GDTR_MAX}, {DTM_GETRANGE, 0, 0, GDTR_MIN | GDTR_MAX}, {DTM_SETRANGE, GDTR_MIN, at(&none), FALSE},
+        {DTM_SETRANGE, GDTR_MAX, at(range), TRUE}, {DTM_GETRANGE, 0, 0, GDTR_MAX}, {DTM_SETRANGE, GDTR_MAX, 0, TRUE}, {DTM_GETRANGE, 0, 0, 0},
+        {DTM_SETFORMAT, 0, at(L"yyyy"), TRUE}, {DTM_SETFORMAT, 0, 0, TRUE}, {DTM_GETIDEALSIZE, 0, at(&size), TRUE}, {DTM_GETIDEALSIZE, 0, 0, FALSE},
+        {DTM_CLOSEMONTHCAL, 0, 0, 0},
+    });
+    // clang-format on
+    EXPECT_EQ(std::tie(got.wYear, got.wMonth, got.wDay),
+              std::tie(leapDay.wYear, leapDay.wMonth, leapDay.wDay));
+    EXPECT_EQ(std::tie(got.wDayOfWeek, got.wMilliseconds), std::make_tuple(9, 4)) << "left alone";
+    EXPECT_EQ(gotRange[0].wYear, 2020);
+    EXPECT_EQ(gotRange[1].wDay, 30);
+    EXPECT_GT(size.cx, size.cy);
+}
+
+TEST(DateTime, Formats)
+{
+    const Row<const wchar_t*, const char*> rows[] = {
+        {L"yyyy'-'MM'-'dd", "2024-02-09"},
+        {L"d.M.yy", "9.2.24"},
+        {L"yyy y", "2024 24"},
+        {L"dddddd", "Friday"},
+        {L"MMM MMMM", "Feb February"},
+        {L"gg HHHH:mm:ss", "15:04:05"},
+        {L"hh:m tt", "03:4 PM"},
+        {L"HH 'o''clock, a z'", "15 o'clock, a z"},
+        {L"yyyy z", "2024 z"},
+        {L"HH 'open", "15 open"},
+    };
+    forMadeAndFound<CDateTimeCtrl_E, QDateTimeEdit>(0, [&](CDateTimeCtrl_E& control) {
+        auto* const pEdit = qobject_cast<QDateTimeEdit*>(control.GetSafeHwnd());
+        pEdit->setLocale(QLocale::c());
+        pEdit->setDateTime({{2024, 2, 9}, {15, 4, 5}});
+        forRows(rows, [&](const wchar_t* format, const char* shown) {
+            EXPECT_TRUE(control.SetFormat(format));
+            EXPECT_EQ(pEdit->text().trimmed(), QString::fromLatin1(shown));
+        });
+        SYSTEMTIME day = date(2024, 3, 1);
+        EXPECT_TRUE(control.SetTime(&day)); // while the hour shows alone
+        EXPECT_EQ(control.GetRange(nullptr, nullptr), 0U);
+        EXPECT_EQ(pEdit->date(), QDate(2024, 3, 1));
+        EXPECT_FALSE(control.SetFormat(L"'no date'"));
+        EXPECT_EQ(pEdit->text(), "15 open"_q);
+        EXPECT_TRUE(control.SetFormat(nullptr));
+        EXPECT_EQ(pEdit->displayFormat(), QLocale::c().dateFormat(QLocale::ShortFormat));
+    });
+}
+
+TEST(DateTime, Calendar)
+{
+    forMadeAndFound<CDateTimeCtrl_E, QDateTimeEdit, QDateEdit>(0, [](CDateTimeCtrl_E& control) {
+        EXPECT_TRUE(qobject_cast<QDateTimeEdit*>(control.GetSafeHwnd())->calendarPopup());
+        ASSERT_TRUE(control.GetMonthCal());
+        EXPECT_EQ(control.SendMessage(DTM_GETMONTHCAL), at<QWidget>(control.GetMonthCal()));
+        const SYSTEMTIME day = date(2024, 2, 29);
+        EXPECT_TRUE(control.SetTime(&day));
+    });
+    QWidget parent;
+    const Row<DWORD, bool, bool> rows[] = {{DTS_SHORTDATEFORMAT, true, false},
+                                           {DTS_LONGDATEFORMAT, true, false},
+                                           {DTS_TIMEFORMAT, false, true},
+                                           {DTS_UPDOWN, true, false}};
+    forRows(rows, [&](DWORD style, bool year, bool hour) {
+        CDateTimeCtrl_E control;
+        ASSERT_TRUE(control.Create(style, kPlace, &parent));
+        auto* const pEdit = qobject_cast<QDateTimeEdit*>(control.GetSafeHwnd());
+        EXPECT_EQ(pEdit->displayedSections().testFlag(QDateTimeEdit::YearSection), year);
+        EXPECT_EQ(pEdit->displayedSections().testFlag(QDateTimeEdit::HourSection), hour);
+        EXPECT_EQ(pEdit->calendarPopup(), !(style & DTS_UPDOWN));
+        EXPECT_EQ(pEdit->date(), QDate::currentDate());
+    });
+}
+
+TEST(DateTime, WithoutAUsableWidget)
+{
+    forUnusable<CDateTimeCtrl_E>([](CDateTimeCtrl_E& control) {
+        SYSTEMTIME time = date(2024, 2, 29);
+        SIZE size;
+        EXPECT_FALSE(control.SetTime(&time) || control.SetFormat(L"yy") ||
+                     control.SetRange(&time, &time) || control.GetIdealSize(&size));
+        EXPECT_EQ(control.GetTime(&time), DWORD(GDT_VALID));
+        EXPECT_EQ(control.GetRange(&time, &time), 0U);
+        EXPECT_EQ(time.wYear, 2024);
+        EXPECT_EQ(control.GetMonthCal(), nullptr);
+        control.CloseMonthCal();
+    });
+}
+
+TEST(DateTime, RealTypingAndTheCalendar)
+{
+    VXTEST_NEEDS_X11();
+    QDialog form;
+    CDateTimeCtrl_E control;
+    ASSERT_TRUE(control.Create(WS_VISIBLE, {10, 10, 150, 40}, &form));
+    SYSTEMTIME time = date(2024, 2, 29);
+    control.SetTime(&time);
+    control.SetFormat(L"yyyy'-'MM'-'dd");
+    ASSERT_TRUE(showAndActivate(&form));
+    control.SetFocus();
+    typeKey(XK_Up);
+    const auto year = [&] { return control.GetTime(&time), time.wYear; };
+    EXPECT_TRUE(waitUntil([&] { return year() == 2025; })) << year();
+    movePointer(control.GetSafeHwnd(), {control.GetSafeHwnd()->width() - 8, 15});
+    clickButton(1);
+    ASSERT_TRUE(waitUntil([&] { return control.GetMonthCal()->isVisible(); }));
+    control.CloseMonthCal();
+    EXPECT_TRUE(waitUntil([&] { return !control.GetMonthCal()->isVisible(); }));
+}
+
+} // namespace
