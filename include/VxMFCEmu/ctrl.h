@@ -2,4 +2,7 @@
 /// The standard controls.
 #pragma once
 
+#include <VxMFCEmu/ctrl/button.h>
+#include <VxMFCEmu/ctrl/edit.h>
 #include <VxMFCEmu/ctrl/progressctrl.h>
+#include <VxMFCEmu/ctrl/static.h>
