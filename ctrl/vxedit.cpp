@@ -53,15 +53,15 @@ void selectIn(QTextEdit& text, int nStart, int nEnd)
     text.setTextCursor(cursor);
 }
 
-/// A single line forgets its history with a new text only.
-void forgetHistory(QLineEdit& line)
+/// Makes a change that gives a single line its text anew, and so its cursor and state.
+template <typename Change>
+void keepState(QLineEdit& line, Change change)
 {
-    const QSignalBlocker quiet(line);
     const bool bModified = line.isModified();
     const int nCursor = line.cursorPosition();
     const int nStart = line.selectionStart();
     const int nLength = line.selectionLength();
-    line.setText(line.text());
+    change();
     line.setModified(bModified);
     line.setCursorPosition(nCursor);
     if (nLength > 0 && nCursor == nStart)
@@ -183,8 +183,8 @@ void CEdit_E::SetLimitText(UINT nMax)
     const int nLimit = nMax == 0 || nMax > INT_MAX ? INT_MAX : static_cast<int>(nMax);
     if (auto* const pText = widgetOf<QTextEdit>(*this))
         limitText(*pText, nLimit);
-    else
-        SetEditLimitText_E(GetSafeHwnd(), nLimit);
+    else if (auto* const pLine = widgetOf<QLineEdit>(*this))
+        keepState(*pLine, [&] { SetEditLimitText_E(pLine, nLimit); });
 }
 
 UINT CEdit_E::GetLimitText() const
@@ -295,10 +295,12 @@ BOOL CEdit_E::Undo()
 
 void CEdit_E::EmptyUndoBuffer()
 {
-    if (auto* const pLine = widgetOf<QLineEdit>(*this))
-        forgetHistory(*pLine);
-    else if (auto* const pText = widgetOf<QTextEdit>(*this))
+    if (auto* const pLine = widgetOf<QLineEdit>(*this)) {
+        const QSignalBlocker quiet(pLine); // a text that is set anew has no history
+        keepState(*pLine, [&] { pLine->setText(pLine->text()); });
+    } else if (auto* const pText = widgetOf<QTextEdit>(*this)) {
         pText->document()->clearUndoRedoStacks();
+    }
 }
 
 // Intended: the whole text, not only what is selected.

@@ -7,11 +7,11 @@
 
 #include <VxMFCEmu/wnd/windowgeometry.h>
 
+#include <QtCore/QtMath>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QScrollBar>
 
-#include <cmath>
 #include <cstring>
 
 using namespace vx::detail;
@@ -23,11 +23,14 @@ constexpr int kDialogUnitsPerTab = 32;
 /// How much wider Qt makes a line's cursor on its left for repainting.
 constexpr int kCursorRoom = 5;
 
-/// Its lines are laid out to the last one from then on.
+/// The document with its lines laid out to the last one, also before the widget is first shown.
 const QTextDocument& laidOut(const QTextEdit& text)
 {
-    text.document()->documentLayout()->documentSize();
-    return *text.document();
+    QTextDocument& document = *text.document();
+    if (document.pageSize().isNull())
+        document.setTextWidth(text.viewport()->width());
+    document.documentLayout()->documentSize();
+    return document;
 }
 
 int linesBefore(const QTextDocument& document, const QTextBlock& end)
@@ -74,14 +77,10 @@ QString lineText(const QTextEdit& text, int nLine)
                : QString();
 }
 
-QPoint inViewport(const QTextEdit& text, const tagPOINT& pt)
+int positionAt(const QTextEdit& text, const QPoint& inViewport)
 {
-    return text.viewport()->mapFromParent(fromPoint(pt));
-}
-
-int positionAt(const QTextEdit& text, const tagPOINT& pt)
-{
-    return text.cursorForPosition(inViewport(text, pt)).position();
+    laidOut(text);
+    return text.cursorForPosition(inViewport).position();
 }
 
 /// Measured from where the cursor is now, since only that is known.
@@ -96,9 +95,19 @@ QPoint placeInLine(const QLineEdit& line, int nPosition)
     return cursor.topLeft() + QPoint(kCursorRoom + qRound(distance), 0);
 }
 
-void scrollBy(QScrollBar& bar, int nSteps, int nStep)
+void scrollToLine(QTextEdit& text, qint64 nLine)
 {
-    const qint64 value = bar.value() + qint64{nSteps} * nStep;
+    const int nLast = linesBefore(laidOut(text), QTextBlock()) - 1;
+    const LinePlace place = placeOf(text, static_cast<int>(std::clamp<qint64>(nLine, 0, nLast)));
+    const qreal top = text.document()->documentLayout()->blockBoundingRect(place.block).top();
+    // The margin above the first line shows with it.
+    text.verticalScrollBar()->setValue(nLine <= 0 ? 0 : qCeil(top + place.line.y()));
+}
+
+void scrollSideways(QTextEdit& text, int nChars)
+{
+    QScrollBar& bar = *text.horizontalScrollBar();
+    const qint64 value = bar.value() + qint64{nChars} * text.fontMetrics().averageCharWidth();
     bar.setValue(static_cast<int>(std::clamp<qint64>(value, bar.minimum(), bar.maximum())));
 }
 
@@ -231,15 +240,15 @@ int CEdit_E::GetFirstVisibleLine() const
 {
     return askEdit(
         *this, 0, [](auto& line) { return line.cursorPositionAt(QPoint(0, line.height() / 2)); },
-        [](auto& text) { return lineOf(text, text.cursorForPosition(QPoint(0, 0)).position()); });
+        [](auto& text) { return lineOf(text, positionAt(text, QPoint(0, 0))); });
 }
 
 void CEdit_E::LineScroll(int nLines, int nChars)
 {
     if (auto* const pText = widgetOf<QTextEdit>(*this)) {
-        const QFontMetrics metrics = pText->fontMetrics();
-        scrollBy(*pText->verticalScrollBar(), nLines, metrics.lineSpacing());
-        scrollBy(*pText->horizontalScrollBar(), nChars, metrics.averageCharWidth());
+        if (nLines != 0)
+            scrollToLine(*pText, qint64{GetFirstVisibleLine()} + nLines);
+        scrollSideways(*pText, nChars);
     }
 }
 
@@ -250,7 +259,7 @@ int CEdit_E::CharFromPos(CPoint_E pt) const
     return askEdit(
         *this, -1, [&pt](auto& line) { return line.cursorPositionAt(fromPoint(pt)); },
         [&pt](auto& text) {
-            const int nPosition = positionAt(text, pt);
+            const int nPosition = positionAt(text, text.viewport()->mapFromParent(fromPoint(pt)));
             return MAKELONG(nPosition, lineOf(text, nPosition));
         });
 }
@@ -264,6 +273,7 @@ CPoint_E CEdit_E::PosFromChar(UINT nChar) const
     return toPoint(askEdit(
         *this, QPoint(), [=](auto& line) { return placeInLine(line, nPosition); },
         [=](auto& text) {
+            laidOut(text);
             QTextCursor cursor(text.document());
             cursor.setPosition(nPosition);
             return text.viewport()->mapToParent(text.cursorRect(cursor).topLeft());
