@@ -2,6 +2,7 @@
 #include <VxMFCEmu/ctrl/edit.h>
 
 #include "ctrl/vxedit_p.h"
+#include "ctrl/vxlineselection_p.h"
 #include "wnd/vxtextbuffer_p.h"
 
 #include <VxMFCEmu/wnd/windowgeometry.h>
@@ -71,17 +72,6 @@ void keepState(QLineEdit& line, Change change)
 }
 
 } // namespace
-
-void vx::detail::selectIn(QLineEdit& line, int nStart, int nEnd)
-{
-    if (nStart == -1)
-        line.setCursorPosition(line.text().size());
-    else if (nStart == 0 && nEnd == -1)
-        line.selectAll();
-    else if (nStart >= 0 && nStart <= line.text().size())
-        // Intended: an end before the start, -1 too, selects backwards.
-        line.setSelection(nStart, std::clamp(nEnd, -1, line.text().size()) - nStart);
-}
 
 BOOL CEdit_E::AttachDefault(QWidget* pParent)
 {
@@ -216,10 +206,8 @@ TCHAR CEdit_E::GetPasswordChar() const
 
 void CEdit_E::GetSel(int& nStartChar, int& nEndChar) const
 {
-    nStartChar = nEndChar = 0;
-    if (const auto* const pLine = widgetOf<QLineEdit>(*this)) {
-        selectionOf(*pLine, nStartChar, nEndChar);
-    } else if (const auto* const pText = widgetOf<QTextEdit>(*this)) {
+    getLineSelection(widgetOf<QLineEdit>(*this), nStartChar, nEndChar);
+    if (const auto* const pText = widgetOf<QTextEdit>(*this)) {
         nStartChar = pText->textCursor().selectionStart();
         nEndChar = pText->textCursor().selectionEnd();
     }
@@ -235,19 +223,16 @@ DWORD CEdit_E::GetSel() const
 
 void CEdit_E::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll)
 {
-    const QWidget* const pWidget = GetSafeHwnd();
-    if (!pWidget || (!(m_dwStyle & ES_NOHIDESEL) && !pWidget->hasFocus()))
+    setLineSelection(widgetOf<QLineEdit>(*this), m_dwStyle, nStartChar, nEndChar);
+    auto* const pText = widgetOf<QTextEdit>(*this);
+    if (!pText || (!(m_dwStyle & ES_NOHIDESEL) && !pText->hasFocus()))
         return;
-    if (auto* const pLine = widgetOf<QLineEdit>(*this)) {
-        selectIn(*pLine, nStartChar, nEndChar);
-    } else if (auto* const pText = widgetOf<QTextEdit>(*this)) {
-        const int nTop = pText->verticalScrollBar()->value();
-        const int nLeft = pText->horizontalScrollBar()->value();
-        selectIn(*pText, nStartChar, nEndChar);
-        if (bNoScroll) {
-            pText->verticalScrollBar()->setValue(nTop);
-            pText->horizontalScrollBar()->setValue(nLeft);
-        }
+    const int nTop = pText->verticalScrollBar()->value();
+    const int nLeft = pText->horizontalScrollBar()->value();
+    selectIn(*pText, nStartChar, nEndChar);
+    if (bNoScroll) {
+        pText->verticalScrollBar()->setValue(nTop);
+        pText->horizontalScrollBar()->setValue(nLeft);
     }
 }
 

@@ -28,17 +28,6 @@ bool useEdit(const CWnd_E& edit, Use use)
 /// Number of characters of many lines.
 inline int lengthOf(const QTextEdit& text) { return text.document()->characterCount() - 1; }
 
-/// The selection of a single line, or the cursor's position twice.
-inline void selectionOf(const QLineEdit& line, int& nStart, int& nEnd)
-{
-    const bool bSelected = line.hasSelectedText();
-    nStart = bSelected ? line.selectionStart() : line.cursorPosition();
-    nEnd = bSelected ? line.selectionEnd() : nStart;
-}
-
-/// Selects in a single line as CEdit_E::SetSel() says.
-void selectIn(QLineEdit& line, int nStart, int nEnd);
-
 /// Has a single line take only what an ES_* style allows, in the case that it asks for.
 void limitCharacters(QLineEdit& line, DWORD dwStyle);
 

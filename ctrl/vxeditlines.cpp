@@ -77,10 +77,14 @@ QString lineText(const QTextEdit& text, int nLine)
                : QString();
 }
 
-int positionAt(const QTextEdit& text, const QPoint& inViewport)
+/// The position nearest to the middle of a pixel of the viewport.
+int positionAt(const QTextEdit& text, const QPoint& pixel)
 {
-    laidOut(text);
-    return text.cursorForPosition(inViewport).position();
+    const QScrollBar& bar = *text.horizontalScrollBar();
+    const QPointF scrolled(text.isRightToLeft() ? bar.maximum() - bar.value() : bar.value(),
+                           text.verticalScrollBar()->value());
+    return laidOut(text).documentLayout()->hitTest(pixel + scrolled + QPointF(0.0, 0.5),
+                                                   Qt::FuzzyHit);
 }
 
 /// Measured from where the cursor is now, since only that is known.

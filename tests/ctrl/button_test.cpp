@@ -38,8 +38,7 @@ TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
     forRows(rows, [&](QWidget* pFound, DWORD dwStyle, const char* pszClass, DWORD set,
                       const char* pszStates) {
         CButton_E made;
-        if (!pFound)
-            ASSERT_EQ(made.Create(L"", dwStyle, kRect, &window, 0xFFFF), 1);
+        ASSERT_TRUE(pFound || made.Create(L"", dwStyle, kRect, &window, 0xFFFF) == 1);
         QWidget* const pWidget = pFound ? pFound : made;
         auto* const pButton = qobject_cast<CButton_E*>(CWnd_E::FromHandle(pWidget));
         ASSERT_TRUE(pButton);
