@@ -220,7 +220,7 @@ void CButton_E::SetButtonStyle(UINT nStyle, BOOL)
 QIcon CButton_E::SetIcon(const QIcon& icon)
 {
     return askWidget<QAbstractButton>(*this, QIcon(), [&icon](auto& button) {
-        const QIcon previous = button.icon();
+        QIcon previous = button.icon();
         button.setIcon(icon);
         return previous;
     });
@@ -234,7 +234,7 @@ QIcon CButton_E::GetIcon() const
 QPixmap CButton_E::SetBitmap(const QPixmap& bitmap)
 {
     return askWidget<QAbstractButton>(*this, QPixmap(), [&bitmap](auto& button) {
-        const QPixmap previous = button.icon().pixmap(button.iconSize());
+        QPixmap previous = button.icon().pixmap(button.iconSize());
         button.setIcon(QIcon(bitmap));
         if (!bitmap.isNull())
             button.setIconSize(bitmap.size());

@@ -8,6 +8,7 @@
 #include <VxMFCEmu/wnd/windowgeometry.h>
 
 #include <QtCore/QtMath>
+#include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QScrollBar>

@@ -29,7 +29,7 @@ LRESULT getSel(CEdit_E& edit, WPARAM wParam, LPARAM lParam)
 LRESULT posFromChar(CEdit_E& edit, WPARAM wParam, LPARAM)
 {
     const CPoint_E pt = edit.PosFromChar(static_cast<UINT>(wParam));
-    return pt == CPoint_E(-1, -1) ? -1 : MAKELPARAM(pt.x, pt.y);
+    return pt.x == -1 && pt.y == -1 ? -1 : MAKELPARAM(pt.x, pt.y);
 }
 
 LRESULT lineScroll(CEdit_E& edit, WPARAM wParam, LPARAM lParam)

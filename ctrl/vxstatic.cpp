@@ -96,7 +96,7 @@ BOOL CStatic_E::Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, CWn
 QPixmap CStatic_E::SetBitmap(const QPixmap& bitmap)
 {
     return askWidget<QLabel>(*this, QPixmap(), [&bitmap](auto& label) {
-        const QPixmap previous = label.pixmap(Qt::ReturnByValue);
+        QPixmap previous = label.pixmap(Qt::ReturnByValue);
         label.setPixmap(bitmap);
         return previous;
     });
@@ -111,7 +111,7 @@ QPixmap CStatic_E::GetBitmap() const
 QIcon CStatic_E::SetIcon(const QIcon& icon)
 {
     return askWidget<QLabel>(*this, QIcon(), [&icon](auto& label) {
-        const QIcon previous = label.windowIcon();
+        QIcon previous = label.windowIcon();
         label.setWindowIcon(icon);
         return previous;
     });
