@@ -63,7 +63,7 @@ TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
     EXPECT_EQ(pThree->checkState(), Qt::PartiallyChecked);
     found.SendMessage(BM_SETSTYLE, BS_RADIOBUTTON | BS_LEFTTEXT);
     EXPECT_EQ(found.GetButtonStyle(), BS_AUTO3STATE | BS_LEFTTEXT);
-    CWnd_E::DeleteTempMap();
+    ClearTempObjectPool();
 }
 
 TEST(Button, UncheckInAGroupAndClick)

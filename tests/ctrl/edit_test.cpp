@@ -60,7 +60,7 @@ protected:
                                                     : new VxCUILineEdit(&m_parent));
         ASSERT_TRUE(m_edit.GetSafeHwnd());
     }
-    void TearDown() override { CWnd_E::DeleteTempMap(); }
+    void TearDown() override { ClearTempObjectPool(); }
 
     bool isText() const { return GetParam() >= MadeText; }
     QString text()

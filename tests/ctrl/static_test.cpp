@@ -57,7 +57,7 @@ TEST(Static, TextAndImages)
         EXPECT_EQ(pStatic->SendMessage(STM_GETICON), static_cast<LRESULT>(handle));
         EXPECT_EQ(pStatic->SendMessage(STM_SETIMAGE, IMAGE_ENHMETAFILE, bitmap), 0);
     }
-    CWnd_E::DeleteTempMap();
+    ClearTempObjectPool();
 
     CStatic_E destroyed;
     auto pLabel = std::make_unique<QLabel>();
