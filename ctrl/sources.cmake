@@ -1,13 +1,22 @@
 vxmfc_sources(FOLDER ctrl
   HEADERS
+    ctrl/button.h
     ctrl/datetimectrl.h
+    ctrl/edit.h
     ctrl/progressctrl.h
     ctrl/scrollbar.h
     ctrl/sliderctrl.h
     ctrl/spinbuttonctrl.h
+    ctrl/static.h
   SOURCES
+    vxbutton.cpp
     vxdatetimectrl.cpp
+    vxedit.cpp
+    vxeditinput.cpp
+    vxeditlines.cpp
+    vxeditmessages.cpp
     vxprogressctrl.cpp
     vxscrollbar.cpp
     vxsliderctrl.cpp
-    vxspinbuttonctrl.cpp)
+    vxspinbuttonctrl.cpp
+    vxstatic.cpp)

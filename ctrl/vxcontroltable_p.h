@@ -6,6 +6,7 @@
 #include <VxMFCEmu/wnd/controlmessages.h>
 #include <VxMFCEmu/wnd/resourceids.h>
 #include <VxMFCEmu/wnd/window.h>
+#include <VxMFCEmu/wnd/windowtext.h>
 
 #include <QtWidgets/QWidget>
 
@@ -33,6 +34,16 @@ template <typename Widget>
 BOOL attachNew(CWnd_E& control, QWidget* pParent)
 {
     return control.Attach(new Widget(pParent), pParent, false);
+}
+
+/// CWnd_E's Create() with a text; TRUE once the control is there.
+inline BOOL createWithText(CWnd_E& control, LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect,
+                           QWidget* pParent)
+{
+    if (!control.CWnd_E::Create(dwStyle, rect, pParent))
+        return FALSE;
+    SetWindowText_E(control.GetSafeHwnd(), lpszText);
+    return TRUE;
 }
 
 /// Has @p create make the control below a window, and gives it the name of its id.

@@ -1,3 +1,5 @@
+#include "wnd/vxuncheck_p.h"
+
 #include <VxMFCEmu/wnd/controlmessages.h>
 #include <VxMFCEmu/wnd/resourceids.h>
 #include <VxMFCEmu/wnd/wincodes.h>
@@ -17,9 +19,8 @@
 
 #include <climits>
 
-namespace {
+namespace vx::detail {
 
-/// A group in which one button is always checked does not let it be unchecked; Win32 does.
 void uncheck(QAbstractButton* pButton)
 {
     const QPointer<QAbstractButton> pAlive(pButton);
@@ -36,11 +37,15 @@ void uncheck(QAbstractButton* pButton)
         pGroup->setExclusive(true);
 }
 
+} // namespace vx::detail
+
+namespace {
+
 void setCheck(QAbstractButton* pButton, UINT uCheck)
 {
     auto* const pBox = qobject_cast<QCheckBox*>(pButton);
     if (uCheck == BST_UNCHECKED)
-        uncheck(pButton);
+        vx::detail::uncheck(pButton);
     else if (uCheck == BST_INDETERMINATE && pBox && pBox->isTristate())
         pBox->setCheckState(Qt::PartiallyChecked);
     else if (pBox)

@@ -4,6 +4,8 @@
 #include <VxMFCEmu/text/vxqstring.h>
 #include <VxMFCEmu/wnd/windowtree.h>
 
+#include "wnd/vxtextbuffer_p.h"
+
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QComboBox>
@@ -124,13 +126,7 @@ int GetWindowText_E(HWND hWnd, CString_E& strText)
 
 int GetWindowText_E(HWND hWnd, LPWSTR pszText, int nMaxCount)
 {
-    if (!pszText || nMaxCount <= 0)
-        return 0;
-    const CString_E strText(textOf(hWnd));
-    const int nLength = std::min(strText.GetLength(), nMaxCount - 1);
-    std::copy_n(strText.GetString(), nLength, pszText);
-    pszText[nLength] = L'\0';
-    return nLength;
+    return vx::detail::copyTerminated(CString_E(textOf(hWnd)), pszText, nMaxCount);
 }
 
 int GetWindowTextLength_E(HWND hWnd) { return textOf(hWnd).toUcs4().size(); }

@@ -2,8 +2,11 @@
 /// The standard controls.
 #pragma once
 
+#include <VxMFCEmu/ctrl/button.h>
 #include <VxMFCEmu/ctrl/datetimectrl.h>
+#include <VxMFCEmu/ctrl/edit.h>
 #include <VxMFCEmu/ctrl/progressctrl.h>
 #include <VxMFCEmu/ctrl/scrollbar.h>
 #include <VxMFCEmu/ctrl/sliderctrl.h>
 #include <VxMFCEmu/ctrl/spinbuttonctrl.h>
+#include <VxMFCEmu/ctrl/static.h>

@@ -50,6 +50,17 @@ inline constexpr UINT EM_GETCUEBANNER = 0x1502;
 inline constexpr UINT EM_SHOWBALLOONTIP = 0x1503;
 inline constexpr UINT EM_HIDEBALLOONTIP = 0x1504;
 
+// Margins of an edit control
+inline constexpr UINT EC_LEFTMARGIN = 0x0001;
+inline constexpr UINT EC_RIGHTMARGIN = 0x0002;
+inline constexpr UINT EC_USEFONTINFO = 0xFFFF;
+
+// Icons of a balloon tip
+inline constexpr int TTI_NONE = 0;
+inline constexpr int TTI_INFO = 1;
+inline constexpr int TTI_WARNING = 2;
+inline constexpr int TTI_ERROR = 3;
+
 // Buttons
 inline constexpr UINT BM_GETCHECK = 0x00F0;
 inline constexpr UINT BM_SETCHECK = 0x00F1;
@@ -74,6 +85,12 @@ inline constexpr UINT STM_SETICON = 0x0170;
 inline constexpr UINT STM_GETICON = 0x0171;
 inline constexpr UINT STM_SETIMAGE = 0x0172;
 inline constexpr UINT STM_GETIMAGE = 0x0173;
+
+// Kinds of images of buttons and static controls
+inline constexpr UINT IMAGE_BITMAP = 0;
+inline constexpr UINT IMAGE_ICON = 1;
+inline constexpr UINT IMAGE_CURSOR = 2;
+inline constexpr UINT IMAGE_ENHMETAFILE = 3;
 
 // Scroll bars
 inline constexpr UINT SBM_SETPOS = 0x00E0;

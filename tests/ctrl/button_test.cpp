@@ -1,0 +1,153 @@
+#include "support/test.h"
+#include "support/xinput.h"
+
+#include <QtTest/QSignalSpy>
+
+namespace {
+
+constexpr tagRECT kRect{5, 6, 105, 36};
+
+} // namespace
+
+TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
+{
+    CWnd_E window;
+    ASSERT_TRUE(window.Create(static_cast<QWidget*>(nullptr)));
+    QWidget* const pParent = window;
+    auto* const pThree = new QCheckBox(pParent);
+    pThree->setTristate(true);
+    // What the form has; the style asked for, the widget's class and style, and what SetCheck() of
+    // 1, 2, 3, -1 and 0 leaves, one after the other.
+    const Row<QWidget*, DWORD, const char*, DWORD, const char*> rows[] = {
+        {nullptr, BS_PUSHBUTTON, "QPushButton", 0, "00000"},
+        {nullptr, BS_DEFPUSHBUTTON | BS_FLAT, "QPushButton", 0x8001, "00000"},
+        {nullptr, BS_CHECKBOX, "QCheckBox", 3, "11110"},
+        {nullptr, BS_AUTOCHECKBOX, "QCheckBox", 3, "11110"},
+        {nullptr, BS_3STATE, "QCheckBox", 5, "12220"},
+        {nullptr, BS_AUTO3STATE, "QCheckBox", 6, "12220"},
+        {nullptr, BS_RADIOBUTTON, "QRadioButton", 4, "11110"},
+        {nullptr, BS_AUTORADIOBUTTON, "QRadioButton", 9, "11110"},
+        {nullptr, BS_GROUPBOX, "QGroupBox", 7, "00000"},
+        {nullptr, BS_OWNERDRAW, "QPushButton", 0xB, "00000"},
+        {new QCheckBox(pParent), 0, "QCheckBox", BS_AUTOCHECKBOX, "11110"},
+        {pThree, 0, "QCheckBox", BS_AUTOCHECKBOX, "11110"},
+        {new QRadioButton(pParent), 0, "QRadioButton", BS_RADIOBUTTON, "11110"},
+        {new QGroupBox(pParent), 0, "QGroupBox", BS_GROUPBOX, "00000"},
+        {new QToolButton(pParent), 0, "QToolButton", 0, "00000"},
+    };
+    forRows(rows, [&](QWidget* pFound, DWORD dwStyle, const char* pszClass, DWORD set,
+                      const char* pszStates) {
+        CButton_E made;
+        ASSERT_TRUE(pFound || made.Create(L"", dwStyle, kRect, &window, 0xFFFF) == 1);
+        QWidget* const pWidget = pFound ? pFound : made;
+        auto* const pButton = qobject_cast<CButton_E*>(CWnd_E::FromHandle(pWidget));
+        ASSERT_TRUE(pButton);
+        EXPECT_STREQ(pWidget->metaObject()->className(), pszClass);
+        EXPECT_EQ(pButton->GetStyle(), set);
+        EXPECT_EQ(pButton->GetButtonStyle(), set);
+        EXPECT_EQ(pWidget->property("flat").toBool(), set == 0x8001);
+        pButton->SetWindowText(L"&Text");
+        EXPECT_EQ(pWidget->property(set == BS_GROUPBOX ? "title" : "text"), "&Text"_q);
+        for (const int nSet : {1, 2, 3, -1, 0}) {
+            const int nState = *pszStates++ - '0';
+            pButton->SetCheck(nSet);
+            EXPECT_EQ(pButton->GetCheck(), nState) << nSet;
+            pButton->SendMessage(BM_SETCHECK, static_cast<WPARAM>(nSet));
+            EXPECT_EQ(pButton->SendMessage(BM_GETCHECK), nState) << nSet;
+        }
+    });
+    CButton_E found;
+    ASSERT_TRUE(found.SubclassWindow(pThree));
+    found.SetButtonStyle(BS_AUTO3STATE);
+    found.SetCheck(2);
+    EXPECT_EQ(pThree->checkState(), Qt::PartiallyChecked);
+    found.SendMessage(BM_SETSTYLE, BS_RADIOBUTTON | BS_LEFTTEXT);
+    EXPECT_EQ(found.GetButtonStyle(), BS_AUTO3STATE | BS_LEFTTEXT);
+    ClearTempObjectPool();
+}
+
+TEST(Button, UncheckInAGroupAndClick)
+{
+    QWidget parent;
+    CButton_E radios[2];
+    for (CButton_E& radio : radios) {
+        ASSERT_TRUE(radio.Create(L"", BS_AUTORADIOBUTTON, kRect, &parent));
+        radio.SetCheck(1);
+    }
+    EXPECT_EQ(radios[0].GetCheck(), 0);
+    radios[1].SetCheck(0);
+    EXPECT_EQ(radios[1].GetCheck(), 0);
+    const QSignalSpy clicks(radios[1].GetSafeHwnd(), SIGNAL(clicked()));
+    radios[1].SetCheck(1);
+    EXPECT_EQ(clicks.count(), 0);
+    radios[0].Click();
+    radios[1].SendMessage(BM_CLICK);
+    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_EQ(radios[1].GetCheck(), 1);
+}
+
+TEST(Button, ImagesAndWhatHasNone)
+{
+    QPixmap red(12, 10);
+    red.fill(Qt::red);
+    const QIcon icon(red);
+    QImage image = red.toImage();
+    const auto handle = reinterpret_cast<LPARAM>(&image);
+    CButton_E button;
+    ASSERT_TRUE(button.Create(L"&Go", 0, kRect, static_cast<QWidget*>(nullptr)));
+    EXPECT_EQ(button.GetSafeHwnd()->geometry(), QRect(5, 6, 100, 30));
+    EXPECT_EQ(button.GetSafeHwnd()->property("text"), "&Go"_q);
+    EXPECT_TRUE(button.SetBitmap(red).isNull());
+    EXPECT_EQ(button.GetBitmap().size(), red.size());
+    button.SetIcon(icon);
+    EXPECT_EQ(button.GetIcon().cacheKey(), icon.cacheKey());
+    EXPECT_EQ(button.SendMessage(BM_SETIMAGE, IMAGE_BITMAP, handle), 0);
+    EXPECT_EQ(button.GetBitmap().toImage().pixelColor(3, 3), QColor(Qt::red));
+    EXPECT_EQ(button.SendMessage(BM_GETIMAGE, IMAGE_BITMAP), handle);
+    EXPECT_EQ(button.SendMessage(BM_SETIMAGE, IMAGE_BITMAP, 0), handle);
+    EXPECT_TRUE(button.GetBitmap().isNull());
+    button.SendMessage(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(&icon));
+    EXPECT_EQ(button.GetIcon().cacheKey(), icon.cacheKey());
+    tagSIZE size{};
+    EXPECT_TRUE(button.GetIdealSize(&size) && size.cx > 0 && !button.GetIdealSize(nullptr));
+
+    CButton_E none;
+    CButton_E destroyed;
+    CButton_E group;
+    auto pWidget = std::make_unique<QCheckBox>();
+    QGroupBox box;
+    QLineEdit edit;
+    EXPECT_TRUE(destroyed.SubclassWindow(pWidget.get()) && group.SubclassWindow(&box));
+    pWidget.reset();
+    EXPECT_FALSE(none.SubclassWindow(&edit));
+    for (CButton_E* const pButton : {&none, &destroyed, &group}) {
+        pButton->SetCheck(1);
+        pButton->SetState(TRUE);
+        pButton->Click();
+        pButton->SetButtonStyle(BS_AUTO3STATE);
+        EXPECT_TRUE(pButton->SetIcon(icon).isNull() && pButton->GetIcon().isNull());
+        EXPECT_TRUE(pButton->SetBitmap(red).isNull() && pButton->GetBitmap().isNull());
+        EXPECT_FALSE(pButton->GetCheck() || pButton->GetState() || pButton->GetIdealSize(&size));
+    }
+}
+
+TEST(Button, RealClicksAndFocus)
+{
+    VXTEST_NEEDS_X11();
+    QWidget window;
+    CButton_E box;
+    CButton_E push;
+    ASSERT_TRUE(box.Create(L"three", BS_AUTO3STATE | WS_VISIBLE, kRect, &window));
+    ASSERT_TRUE(push.Create(L"push", WS_VISIBLE, {5, 50, 105, 80}, &window));
+    ASSERT_TRUE(vxtest::showAndActivate(&window));
+    for (const int nState : {2, 1, 0}) {
+        vxtest::movePointer(box.GetSafeHwnd(), {10, 15});
+        vxtest::clickButton(1);
+        EXPECT_TRUE(vxtest::waitUntil([&] { return box.GetCheck() == nState; })) << nState;
+    }
+    push.SetState(TRUE);
+    EXPECT_EQ(push.GetState(), 8U);
+    EXPECT_EQ(box.SendMessage(BM_GETSTATE), 0);
+    push.SendMessage(BM_SETSTATE, FALSE);
+    EXPECT_EQ(push.GetState(), 0U);
+}
