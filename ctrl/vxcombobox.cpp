@@ -5,6 +5,8 @@
 
 #include <VxCustomUI.h>
 
+#include <cmath>
+
 IMPLEMENT_DYNCREATE_E(CComboBox_E, CWnd_E, QComboBox)
 
 namespace {

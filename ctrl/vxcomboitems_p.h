@@ -7,8 +7,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 
-#include <cmath>
-
 namespace vx::detail {
 
 inline bool hasRow(const QComboBox& combo, int nRow) { return nRow >= 0 && nRow < combo.count(); }
@@ -22,21 +20,30 @@ Result askItem(const CWnd_E& control, int nRow, Result failure, Ask ask)
     });
 }
 
-/// Keeps a combo box silent, and the text that has been typed into it: the widget would replace it
-/// by that of the current item each time when items change.
+/// Keeps a combo box silent and its line edit as the user left it: the widget would show the text
+/// of the current item anew each time when items change.
 class QuietItems
 {
 public:
     explicit QuietItems(QComboBox& combo)
         : m_quiet(&combo), m_pEdit(combo.lineEdit()), m_quietEdit(m_pEdit)
     {
-        if (m_pEdit)
-            m_strText = m_pEdit->text();
+        if (!m_pEdit)
+            return;
+        m_strText = m_pEdit->text();
+        m_bModified = m_pEdit->isModified();
+        m_nCursor = m_nAnchor = m_pEdit->cursorPosition();
+        if (m_pEdit->hasSelectedText())
+            m_nAnchor += m_pEdit->selectionStart() == m_nCursor ? m_pEdit->selectionLength()
+                                                                : -m_pEdit->selectionLength();
     }
     ~QuietItems()
     {
-        if (m_pEdit && m_pEdit->text() != m_strText)
-            m_pEdit->setText(m_strText);
+        if (!m_pEdit || m_pEdit->text() == m_strText)
+            return;
+        m_pEdit->setText(m_strText);
+        m_pEdit->setSelection(m_nAnchor, m_nCursor - m_nAnchor);
+        m_pEdit->setModified(m_bModified);
     }
     Q_DISABLE_COPY_MOVE(QuietItems)
 
@@ -45,6 +52,9 @@ private:
     QLineEdit* const m_pEdit;
     const QSignalBlocker m_quietEdit;
     QString m_strText;
+    int m_nCursor = 0;
+    int m_nAnchor = 0;
+    bool m_bModified = false;
 };
 
 } // namespace vx::detail

@@ -26,19 +26,9 @@ QString stateOf(const QComboBox& combo)
 
 LRESULT textOf(Box& box, int nIndex, const wchar_t* expected)
 {
-    CString_E text(L"before");
-    wchar_t buffer[16] = L"before";
-    const int length = box.GetLBText(nIndex, text);
-    EXPECT_STREQ(text.GetString(), expected);
-    EXPECT_EQ(box.GetLBTextLen(nIndex), length);
-    EXPECT_EQ(box.SendMessage(CB_GETLBTEXT, WPARAM(nIndex), LPARAM(buffer)), length);
-    EXPECT_STREQ(buffer, length < 0 ? L"before" : expected);
-    return length;
-}
-
-LRESULT send(Box& box, UINT message, int w, const wchar_t* text)
-{
-    return box.SendMessage(message, WPARAM(w), textParam(text));
+    return expectText(
+        box, nIndex, expected, [](Box& b, int i, CString_E& text) { return b.GetLBText(i, text); },
+        std::mem_fn(&Box::GetLBTextLen), CB_GETLBTEXT);
 }
 
 // clang-format off
@@ -107,7 +97,7 @@ const Step<Box> kFailures[] = {
     {__LINE__, [](Box& b) -> LRESULT { return b.DeleteString(0); }, CB_ERR, ""},
     {__LINE__, [](Box& b) -> LRESULT { return b.FindString(0, L""); }, CB_ERR, ""},
     {__LINE__, [](Box& b) -> LRESULT { return b.SelectString(0, L""); }, CB_ERR, ""},
-    {__LINE__, [](Box& b) -> LRESULT { return textOf(b, 0, L""); }, CB_ERR, nullptr},
+    {__LINE__, [](Box& b) -> LRESULT { CString_E text(L"a"); return b.GetLBText(0, text) + b.GetLBTextLen(0) + text.GetLength(); }, 2 * CB_ERR, ""},
     {__LINE__, [](Box& b) -> LRESULT { return LRESULT(b.GetItemData(0)); }, -1, ""},
     {__LINE__, [](Box& b) -> LRESULT { return b.SetItemDataPtr(0, nullptr); }, CB_ERR, ""},
     {__LINE__, [](Box& b) -> LRESULT { return LPARAM(b.GetItemDataPtr(0)); }, 0, ""},

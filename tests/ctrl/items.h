@@ -68,6 +68,28 @@ void expectFailures(const Step<Control> (&steps)[Count])
     wrong.SetImpQObject(nullptr);
 }
 
+/// Looks at an item's text by the control's two members and by the message of @p message; returns
+/// its length.
+template <typename Control, typename Get, typename GetLength>
+LRESULT expectText(Control& control, int nIndex, const wchar_t* expected, Get get,
+                   GetLength getLength, UINT message)
+{
+    CString_E text(L"before");
+    wchar_t buffer[16] = L"before";
+    const int length = get(control, nIndex, text);
+    EXPECT_STREQ(text.GetString(), expected);
+    EXPECT_EQ(getLength(control, nIndex), length);
+    EXPECT_EQ(control.SendMessage(message, WPARAM(nIndex), LPARAM(buffer)), length);
+    EXPECT_STREQ(buffer, length < 0 ? L"before" : expected);
+    return length;
+}
+
+template <typename Control>
+LRESULT send(Control& control, UINT message, int w, const wchar_t* text)
+{
+    return control.SendMessage(message, WPARAM(w), reinterpret_cast<LPARAM>(text));
+}
+
 inline LPARAM textParam(const wchar_t* text) { return reinterpret_cast<LPARAM>(text); }
 
 } // namespace vxtest

@@ -21,21 +21,11 @@ QString stateOf(const QListWidget& list)
     return "%1 @%2"_q.arg(items.join(u',')).arg(list.currentRow());
 }
 
-LRESULT send(List& list, UINT message, int w, const wchar_t* text)
-{
-    return list.SendMessage(message, WPARAM(w), textParam(text));
-}
-
 LRESULT textOf(List& list, int nIndex, const wchar_t* expected)
 {
-    CString_E text(L"before");
-    wchar_t buffer[16] = L"before";
-    const int length = list.GetText(nIndex, text);
-    EXPECT_STREQ(text.GetString(), expected);
-    EXPECT_EQ(list.GetTextLen(nIndex), length);
-    EXPECT_EQ(list.SendMessage(LB_GETTEXT, WPARAM(nIndex), LPARAM(buffer)), length);
-    EXPECT_STREQ(buffer, length < 0 ? L"before" : expected);
-    return length;
+    return expectText(
+        list, nIndex, expected, [](List& l, int i, CString_E& text) { return l.GetText(i, text); },
+        std::mem_fn(&List::GetTextLen), LB_GETTEXT);
 }
 
 /// The selected rows as digits.
@@ -111,7 +101,7 @@ const Step<List> kFailures[] = {
     {__LINE__, [](List& l) -> LRESULT { return l.AddString(L"a") + l.InsertString(0, L"a"); }, 2 * LB_ERR, ""},
     {__LINE__, [](List& l) -> LRESULT { return l.ResetContent(), l.DeleteString(0); }, LB_ERR, ""},
     {__LINE__, [](List& l) -> LRESULT { return l.FindString(0, L"") + l.SelectString(0, L""); }, 2 * LB_ERR, ""},
-    {__LINE__, [](List& l) -> LRESULT { return textOf(l, 0, L""); }, LB_ERR, nullptr},
+    {__LINE__, [](List& l) -> LRESULT { CString_E text(L"a"); return l.GetText(0, text) + l.GetTextLen(0) + text.GetLength(); }, 2 * LB_ERR, ""},
     {__LINE__, [](List& l) -> LRESULT { return LRESULT(l.GetItemData(0)) + l.SetItemData(0, 1); }, -2, ""},
     {__LINE__, [](List& l) -> LRESULT { return l.GetSelCount() + l.GetSelItems(1, nullptr) + l.SetSel(-1); }, 3 * LB_ERR, ""},
     {__LINE__, [](List& l) -> LRESULT { tagRECT rect; return l.GetItemRect(0, &rect) + l.GetTopIndex(); }, 2 * LB_ERR, ""},
