@@ -168,7 +168,7 @@ int CComboBox_E::SelectString(int, const wchar_t* lpszString)
 int CComboBox_E::GetLBText(int nIndex, wchar_t* lpszText) const
 {
     return askItem(*this, nIndex, CB_ERR,
-                   [&](auto& combo) { return copyText(combo.itemText(nIndex), lpszText); });
+                   [&](auto& combo) { return copyWhole(combo.itemText(nIndex), lpszText); });
 }
 
 int CComboBox_E::GetLBText(int nIndex, CString_E& rString) const

@@ -140,8 +140,8 @@ BOOL CComboBoxEx_E::GetItem(COMBOBOXEXITEM* pCBItem) const
             return FALSE;
         const int nRow = bEdit ? combo.currentIndex() : rowOf(combo, pCBItem->iItem);
         if (pCBItem->mask & CBEIF_TEXT) {
-            copyText(bEdit ? combo.currentText() : combo.itemText(nRow), pCBItem->pszText,
-                     pCBItem->cchTextMax);
+            copyTerminated(bEdit ? combo.currentText() : combo.itemText(nRow), pCBItem->pszText,
+                           pCBItem->cchTextMax);
         }
         for (const NumberRow& row : kNumbers) {
             if (pCBItem->mask & row.mask)

@@ -115,7 +115,7 @@ CString_E CComboBox_E::GetCueBanner() const
 BOOL CComboBox_E::GetCueBanner(wchar_t* lpszText, int cchText) const
 {
     return askWidget<QComboBox>(*this, FALSE, [&](auto& combo) {
-        copyText(cueOf(combo), lpszText, cchText);
+        copyTerminated(cueOf(combo), lpszText, cchText);
         return lpszText && cchText > 0;
     });
 }

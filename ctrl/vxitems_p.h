@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ctrl/vxcontroltable_p.h"
+#include "wnd/vxtextbuffer_p.h"
 
 #include <QtCore/QVariant>
 
@@ -43,17 +44,10 @@ constexpr int insertionRow(int nIndex, int nCount)
     return nIndex >= 0 && nIndex <= nCount ? nIndex : -1;
 }
 
-/// The terminated start of @p strText, of at most @p nMaxCount characters with the terminator;
-/// returns the length. Nothing without a buffer.
-inline int copyText(const QString& strText, wchar_t* lpszString, int nMaxCount = INT_MAX)
+/// Copies the whole text to a buffer that the caller made large enough.
+inline int copyWhole(const QString& strText, wchar_t* lpszText)
 {
-    if (!lpszString || nMaxCount <= 0)
-        return 0;
-    const CString_E str(strText);
-    const int nLength = std::min(str.GetLength(), nMaxCount - 1);
-    std::copy_n(str.GetString(), nLength, lpszString);
-    lpszString[nLength] = L'\0';
-    return nLength;
+    return copyTerminated(strText, lpszText, INT_MAX);
 }
 
 inline int lengthOf(const QString& strText) { return CString_E(strText).GetLength(); }

@@ -94,7 +94,7 @@ void CListBox_E::ResetContent()
 int CListBox_E::GetText(int nIndex, wchar_t* lpszBuffer) const
 {
     return askListItem(*this, nIndex, LB_ERR, [lpszBuffer](auto&, auto& item) {
-        return copyText(item.text(), lpszBuffer);
+        return copyWhole(item.text(), lpszBuffer);
     });
 }
 

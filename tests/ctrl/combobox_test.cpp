@@ -112,6 +112,7 @@ TEST(ComboBox, IsMadeByItsStyle)
     VxCUIComboBox companion;
     EXPECT_TRUE(qobject_cast<Box*>(CWnd_E::FromHandle(&companion)));
     EXPECT_EQ(SendMessage_E(&companion, CB_ADDSTRING, 0, 0), 0);
+    CWnd_E::DeleteTempMap();
 }
 
 TEST(ComboBox, WithoutALineEdit)

@@ -113,6 +113,8 @@ TEST(ListBox, IsMadeByItsStyle)
         EXPECT_EQ(form.control.GetStyle(), dwStyle);
         EXPECT_FALSE(form.widget->findChild<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly));
     }
+    QListWidget plain;
+    EXPECT_EQ(SendMessage_E(&plain, LB_ADDSTRING, 0, 0), 0);
 }
 
 TEST(CheckListBox, EveryMember)
