@@ -110,9 +110,9 @@ TEST(ComboBox, IsMadeByItsStyle)
         EXPECT_EQ(form.control.GetStyle(), dwKept);
     }
     VxCUIComboBox companion;
-    EXPECT_TRUE(qobject_cast<Box*>(CWnd_E::FromHandle(&companion)));
+    const std::unique_ptr<CObject_E> made(CObject_E::FromImpMetaObject(companion.metaObject()));
+    EXPECT_TRUE(qobject_cast<Box*>(made.get()));
     EXPECT_EQ(SendMessage_E(&companion, CB_ADDSTRING, 0, 0), 0);
-    CWnd_E::DeleteTempMap();
 }
 
 TEST(ComboBox, WithoutALineEdit)
