@@ -1,8 +1,12 @@
 vxmfc_sources(FOLDER ctrl
   HEADERS
     ctrl/button.h
+    ctrl/checklistbox.h
+    ctrl/combobox.h
+    ctrl/comboboxex.h
     ctrl/datetimectrl.h
     ctrl/edit.h
+    ctrl/listbox.h
     ctrl/progressctrl.h
     ctrl/scrollbar.h
     ctrl/sliderctrl.h
@@ -10,11 +14,19 @@ vxmfc_sources(FOLDER ctrl
     ctrl/static.h
   SOURCES
     vxbutton.cpp
+    vxchecklistbox.cpp
+    vxcombobox.cpp
+    vxcomboboxex.cpp
+    vxcombomessages.cpp
+    vxcomboparts.cpp
     vxdatetimectrl.cpp
     vxedit.cpp
     vxeditinput.cpp
     vxeditlines.cpp
     vxeditmessages.cpp
+    vxlistbox.cpp
+    vxlistmessages.cpp
+    vxlistselection.cpp
     vxprogressctrl.cpp
     vxscrollbar.cpp
     vxsliderctrl.cpp

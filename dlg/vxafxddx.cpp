@@ -1,4 +1,5 @@
 // Exchange of what buttons, lists, sliders and calendars hold.
+#include "dlg/vxcombotext_p.h"
 #include "dlg/vxddx_p.h"
 
 #include <VxMFCEmu/dlg/ddx.h>
@@ -6,10 +7,8 @@
 #include <VxMFCEmu/wnd/window.h>
 
 #include <QtWidgets/QCalendarWidget>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QGroupBox>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QScrollBar>
@@ -18,6 +17,8 @@
 namespace {
 
 using vx::detail::beginExchange;
+using vx::detail::changeCombo;
+using vx::detail::showComboText;
 
 template <typename Control>
 void exchangeCheck(CDataExchange_E* pDX, Control* pControl, int& value)
@@ -38,18 +39,6 @@ void exchangePosition(CDataExchange_E* pDX, QAbstractSlider* pControl, int& valu
         value = pControl->value();
     else
         pControl->setValue(value);
-}
-
-/// Changes a combo box without its signals and shows the text from its start.
-template <typename Change>
-void changeCombo(QComboBox* pCombo, Change change)
-{
-    {
-        const QSignalBlocker quiet(pCombo);
-        change();
-    }
-    if (QLineEdit* const pEdit = pCombo->lineEdit())
-        pEdit->setCursorPosition(0);
 }
 
 void exchangeListText(CDataExchange_E* pDX, QListWidget* pControl, CString_E& value,
@@ -104,7 +93,7 @@ void DDX_CBIndex(CDataExchange_E* pDX, QComboBox* pControl, int& value)
     if (pDX->m_bSaveAndValidate)
         value = pControl->currentIndex();
     else
-        changeCombo(pControl, [&] { pControl->setCurrentIndex(value); });
+        changeCombo(*pControl, [&] { pControl->setCurrentIndex(value); });
 }
 
 void DDX_CBString(CDataExchange_E* pDX, QComboBox* pControl, CString_E& value)
@@ -115,13 +104,7 @@ void DDX_CBString(CDataExchange_E* pDX, QComboBox* pControl, CString_E& value)
         value = pControl->currentText();
         return;
     }
-    const VxQString text(value);
-    changeCombo(pControl, [&] {
-        pControl->setCurrentText(text);
-        const int i = pControl->findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
-        if (i >= 0)
-            pControl->setCurrentIndex(i);
-    });
+    showComboText(*pControl, VxQString(value));
 }
 
 void DDX_CBString(CDataExchange_E* pDX, QLineEdit* pControl, CString_E& value)
