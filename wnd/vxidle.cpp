@@ -1,4 +1,6 @@
 // Idle time: who is called, and the temporary objects that it ends.
+#include "wnd/vxidle_p.h"
+
 #include "core/vxqtinternals_p.h"
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
@@ -7,6 +9,9 @@
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMetaMethod>
 #include <QtWidgets/QWidget>
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -37,7 +42,23 @@ bool isHostCommandRunning()
     return address != 0 && reinterpret_cast<IsActive>(address)();
 }
 
+std::vector<void (*)()>& cleanUps()
+{
+    static std::vector<void (*)()> functions;
+    return functions;
+}
+
 } // namespace
+
+void vx::detail::cleanUpAtIdle(void (*pfnCleanUp)())
+{
+    std::vector<void (*)()>& list = cleanUps();
+    if (!QAbstractEventDispatcher::instance() ||
+        std::find(list.cbegin(), list.cend(), pfnCleanUp) != list.cend())
+        return;
+    list.push_back(pfnCleanUp);
+    ConnectIdleSlot(GetGlobalEventHandler());
+}
 
 void ConnectIdleSlot(QObject* pObject)
 {
@@ -59,8 +80,11 @@ void DisconnectIdleSlot(QObject* pObject)
 
 void QGlobalEventHandler::OnEnterIdle()
 {
-    if (!isHostCommandRunning())
-        RemoveTempObject();
+    if (isHostCommandRunning())
+        return;
+    for (void (*const pfnCleanUp)() : std::exchange(cleanUps(), {}))
+        pfnCleanUp();
+    RemoveTempObject();
 }
 
 void QGlobalEventHandler::AppendTempObject(QObject* pObject)
@@ -78,7 +102,8 @@ void QGlobalEventHandler::RemoveTempObject()
         for (const QPointer<QObject>& object : objects)
             delete object;
     }
-    DisconnectIdleSlot(this);
+    if (cleanUps().empty())
+        DisconnectIdleSlot(this);
 }
 
 void AppendTempObjectPool(QObject* pObject)
