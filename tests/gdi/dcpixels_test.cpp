@@ -178,7 +178,9 @@ const Case kCases[] = {
                [](P& p) { const int a = p.fontMetrics().ascent(); p.fillRect(2, 2, 23, 38, Qt::yellow); p.setClipRect(2, 2, 23, 38); p.drawText(10, 5 + a, QStringLiteral("WWW")); p.setClipping(false);
                           p.drawText(10 + p.fontMetrics().horizontalAdvance(QStringLiteral("WWW")), 5 + a, QStringLiteral("a")); }},
     {__LINE__, [](C& c) { QImage i = arrow(); C m(&i); turn(c); c.StretchBlt(5, 5, 20, 30, &m, 0, 0, 10, 10, SRCCOPY); c.StretchBlt(30, 35, 20, -30, &m, 0, 0, 10, 10, SRCCOPY); c.TransparentBlt(50, 10, 10, 10, &m, 0, 0, 10, 10, RGB(255, 255, 0)); },
-               [](P& p) { p.drawImage(QRect(5, 15, 20, 30), arrow().mirrored(false, true)); p.drawImage(QRect(30, 15, 20, 30), arrow()); p.drawLine(50, 39, 59, 36); }},
+               [](P& p) { p.drawImage(QRect(5, 15, 20, 30), arrow().mirrored(false, true)); p.drawImage(QRect(30, 15, 20, 30), arrow());
+                          const QImage i = arrow().mirrored(false, true);
+                          for (int n = 0; n < 100; ++n) { if (i.pixelColor(n % 10, n / 10) == QColor(Qt::black)) p.drawPoint(50 + n % 10, 30 + n / 10); } }},
     {__LINE__, [](C& c) { turn(c, true); c.BitBlt(30, 20, 30, 30, &c, 20, 10, SRCCOPY); QPixmap x = QPixmap::fromImage(arrow().scaled(32, 32)); QIcon icon(x); c.DrawIcon(30, 40, &icon); },
                [](P& p) { p.drawImage(0, 0, canvas(QImage::Format_RGB32), 10, 10, 30, 30); p.drawImage(30, 10, arrow().scaled(32, 32)); }},
     // Images

@@ -102,6 +102,8 @@ TEST(DcSafety, TemporaryObjectsEndAtIdleTime)
         CImageList_E::FromHandle(&handle);
         EXPECT_NE(afxMapHGDIOBJ_E()->LookupTemporary(h), nullptr);
         EXPECT_TRUE(vxtest::waitUntil([h, &handle] {
+            QTimer::singleShot(1, [] {}); // to wait for
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
             return !afxMapHGDIOBJ_E()->LookupTemporary(h) &&
                    !afxMapHDC_E()->LookupTemporary(&handle) &&
                    !afxMapHIMAGELIST_E(FALSE)->LookupTemporary(&handle);

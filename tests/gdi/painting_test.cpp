@@ -172,7 +172,7 @@ TEST(Painting, ContextsOfOtherWidgetsInAPaintMessage)
     s.repaint();
     EXPECT_TRUE(vxtest::waitUntil(
         [&] {
-            const QImage image = shown(s.top);
+            const QImage image = shown(s.top).scaled(s.top.size()); // whatever the scale
             return image.pixelColor(132, 32) == QColor(Qt::red) &&
                    image.pixelColor(3, 3) == QColor(Qt::red) &&
                    image.pixelColor(75, 85) == QColor(Qt::blue);
@@ -264,6 +264,7 @@ TEST(ControlColors, AreAskedOfTheWindowAround)
     auto* const pBox = new QGroupBox(s.pWidget);
     auto* const pEdit = new QLineEdit(pBox);
     auto* const pButton = new QPushButton(pBox);
+    pButton->setAutoFillBackground(true);
     int y = 0;
     for (QWidget* const pControl : QList<QWidget*>{pLabel, pBox, pEdit, pButton}) {
         pControl->setGeometry(5, y, 50, 30);
@@ -284,7 +285,6 @@ TEST(ControlColors, AreAskedOfTheWindowAround)
         [&] { return pLabel->palette().color(QPalette::Window) == QColor(Qt::cyan); }));
     // What the application sets later stays its own, as does the background that it asked for.
     EXPECT_TRUE(pLabel->autoFillBackground());
-    pButton->setAutoFillBackground(true);
     for (QWidget* const pControl :
          {static_cast<QWidget*>(pLabel), static_cast<QWidget*>(pButton)}) {
         QPalette palette = pControl->palette();
