@@ -141,7 +141,7 @@ TEST(DcSafety, ArgumentsBeyondAllBounds)
             i.dc.SetWindowOrg(0, 0);
             CRgn_E region;
             tagRECT box{};
-            EXPECT_FALSE(region.CreateEllipticRgn(-n, m, n, -m));
+            EXPECT_FALSE(region.CreateEllipticRgn(n, m, ~n, ~m));
             EXPECT_FALSE(region.CreateRoundRectRgn(m, n, 5, 5, 3, 3));
             EXPECT_TRUE(region.CreateRectRgnIndirect(&rect));
             EXPECT_EQ(region.GetRgnBox(&box), SIMPLEREGION);
