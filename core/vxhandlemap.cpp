@@ -1,5 +1,8 @@
 #include <VxMFCEmu/core/handlemap.h>
 
+#include <cstring>
+#include <utility>
+
 namespace {
 
 constexpr UINT kObjectsPerBlock = 64;
@@ -67,17 +70,27 @@ CObject_E* CHandleMap_E::LookupPermanent(void* h) const { return lookup(m_perman
 
 CObject_E* CHandleMap_E::LookupTemporary(void* h) const { return lookup(m_temporaryMap, h); }
 
+void CHandleMap_E::SetAside(void* h)
+{
+    if (CObject_E* const pObject = LookupTemporary(h)) {
+        m_setAside.push_back(pObject);
+        m_temporaryMap.RemoveKey(h);
+    }
+}
+
 void CHandleMap_E::DeleteTemp()
 {
     // A destructor may ask for another temporary object: repeated until none is left.
-    while (!m_temporaryMap.IsEmpty()) {
+    while (!m_temporaryMap.IsEmpty() || !m_setAside.empty()) {
+        for (CObject_E* const pObject : std::exchange(m_setAside, {}))
+            m_pfnDestructObject(pObject);
         for (POSITION position = m_temporaryMap.GetStartPosition(); position;) {
             void* h = nullptr;
             void* pEntry = nullptr;
             m_temporaryMap.GetNextAssoc(position, h, pEntry);
             m_temporaryMap.RemoveKey(h);
             auto* const pObject = static_cast<CObject_E*>(pEntry);
-            WriteHandle(pObject, nullptr);
+            ClearHandle(pObject, h);
             m_pfnDestructObject(pObject);
         }
     }
@@ -87,7 +100,22 @@ void CHandleMap_E::DeleteTemp()
 
 void CHandleMap_E::WriteHandle(CObject_E* pObject, void* h) const
 {
-    char* const pField = reinterpret_cast<char*>(pObject) + m_nOffset;
     for (int i = 0; i < m_nHandles; ++i)
-        std::memcpy(pField + static_cast<std::size_t>(i) * sizeof(h), &h, sizeof(h));
+        std::memcpy(HandleField(pObject, i), &h, sizeof(h));
+}
+
+void CHandleMap_E::ClearHandle(CObject_E* pObject, const void* h) const
+{
+    void* const pNone = nullptr;
+    for (int i = 0; i < m_nHandles; ++i) {
+        // An object that has been attached to another handle meanwhile keeps and frees that one.
+        if (std::memcmp(HandleField(pObject, i), &h, sizeof(h)) == 0)
+            std::memcpy(HandleField(pObject, i), &pNone, sizeof(pNone));
+    }
+}
+
+char* CHandleMap_E::HandleField(CObject_E* pObject, int nIndex) const
+{
+    return reinterpret_cast<char*>(pObject) + m_nOffset +
+           static_cast<std::size_t>(nIndex) * sizeof(void*);
 }

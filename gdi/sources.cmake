@@ -33,6 +33,7 @@ vxmfc_sources(FOLDER gdi
     vxdcselect.cpp
     vxdcshapes.cpp
     vxdcfill.cpp
+    vxdcmove.cpp
     vxdctext.cpp
     vxdcclip.cpp
     vxdccoords.cpp

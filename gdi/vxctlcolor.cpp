@@ -7,6 +7,8 @@
 #include <QtCore/QHash>
 #include <QtWidgets/QtWidgets>
 
+#include <algorithm>
+
 namespace {
 
 constexpr UINT kNoControl = CTLCOLOR_MAX;
@@ -71,16 +73,36 @@ Colors askWindow(CWnd_E& window, QWidget& control, const QPalette& original, UIN
     return colors;
 }
 
+constexpr QPalette::ColorRole kTextRoles[] = {QPalette::WindowText, QPalette::Text,
+                                              QPalette::ButtonText};
+constexpr QPalette::ColorRole kBackgroundRoles[] = {QPalette::Window, QPalette::Base,
+                                                    QPalette::Button};
+
 QPalette colored(QPalette palette, const Colors& colors)
 {
     if (colors.text.isValid()) {
-        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        for (const auto role : kTextRoles)
             palette.setColor(role, colors.text);
     }
     if (colors.background.style() != Qt::NoBrush) {
-        for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+        for (const auto role : kBackgroundRoles)
             palette.setBrush(role, colors.background);
     }
+    return palette;
+}
+
+/// @p palette with the brushes of @p original where it still has those of @p applied.
+QPalette withoutOurs(QPalette palette, const QPalette& applied, const QPalette& original)
+{
+    const auto putBack = [&](QPalette::ColorRole role) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            if (palette.brush(group, role) == applied.brush(group, role) &&
+                palette.brush(group, role) != original.brush(group, role))
+                palette.setBrush(group, role, original.brush(group, role));
+        }
+    };
+    std::for_each(std::begin(kTextRoles), std::end(kTextRoles), putBack);
+    std::for_each(std::begin(kBackgroundRoles), std::end(kBackgroundRoles), putBack);
     return palette;
 }
 
@@ -103,10 +125,13 @@ public:
     }
 
 private:
-    struct Palettes
+    /// What the application gave a control, and what is shown: with the handler's colours.
+    struct Looks
     {
         QPalette original;
         QPalette applied;
+        bool originalFill;
+        bool appliedFill;
     };
 
     void watch(QWidget* pWidget)
@@ -137,37 +162,51 @@ private:
             return;
         const QPointer<QWidget> control(pWidget);
         const QPointer<ControlColors> self(this);
-        const QPalette original = palettesOf(*pWidget).original;
+        const QPalette original = looksOf(*pWidget).original;
         const Colors colors = askWindow(*m_window, *pWidget, original, nKind);
         if (self && control)
             apply(*pWidget, colors);
     }
 
-    Palettes& palettesOf(QWidget& control)
+    Looks& looksOf(QWidget& control)
     {
-        auto it = m_palettes.find(&control);
-        if (it == m_palettes.end()) {
-            it = m_palettes.insert(&control, {control.palette(), control.palette()});
+        const QPalette palette = control.palette();
+        const bool fill = control.autoFillBackground();
+        auto it = m_looks.find(&control);
+        if (it == m_looks.end()) {
+            it = m_looks.insert(&control, {palette, palette, fill, fill});
             connect(&control, &QObject::destroyed, this,
-                    [this](QObject* pControl) { m_palettes.remove(pControl); });
+                    [this](QObject* pControl) { m_looks.remove(pControl); });
         }
+        // What the application has set meanwhile is its own.
+        if (palette != it->applied) {
+            it->original = withoutOurs(palette, it->applied, it->original);
+            it->applied = palette;
+        }
+        if (fill != it->appliedFill)
+            it->originalFill = it->appliedFill = fill;
         return *it;
     }
 
+    // Shown from the next painting on, which this schedules.
     void apply(QWidget& control, const Colors& colors)
     {
-        Palettes& palettes = palettesOf(control);
-        const QPalette palette = colored(palettes.original, colors);
-        if (palette == palettes.applied)
+        Looks& looks = looksOf(control);
+        looks.appliedFill = looks.originalFill || colors.background.style() != Qt::NoBrush;
+        if (control.autoFillBackground() != looks.appliedFill)
+            control.setAutoFillBackground(looks.appliedFill);
+        const QPalette palette = colored(looks.original, colors);
+        if (palette == looks.applied)
             return;
-        palettes.applied = palette;
-        // Shown from the next painting on, which this schedules.
-        control.setAutoFillBackground(colors.background.style() != Qt::NoBrush);
+        looks.applied = palette;
         control.setPalette(palette);
+        // Brushes that the control never had of its own may come out as those of its parent.
+        if (const auto it = m_looks.find(&control); it != m_looks.end())
+            it->applied = control.palette();
     }
 
     QPointer<CWnd_E> m_window;
-    QHash<const QObject*, Palettes> m_palettes;
+    QHash<const QObject*, Looks> m_looks;
 };
 
 } // namespace

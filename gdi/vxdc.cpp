@@ -68,7 +68,9 @@ BOOL CDC_E::CreateCompatibleDC(CDC_E*)
 BOOL CDC_E::DeleteDC()
 {
     const bool active = m_painter.isActive() && m_painter.end();
+    m_savedModes.clear(); // as the painter forgets its own
     m_pDevice.reset();
+    freeOrphans();
     return active ? TRUE : FALSE;
 }
 
@@ -80,47 +82,12 @@ CBitmap_E* CDC_E::SelectObject(CBitmap_E* pBitmap)
     if (!pMemory || !pImage || pImage->isNull() || pImage->format() == QImage::Format_Indexed8)
         return nullptr;
     CBitmap_E* const pPrevious = pMemory->selected();
-    if (pImage == &pMemory->image())
+    if (pImage == &pMemory->image() && m_painter.isActive())
         return pPrevious;
     if (pImage->paintingActive()) // as on Win32, by one device context at a time
         return nullptr;
     MoveOnto(pMemory, pBitmap->GetSafeHandle());
     return pPrevious;
-}
-
-// An attribute set before a bitmap is selected holds for the bitmap too.
-void CDC_E::MoveOnto(vx::detail::MemoryDevice* pMemory, HBITMAP hBitmap)
-{
-    QPainter& p = m_painter;
-    const QPen pen = p.pen();
-    const QBrush brush = p.brush();
-    const QBrush background = p.background();
-    const QFont font = p.font();
-    const Qt::BGMode backgroundMode = p.backgroundMode();
-    const QPainter::CompositionMode mode = p.compositionMode();
-    const QPainter::RenderHints hints = p.renderHints();
-    const QPoint brushOrigin = p.brushOrigin();
-    const QTransform transform = p.worldTransform();
-    QRect window = p.window();
-    QRect viewport = p.viewport();
-    p.end();
-    pMemory->select(hBitmap);
-    p.begin(&pMemory->image());
-    p.setPen(pen);
-    p.setBrush(brush);
-    p.setBackground(background);
-    p.setFont(font);
-    p.setBackgroundMode(backgroundMode);
-    p.setCompositionMode(mode);
-    p.setRenderHints(hints);
-    p.setBrushOrigin(brushOrigin);
-    p.setWorldTransform(transform);
-    if (m_modes.map == MM_TEXT) {
-        window.setSize(p.window().size());
-        viewport.setSize(p.viewport().size());
-    }
-    p.setWindow(window);
-    p.setViewport(viewport);
 }
 
 CPalette_E* CDC_E::SelectPalette(CPalette_E* pPalette, BOOL)
@@ -145,7 +112,7 @@ HDC CDC_E::GetSafeHdc() const { return safeHandle(this, &CDC_E::m_hDC); }
 
 CDC_E* CDC_E::FromHandle(HDC hDC)
 {
-    return static_cast<CDC_E*>(afxMapHDC_E(TRUE)->FromHandle(hDC));
+    return static_cast<CDC_E*>(objectOf(hDC, afxMapHDC_E(TRUE), &CDC_E::DeleteTempMap));
 }
 
 BOOL CDC_E::Attach(HDC hDC)

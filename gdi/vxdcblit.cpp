@@ -60,6 +60,8 @@ std::optional<Source> sourceOf(CDC_E* pDC, const QRect& rect, bool copy)
     if (!pPixels)
         return std::nullopt;
     const QRect onDevice = pDC->m_painter.deviceTransform().mapRect(rect);
+    if (onDevice.isEmpty())
+        return Source{};
     if (copy)
         return Source{pPixels->copy(onDevice), QRect(QPoint(), onDevice.size())};
     // Without a reference of its own, since the painter of pDC goes on writing to the image.
@@ -78,18 +80,33 @@ QImage withTrueAlpha(const QImage& image)
     return image.convertToFormat(QImage::Format_RGB32).convertToFormat(QImage::Format_ARGB32);
 }
 
-/// Makes both rectangles of positive extent; returns whether the image is mirrored in x and in y.
-std::pair<bool, bool> normalize(QRect& target, QRect& source)
+/// A rectangle as the members for images take it.
+struct Extent
 {
-    const bool x = (target.width() < 0) != (source.width() < 0);
-    const bool y = (target.height() < 0) != (source.height() < 0);
-    const auto upright = [](const QRect& rect) {
-        return QRect(rect.x() + qMin(0, rect.width()), rect.y() + qMin(0, rect.height()),
-                     qAbs(rect.width()), qAbs(rect.height()));
-    };
-    target = upright(target);
-    source = upright(source);
-    return {x, y};
+    Extent(int nX, int nY, int nCx, int nCy)
+        : x(bounded(nX)), y(bounded(nY)), cx(bounded(nCx)), cy(bounded(nCy))
+    {
+    }
+    /// With the signs that it has on the device.
+    Extent on(const UprightScope& upright) const
+    {
+        return {upright.x(x), upright.y(y), upright.x(cx), upright.y(cy)};
+    }
+    /// The same place with positive extents.
+    QRect rect() const { return {x + qMin(0, cx), y + qMin(0, cy), qAbs(cx), qAbs(cy)}; }
+
+    int x;
+    int y;
+    int cx;
+    int cy;
+};
+
+Extent onDevice(CDC_E& dc, const Extent& extent) { return extent.on(UprightScope(dc.m_painter)); }
+
+/// Whether an image is mirrored in x and in y.
+std::pair<bool, bool> mirroring(const Extent& target, const Extent& source)
+{
+    return {(target.cx < 0) != (source.cx < 0), (target.cy < 0) != (source.cy < 0)};
 }
 
 void mirror(Source& source, std::pair<bool, bool> axes)
@@ -114,31 +131,33 @@ BOOL CDC_E::StretchBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, in
                                           [dwRop](const BlitRow& row) { return row.rop == dwRop; });
     if (pRow == std::end(kBlitRows) || !m_painter.isActive())
         return FALSE;
-    QRect target(x, y, cx, cy);
-    QRect from(xSrc, ySrc, cxSrc, cySrc);
-    const auto mirrored = normalize(target, from);
+    const Extent target = onDevice(*this, {x, y, cx, cy});
+    const Extent from(xSrc, ySrc, cxSrc, cySrc);
     std::optional<Source> source;
     if (pRow->sourceMode != kNone) {
-        source = sourceOf(pSrcDC, from, pSrcDC == this);
+        source = sourceOf(pSrcDC, from.rect(), pSrcDC == this);
         if (!source)
             return FALSE;
+        if (source->rect.isEmpty()) // Qt would take all of the image
+            return TRUE;
         const QImage* const pTarget = pixelsOf(m_painter);
         if (pTarget && pTarget->hasAlphaChannel() &&
             source->image.format() == QImage::Format_RGBX8888) {
             source->image = withTrueAlpha(source->image.copy(source->rect));
             source->rect.moveTo(0, 0);
         }
-        mirror(*source, mirrored);
+        mirror(*source, mirroring(target, onDevice(*pSrcDC, from)));
     }
     const PainterState state(m_painter);
+    const UprightScope upright(m_painter);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform, m_modes.stretch == HALFTONE);
     if (source) {
         m_painter.setCompositionMode(static_cast<Mode>(pRow->sourceMode));
-        m_painter.drawImage(target, source->image, source->rect);
+        m_painter.drawImage(target.rect(), source->image, source->rect);
     }
     if (pRow->brushMode != kNone) {
         m_painter.setCompositionMode(static_cast<Mode>(pRow->brushMode));
-        m_painter.fillRect(target, pRow->anyBrush ? QBrush(Qt::black) : m_painter.brush());
+        m_painter.fillRect(target.rect(), pRow->anyBrush ? QBrush(Qt::black) : m_painter.brush());
     }
     return TRUE;
 }
@@ -146,12 +165,12 @@ BOOL CDC_E::StretchBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, in
 BOOL CDC_E::TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc,
                            int cxSrc, int cySrc, COLORREF crTransparent)
 {
-    QRect target(x, y, cx, cy);
-    QRect from(xSrc, ySrc, cxSrc, cySrc);
-    const auto mirrored = normalize(target, from);
-    std::optional<Source> source = sourceOf(pSrcDC, from, true);
+    const Extent from(xSrc, ySrc, cxSrc, cySrc);
+    std::optional<Source> source = sourceOf(pSrcDC, from.rect(), true);
     if (!source || !m_painter.isActive())
         return FALSE;
+    if (source->rect.isEmpty())
+        return TRUE;
     QImage& image = source->image;
     image = withTrueAlpha(image);
     const QRgb transparent = toQColor(crTransparent).rgb() & RGB_MASK;
@@ -161,9 +180,11 @@ BOOL CDC_E::TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc
             pRow, pRow + image.width(),
             [transparent](QRgb pixel) { return (pixel & RGB_MASK) == transparent; }, QRgb{0});
     }
-    mirror(*source, mirrored);
+    const Extent target = onDevice(*this, {x, y, cx, cy});
+    mirror(*source, mirroring(target, onDevice(*pSrcDC, from)));
     const CompositionScope scope(m_painter, Mode::CompositionMode_SourceOver);
-    m_painter.drawImage(target, image, source->rect);
+    const UprightScope upright(m_painter);
+    m_painter.drawImage(target.rect(), image, source->rect);
     return TRUE;
 }
 
@@ -172,6 +193,8 @@ BOOL CDC_E::DrawIcon(int x, int y, HICON hIcon)
     if (!hIcon || !m_painter.isActive())
         return FALSE;
     constexpr int kIconSize = 32;
-    static_cast<const QIcon*>(hIcon)->paint(&m_painter, x, y, kIconSize, kIconSize);
+    const UprightScope upright(m_painter);
+    static_cast<const QIcon*>(hIcon)->paint(&m_painter, upright.x(x), upright.y(y), kIconSize,
+                                            kIconSize);
     return TRUE;
 }

@@ -21,6 +21,39 @@ QImage* asImage(QPaintDevice* pDevice)
                                                              : nullptr;
 }
 
+/// Whether @p pWidget or one inside it, in the same window, is in a paint event.
+bool isInPaintEvent(const QWidget* pWidget)
+{
+    if (pWidget->testAttribute(Qt::WA_WState_InPaintEvent))
+        return true;
+    const QObjectList& children = pWidget->children();
+    return std::any_of(children.cbegin(), children.cend(), [](const QObject* pObject) {
+        const auto* const pChild =
+            pObject->isWidgetType() ? static_cast<const QWidget*>(pObject) : nullptr;
+        return pChild && !pChild->isWindow() && isInPaintEvent(pChild);
+    });
+}
+
+/// Whether any widget of a window is being painted. All share the store: the painting of one must
+/// not be begun or ended under that of another.
+bool isBeingPainted(QBackingStore& store, const QWidget* pWindow)
+{
+    const QPaintDevice* const pDevice = store.paintDevice();
+    return (pDevice && pDevice->paintingActive()) || isInPaintEvent(pWindow);
+}
+
+/// Shows what the store of @p pWidget's window has in @p region, in coordinates of that window.
+void flushStore(QWidget* pWidget, const QRegion& region)
+{
+    QBackingStore* const pStore = pWidget->backingStore();
+    const QWidget* const pNative =
+        pWidget->internalWinId() ? pWidget : pWidget->nativeParentWidget();
+    if (!pStore || !pWidget->isVisible() || !pNative || !pNative->windowHandle())
+        return;
+    const QPoint offset = pNative->mapTo(pWidget->window(), QPoint());
+    pStore->flush(region.translated(-offset), pNative->windowHandle(), offset);
+}
+
 /// The image behind a window, while it may be read and written.
 class WindowPixels
 {
@@ -30,8 +63,8 @@ public:
     {
         if (!m_pStore || m_pStore->size().isEmpty())
             return;
-        // Without a region nothing is cleared. In a paint event painting has begun already.
-        m_begun = !pWidget->testAttribute(Qt::WA_WState_InPaintEvent);
+        // Without a region nothing is cleared.
+        m_begun = !isBeingPainted(*m_pStore, pWidget->window());
         if (m_begun)
             m_pStore->beginPaint(QRegion());
         QImage* const pImage = asImage(m_pStore->paintDevice());
@@ -52,15 +85,14 @@ public:
     /// Shows @p region, in coordinates of the top-level window.
     void flush(QWidget* pWidget, const QRegion& region)
     {
-        if (!std::exchange(m_begun, false))
-            return; // Qt shows it at the end of the paint event
-        m_pStore->endPaint();
-        const QWidget* const pNative =
-            pWidget->internalWinId() ? pWidget : pWidget->nativeParentWidget();
-        if (!pNative || !pNative->windowHandle())
+        if (std::exchange(m_begun, false)) {
+            m_pStore->endPaint();
+            flushStore(pWidget, region);
             return;
-        const QPoint offset = pNative->mapTo(pWidget->window(), QPoint());
-        m_pStore->flush(region.translated(-offset), pNative->windowHandle(), offset);
+        }
+        // At the end of the paint event Qt shows only what it asked for.
+        QMetaObject::invokeMethod(
+            pWidget, [pWidget, region] { flushStore(pWidget, region); }, Qt::QueuedConnection);
     }
 
 private:
@@ -156,20 +188,16 @@ ClientSurface::~ClientSurface()
 
 namespace {
 
-std::vector<MemoryDevice*> memoryDevices;
+/// Images whose bitmaps went while a painter was at work on them. Objects with static storage may
+/// look here at unload.
+__attribute__((init_priority(102))) std::vector<std::unique_ptr<QImage>> orphans;
 
 } // namespace
 
 MemoryDevice::MemoryDevice()
 {
-    memoryDevices.push_back(this);
     m_stock.CreateBitmap(1, 1, 1, 32, nullptr);
     select(m_stock.GetSafeHandle());
-}
-
-MemoryDevice::~MemoryDevice()
-{
-    memoryDevices.erase(std::find(memoryDevices.begin(), memoryDevices.end(), this));
 }
 
 CBitmap_E* MemoryDevice::selected()
@@ -178,25 +206,26 @@ CBitmap_E* MemoryDevice::selected()
     CObject_E* pObject = pMap->LookupPermanent(m_pImage);
     if (!pObject)
         pObject = pMap->LookupTemporary(m_pImage);
-    auto* const pBitmap = m_orphan ? nullptr : dynamic_cast<CBitmap_E*>(pObject);
+    const bool orphan = std::any_of(orphans.cbegin(), orphans.cend(),
+                                    [this](const auto& p) { return p.get() == m_pImage; });
+    auto* const pBitmap = orphan ? nullptr : dynamic_cast<CBitmap_E*>(pObject);
     return pBitmap ? pBitmap : &m_stock;
-}
-
-void MemoryDevice::select(HBITMAP hBitmap)
-{
-    m_orphan.reset();
-    m_pImage = static_cast<QImage*>(hBitmap);
 }
 
 void freeBitmapImage(HBITMAP hBitmap)
 {
-    auto* const pImage = static_cast<QImage*>(hBitmap);
-    const auto it = std::find_if(memoryDevices.begin(), memoryDevices.end(),
-                                 [pImage](const MemoryDevice* p) { return p->m_pImage == pImage; });
-    if (it == memoryDevices.end())
-        delete pImage;
-    else
-        (*it)->m_orphan.reset(pImage);
+    std::unique_ptr<QImage> image(static_cast<QImage*>(hBitmap));
+    if (image && image->paintingActive())
+        orphans.push_back(std::move(image));
+}
+
+void freeOrphans()
+{
+    if (orphans.empty())
+        return;
+    orphans.erase(std::remove_if(orphans.begin(), orphans.end(),
+                                 [](const auto& p) { return !p->paintingActive(); }),
+                  orphans.end());
 }
 
 } // namespace vx::detail

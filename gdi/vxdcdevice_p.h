@@ -55,25 +55,23 @@ class MemoryDevice : public DcDevice
 {
 public:
     MemoryDevice();
-    ~MemoryDevice() override;
 
     /// What to paint on.
     QImage& image() { return *m_pImage; }
     /// The bitmap selected now: an object of its handle, or the 1 x 1 one when that has died.
     CBitmap_E* selected();
     /// Paint on @p hBitmap from now on, once the painter has ended.
-    void select(HBITMAP hBitmap);
+    void select(HBITMAP hBitmap) { m_pImage = static_cast<QImage*>(hBitmap); }
 
 private:
-    friend void freeBitmapImage(HBITMAP hBitmap);
-
     CBitmap_E m_stock;
     QImage* m_pImage = nullptr;
-    std::unique_ptr<QImage> m_orphan; // the same when its bitmap has gone
 };
 
-/// Deletes the image of a bitmap, or leaves it to the device context that paints on it.
+/// Deletes the image of a bitmap; while a painter is at work on it, it becomes an orphan.
 void freeBitmapImage(HBITMAP hBitmap);
+/// Deletes the orphans that nobody paints on any longer. For when a painter has ended.
+void freeOrphans();
 
 /// The image that @p painter draws into, also that of a window behind a widget; null for devices
 /// that have no pixels to look at.

@@ -100,12 +100,12 @@ void invertPixels(QImage& image, const QRect& rect)
 
 } // namespace
 
-void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColor& color)
+void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColorArg& color)
 {
-    m_painter.fillRect(QRect(x, y, cx, cy), static_cast<const QColor&>(color));
+    m_painter.fillRect(extentRect(x, y, cx, cy), static_cast<const QColor&>(color));
 }
 
-void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColor& color)
+void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColorArg& color)
 {
     if (pRect)
         m_painter.fillRect(fromRect(*pRect), static_cast<const QColor&>(color));
@@ -118,21 +118,22 @@ void CDC_E::FillRect(const tagRECT* pRect, CBrush_E* pBrush)
         m_painter.fillRect(fromRect(*pRect), *pValue);
 }
 
-void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
-                       const VxColor& bottomRight)
+void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
+                       const VxColorArg& bottomRight)
 {
-    FillSolidRect(x, y, cx - 1, 1, topLeft);
-    FillSolidRect(x, y, 1, cy - 1, topLeft);
+    FillSolidRect(x, y, wrappingSub(cx, 1), 1, topLeft);
+    FillSolidRect(x, y, 1, wrappingSub(cy, 1), topLeft);
     // An extent of -1 is the column or row before.
-    FillSolidRect(x + cx, y, -1, cy, bottomRight);
-    FillSolidRect(x, y + cy, cx, -1, bottomRight);
+    FillSolidRect(wrappingAdd(x, cx), y, -1, cy, bottomRight);
+    FillSolidRect(x, wrappingAdd(y, cy), cx, -1, bottomRight);
 }
 
-void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight)
+void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColorArg& topLeft,
+                       const VxColorArg& bottomRight)
 {
     if (pRect)
-        Draw3dRect(pRect->left, pRect->top, pRect->right - pRect->left, pRect->bottom - pRect->top,
-                   topLeft, bottomRight);
+        Draw3dRect(pRect->left, pRect->top, wrappingSub(pRect->right, pRect->left),
+                   wrappingSub(pRect->bottom, pRect->top), topLeft, bottomRight);
 }
 
 void CDC_E::DrawFocusRect(const tagRECT* pRect)
@@ -156,7 +157,7 @@ void CDC_E::FrameRect(const tagRECT* pRect, CBrush_E* pBrush)
 
 BOOL CDC_E::PatBlt(int x, int y, int cx, int cy, DWORD dwRop)
 {
-    const QRect rect(x, y, cx, cy);
+    const QRect rect = extentRect(x, y, cx, cy);
     switch (dwRop) {
     case BLACKNESS:
         drawWithBrush(m_painter, rect, Qt::black);

@@ -1,6 +1,7 @@
 // The attributes of a device context: selected objects, colours and modes.
 #include "gdi/vxdc_p.h"
 
+#include <VxMFCEmu/gdi/bitmap.h>
 #include <VxMFCEmu/gdi/brush.h>
 #include <VxMFCEmu/gdi/font.h>
 #include <VxMFCEmu/gdi/pen.h>
@@ -63,7 +64,8 @@ COLORREF colorOf(const PALETTEENTRY& entry)
 int CDC_E::SaveDC()
 {
     m_painter.save();
-    m_savedModes.push_back(m_modes);
+    if (m_painter.isActive()) // or else the painter has saved nothing
+        m_savedModes.push_back(m_modes);
     return 0;
 }
 
@@ -130,6 +132,21 @@ CBrush_E* CDC_E::SelectObject(CBrush_E* pBrush)
         m_selectedBrush.note(pBrush);
     }
     return pPrevious;
+}
+
+CGdiObject_E* CDC_E::SelectObject(CGdiObject_E* pObject)
+{
+    if (auto* const pPen = dynamic_cast<CPen_E*>(pObject))
+        return SelectObject(pPen);
+    if (auto* const pBrush = dynamic_cast<CBrush_E*>(pObject))
+        return SelectObject(pBrush);
+    if (auto* const pBitmap = dynamic_cast<CBitmap_E*>(pObject))
+        return SelectObject(pBitmap);
+    if (auto* const pFont = dynamic_cast<CFont_E*>(pObject))
+        SelectObject(pFont);
+    else if (auto* const pRgn = dynamic_cast<CRgn_E*>(pObject))
+        SelectObject(pRgn);
+    return nullptr;
 }
 
 VxColor CDC_E::GetBkColor() const { return m_painter.background().color(); }

@@ -40,26 +40,18 @@ int angleOf(const QRect& rect, const tagPOINT& point)
     return static_cast<int>(std::lround(std::atan2(y, x) * kSixteenths));
 }
 
+QRect boundedRect(const tagRECT& rc)
+{
+    return fromRect({bounded(rc.left), bounded(rc.top), bounded(rc.right), bounded(rc.bottom)});
+}
+
 constexpr int kFullCircle = 360 * 16;
 
 } // namespace
 
-BOOL CDC_E::MoveTo(int x, int y)
-{
-    m_x = x;
-    m_y = y;
-    return TRUE;
-}
-
-BOOL CDC_E::LineTo(int x, int y)
-{
-    m_painter.drawLine(m_x, m_y, x, y);
-    return MoveTo(x, y);
-}
-
 BOOL CDC_E::Polyline(const tagPOINT* pPoints, int nCount)
 {
-    if (!pPoints || nCount < 2)
+    if (!pPoints || nCount < 2 || !m_painter.isActive())
         return FALSE;
     m_painter.drawPolyline(asQtPoints(pPoints), nCount);
     return TRUE;
@@ -67,7 +59,7 @@ BOOL CDC_E::Polyline(const tagPOINT* pPoints, int nCount)
 
 BOOL CDC_E::PolylineTo(const tagPOINT* pPoints, int nCount)
 {
-    if (!pPoints || nCount < 1)
+    if (!pPoints || nCount < 1 || !m_painter.isActive())
         return FALSE;
     QPolygon points;
     points << QPoint(m_x, m_y);
@@ -78,7 +70,7 @@ BOOL CDC_E::PolylineTo(const tagPOINT* pPoints, int nCount)
 
 BOOL CDC_E::PolyBezier(const tagPOINT* pPoints, int nCount)
 {
-    if (!pPoints || nCount < 4 || nCount % 3 != 1)
+    if (!pPoints || nCount < 4 || nCount % 3 != 1 || !m_painter.isActive())
         return FALSE;
     m_painter.strokePath(bezierPath(fromPoint(pPoints[0]), pPoints + 1, nCount - 1),
                          m_painter.pen());
@@ -87,7 +79,7 @@ BOOL CDC_E::PolyBezier(const tagPOINT* pPoints, int nCount)
 
 BOOL CDC_E::PolyBezierTo(const tagPOINT* pPoints, int nCount)
 {
-    if (!pPoints || nCount < 3 || nCount % 3 != 0)
+    if (!pPoints || nCount < 3 || nCount % 3 != 0 || !m_painter.isActive())
         return FALSE;
     m_painter.strokePath(bezierPath({m_x, m_y}, pPoints, nCount), m_painter.pen());
     return MoveTo(pPoints[nCount - 1]);
@@ -95,7 +87,7 @@ BOOL CDC_E::PolyBezierTo(const tagPOINT* pPoints, int nCount)
 
 BOOL CDC_E::Polygon(const tagPOINT* pPoints, int nCount)
 {
-    if (!pPoints || nCount < 2)
+    if (!pPoints || nCount < 2 || !m_painter.isActive())
         return FALSE;
     m_painter.drawPolygon(asQtPoints(pPoints), nCount,
                           m_modes.polyFill == WINDING ? Qt::WindingFill : Qt::OddEvenFill);
@@ -127,7 +119,7 @@ BOOL CDC_E::Ellipse(const tagRECT* pRect)
 
 BOOL CDC_E::Ellipse(int x, int y, int cx, int cy)
 {
-    m_painter.drawEllipse(QRect(x, y, cx, cy)); // Intended: an extent, unlike in Rectangle().
+    m_painter.drawEllipse(extentRect(x, y, cx, cy)); // Intended: an extent, unlike in Rectangle().
     return TRUE;
 }
 
@@ -139,7 +131,7 @@ BOOL CDC_E::RoundRect(int l, int t, int r, int b, int cx, int cy)
 
 BOOL CDC_E::RoundRect(const tagRECT* pRect, tagPOINT point)
 {
-    if (!pRect)
+    if (!pRect || !m_painter.isActive())
         return FALSE;
     m_painter.drawRoundedRect(fromRect(*pRect), point.x / 2.0, point.y / 2.0);
     return TRUE;
@@ -147,8 +139,8 @@ BOOL CDC_E::RoundRect(const tagRECT* pRect, tagPOINT point)
 
 BOOL CDC_E::DrawArcKind(ArcKind kind, const tagRECT* pRect, tagPOINT start, tagPOINT end)
 {
-    const QRect rect = pRect ? fromRect(*pRect).normalized() : QRect();
-    if (rect.isEmpty())
+    const QRect rect = pRect ? boundedRect(*pRect).normalized() : QRect();
+    if (rect.isEmpty() || !m_painter.isActive())
         return FALSE;
     const bool clockwise = m_modes.arc == AD_CLOCKWISE;
     const int from = angleOf(rect, clockwise ? end : start);
@@ -202,7 +194,7 @@ BOOL CDC_E::Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end)
     return DrawArcKind(ArcKind::Chord, pRect, start, end);
 }
 
-VxColor CDC_E::SetPixel(int x, int y, const VxColor& color)
+VxColor CDC_E::SetPixel(int x, int y, const VxColorArg& color)
 {
     const QColor previous = m_painter.pen().color();
     m_painter.setPen(color);

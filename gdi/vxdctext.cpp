@@ -82,8 +82,10 @@ int CDC_E::DrawTextInRect(const QString& str, const tagRECT* pRect, int nFormat)
         m_textColor != CLR_NONE && (!isPlain(pen) || pen.color() != QColor(toQColor(m_textColor)));
     if (colored)
         m_painter.setPen(toQColor(m_textColor));
-    if (pRect)
-        m_painter.drawText(fromRect(*pRect), nFormat, str);
+    if (pRect) {
+        const UprightScope upright(m_painter);
+        m_painter.drawText(fromRect(upright.rect(*pRect)), nFormat, str);
+    }
     // Intended: width and style of the pen are lost.
     if (!isPlain(pen))
         m_painter.setPen(QPen(pen.color()));
@@ -115,7 +117,8 @@ BOOL CDC_E::TextOutAt(int x, int y, const QString& str, const int* pDxWidths)
     else if (align & (TA_UPDATECP | TA_CENTER))
         width = metrics.horizontalAdvance(str);
     const bool fromCurrent = (align & TA_UPDATECP) != 0;
-    QPoint at = fromCurrent ? QPoint(m_x, m_y) : QPoint(x, y);
+    const UprightScope upright(m_painter);
+    QPoint at(upright.x(fromCurrent ? m_x : x), upright.y(fromCurrent ? m_y : y));
     if ((align & TA_CENTER) == TA_CENTER)
         at.rx() -= width / 2;
     else if (align & TA_RIGHT)
@@ -136,7 +139,7 @@ BOOL CDC_E::TextOutAt(int x, int y, const QString& str, const int* pDxWidths)
     }
     m_painter.setPen(pen);
     if (fromCurrent && (align & TA_CENTER) != TA_CENTER)
-        m_x += align & TA_RIGHT ? -width : width;
+        m_x = wrappingAdd(m_x, upright.x(align & TA_RIGHT ? -width : width));
     return TRUE;
 }
 
@@ -156,10 +159,14 @@ BOOL CDC_E::ExtTextOut(int x, int y, UINT nOptions, const tagRECT* pRect, const 
     if (!m_painter.isActive())
         return FALSE;
     const PainterState state(m_painter);
-    if (pRect && nOptions & ETO_OPAQUE)
-        m_painter.fillRect(fromRect(*pRect), m_painter.background());
-    if (pRect && nOptions & ETO_CLIPPED)
-        m_painter.setClipRect(fromRect(*pRect), Qt::IntersectClip);
+    if (pRect) {
+        const UprightScope upright(m_painter);
+        const QRect rect = fromRect(upright.rect(*pRect));
+        if (nOptions & ETO_OPAQUE)
+            m_painter.fillRect(rect, m_painter.background());
+        if (nOptions & ETO_CLIPPED)
+            m_painter.setClipRect(rect, Qt::IntersectClip);
+    }
     return TextOutAt(x, y, textOf(lpszString, static_cast<int>(qMin<UINT>(nCount, INT_MAX))),
                      pDxWidths);
 }

@@ -19,7 +19,8 @@ HGDIOBJ CGdiObject_E::GetSafeHandle() const
 
 CGdiObject_E* CGdiObject_E::FromHandle(HGDIOBJ h)
 {
-    return static_cast<CGdiObject_E*>(afxMapHGDIOBJ_E(TRUE)->FromHandle(h));
+    return static_cast<CGdiObject_E*>(
+        vx::detail::objectOf(h, afxMapHGDIOBJ_E(TRUE), &CGdiObject_E::DeleteTempMap));
 }
 
 BOOL CGdiObject_E::Attach(HGDIOBJ h)

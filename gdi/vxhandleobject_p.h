@@ -1,6 +1,8 @@
 // Not part of the public interface. What the objects that hold a GDI handle have in common.
 #pragma once
 
+#include "wnd/vxidle_p.h"
+
 #include <VxMFCEmu/core/handlemap.h>
 
 namespace vx::detail {
@@ -22,6 +24,8 @@ void* detachHandle(T* pObject, void* T::*pHandle, CHandleMap_E* (*pfnMap)(BOOL))
 {
     void* const h = std::exchange(pObject->*pHandle, nullptr);
     CHandleMap_E* const pMap = h ? pfnMap(FALSE) : nullptr;
+    if (pMap && pMap->LookupTemporary(h) == pObject)
+        pMap->SetAside(h); // it may become the owner of another handle
     // Another object may have been attached to the same handle meanwhile.
     if (pMap && pMap->LookupPermanent(h) == pObject)
         pMap->RemoveHandle(h);
@@ -38,6 +42,15 @@ bool attachHandle(T* pObject, void* T::*pHandle, void* h, CHandleMap_E* (*pfnMap
     pfnMap(TRUE)->SetPermanent(h, pObject);
     pObject->*pHandle = h;
     return true;
+}
+
+/// The object of @p h; a temporary one goes with @p pfnDeleteTemp at the next idle time.
+inline CObject_E* objectOf(void* h, CHandleMap_E* pMap, void (*pfnDeleteTemp)())
+{
+    CObject_E* const pObject = pMap->FromHandle(h);
+    if (pObject && !pMap->LookupPermanent(h))
+        cleanUpAtIdle(pfnDeleteTemp);
+    return pObject;
 }
 
 inline void deleteTemp(CHandleMap_E* pMap)

@@ -15,7 +15,8 @@ HIMAGELIST CImageList_E::GetSafeHandle() const
 
 CImageList_E* CImageList_E::FromHandle(HIMAGELIST h)
 {
-    return static_cast<CImageList_E*>(afxMapHIMAGELIST_E(TRUE)->FromHandle(h));
+    return static_cast<CImageList_E*>(
+        vx::detail::objectOf(h, afxMapHIMAGELIST_E(TRUE), &CImageList_E::DeleteTempMap));
 }
 
 CImageList_E* CImageList_E::FromHandlePermanent(HIMAGELIST h)

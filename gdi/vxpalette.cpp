@@ -32,7 +32,7 @@ UINT CPalette_E::GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
                                    tagPALETTEENTRY* lpPaletteColors) const
 {
     // Intended: counts only.
-    if (!lpPaletteColors)
+    if (!lpPaletteColors || nStartIndex >= m_entries.size()) // nothing is left from there on
         return 0;
     const bool bBeyond = std::size_t{nStartIndex} + nNumEntries > m_entries.size();
     return bBeyond ? static_cast<UINT>(m_entries.size()) - nStartIndex : nNumEntries;

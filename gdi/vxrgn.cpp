@@ -17,6 +17,16 @@ using vx::detail::valueOf;
 // Intended: the right and the bottom edge belong to the region.
 QRect withCorners(int x1, int y1, int x2, int y2) { return {QPoint(x1, y1), QPoint(x2, y2)}; }
 
+/// A region is made of rows: one as high as numbers go would take minutes and all memory.
+constexpr int kFarthestCorner = 1 << 20;
+
+bool canBeRows(const QRect& bounds)
+{
+    constexpr QRect kLimits(QPoint(-kFarthestCorner, -kFarthestCorner),
+                            QPoint(kFarthestCorner, kFarthestCorner));
+    return kLimits.contains(bounds.topLeft()) && kLimits.contains(bounds.bottomRight());
+}
+
 QRegion regionOf(const CRgn_E* pRgn)
 {
     const auto* const pRegion = valueOf<const QRegion>(pRgn);
@@ -56,7 +66,8 @@ BOOL CRgn_E::CreateRectRgnIndirect(const tagRECT* lpRect)
 
 BOOL CRgn_E::CreateEllipticRgn(int x1, int y1, int x2, int y2)
 {
-    return Attach(new QRegion(withCorners(x1, y1, x2, y2), QRegion::Ellipse));
+    const QRect rect = withCorners(x1, y1, x2, y2);
+    return canBeRows(rect) ? Attach(new QRegion(rect, QRegion::Ellipse)) : FALSE;
 }
 
 BOOL CRgn_E::CreateEllipticRgnIndirect(const tagRECT* lpRect)
@@ -67,8 +78,11 @@ BOOL CRgn_E::CreateEllipticRgnIndirect(const tagRECT* lpRect)
 
 BOOL CRgn_E::CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3)
 {
+    const QRect rect = withCorners(x1, y1, x2, y2);
+    if (!canBeRows(rect))
+        return FALSE;
     QPainterPath path;
-    path.addRoundedRect(withCorners(x1, y1, x2, y2), x3, y3, Qt::AbsoluteSize);
+    path.addRoundedRect(rect, x3, y3, Qt::AbsoluteSize);
     return Attach(new QRegion(path.toFillPolygon().toPolygon(), Qt::OddEvenFill));
 }
 
@@ -80,6 +94,8 @@ BOOL CRgn_E::CreatePolygonRgn(const tagPOINT* lpPoints, int nCount, int)
     polygon.reserve(nCount);
     for (int i = 0; i < nCount; ++i)
         polygon.append(vx::detail::fromPoint(lpPoints[i]));
+    if (!canBeRows(polygon.boundingRect()))
+        return FALSE;
     return Attach(new QRegion(polygon, Qt::OddEvenFill));
 }
 

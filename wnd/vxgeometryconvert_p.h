@@ -12,7 +12,7 @@ inline tagPOINT toPoint(const QPoint& pt) { return {pt.x(), pt.y()}; }
 inline QPoint fromPoint(const tagPOINT& pt) { return {pt.x, pt.y}; }
 inline tagRECT toRect(const QRect& rc)
 {
-    return {rc.x(), rc.y(), rc.x() + rc.width(), rc.y() + rc.height()};
+    return {rc.left(), rc.top(), wrappingAdd(rc.right(), 1), wrappingAdd(rc.bottom(), 1)};
 }
 /// The pixels of @p rc: its right and bottom are exclusive, those of the result are not.
 inline QRect fromRect(const tagRECT& rc)

@@ -1,4 +1,6 @@
 // Idle time: who is called, and the temporary objects that it ends.
+#include "wnd/vxidle_p.h"
+
 #include "core/vxqtinternals_p.h"
 
 #include <VxMFCEmu/wnd/globaleventhandler.h>
@@ -8,6 +10,9 @@
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMetaMethod>
 #include <QtWidgets/QWidget>
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -52,7 +57,23 @@ bool isHostCommandRunning()
     return pfnIsActive && pfnIsActive();
 }
 
+std::vector<void (*)()>& cleanUps()
+{
+    static std::vector<void (*)()> functions;
+    return functions;
+}
+
 } // namespace
+
+void vx::detail::cleanUpAtIdle(void (*pfnCleanUp)())
+{
+    std::vector<void (*)()>& list = cleanUps();
+    if (!QAbstractEventDispatcher::instance() ||
+        std::find(list.cbegin(), list.cend(), pfnCleanUp) != list.cend())
+        return;
+    list.push_back(pfnCleanUp);
+    ConnectIdleSlot(GetGlobalEventHandler());
+}
 
 void ConnectIdleSlot(QObject* pObject)
 {
@@ -77,8 +98,11 @@ void DisconnectIdleSlot(QObject* pObject)
 
 void QGlobalEventHandler::OnEnterIdle()
 {
-    if (!isHostCommandRunning())
-        RemoveTempObject();
+    if (isHostCommandRunning())
+        return;
+    for (void (*const pfnCleanUp)() : std::exchange(cleanUps(), {}))
+        pfnCleanUp();
+    RemoveTempObject();
 }
 
 void QGlobalEventHandler::AppendTempObject(QObject* pObject)
@@ -96,7 +120,8 @@ void QGlobalEventHandler::RemoveTempObject()
         for (const QPointer<QObject>& object : objects)
             delete object;
     }
-    DisconnectIdleSlot(this);
+    if (cleanUps().empty())
+        DisconnectIdleSlot(this);
 }
 
 void AppendTempObjectPool(QObject* pObject)

@@ -70,6 +70,22 @@ constexpr wchar_t kWide[] = L"Two\nlines";
 using C = CDC_E;
 using P = QPainter;
 
+// The image is turned: logical (x, y) is at (60 - x, 50 - y), or y alone runs against the device.
+void turn(CDC_E& dc, bool inX = false)
+{
+    dc.SetMapMode(MM_ANISOTROPIC);
+    dc.SetViewportExt(inX ? -60 : 60, -50);
+    dc.SetViewportOrg(inX ? 60 : 0, 50);
+}
+
+QImage arrow() // looks different when it is mirrored
+{
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::yellow);
+    QPainter(&image).drawLine(0, 0, 9, 3);
+    return image;
+}
+
 // clang-format off
 const Case kCases[] = {
     // Lines and shapes
@@ -89,6 +105,9 @@ const Case kCases[] = {
                [](P& p) { QPainterPath b(kQPoints[0]); b.cubicTo(kQPoints[1], kQPoints[2], kQPoints[3]);
                           b.cubicTo(kQPoints[4], kQPoints[5], kQPoints[6]); p.drawPath(b);
                           p.drawLine(1, 1, 3, 3); p.drawLine(3, 3, 40, 8); p.drawLine(40, 8, 0, 49); }},
+    {__LINE__, [](C& c) { c.MoveTo(3, 3); c.PolyBezierTo(kPoints + 1, 6); c.LineTo(0, 49); },
+               [](P& p) { QPainterPath b(kQPoints[0]); b.cubicTo(kQPoints[1], kQPoints[2], kQPoints[3]);
+                          b.cubicTo(kQPoints[4], kQPoints[5], kQPoints[6]); p.drawPath(b); p.drawLine(55, 48, 0, 49); }},
     {__LINE__, [](C& c) { c.Arc(10, 10, 30, 30, 40, 20, 20, 0); c.Pie(30, 20, 50, 40, 20, 30, 40, 60); },
                [](P& p) { p.drawArc(10, 10, 20, 20, 0, 90 * 16); p.drawPie(30, 20, 20, 20, 180 * 16, 90 * 16); }},
     {__LINE__, [](C& c) { c.SetArcDirection(AD_CLOCKWISE); c.Chord(10, 10, 30, 30, 40, 20, 20, 0); c.RoundRect(4, 5, 30, 20, 8, 6); },
@@ -143,7 +162,7 @@ const Case kCases[] = {
                [](P& p) { p.setClipRegion(lRegion() & QRect(0, 0, 20, 30)); p.fillRect(0, 0, 60, 50, kGreen); }},
     {__LINE__, [](C& c) { c.SelectClipRgn(&lShape()); c.IntersectClipRect(8, 8, 20, 30); c.OffsetClipRgn(4, 4); c.FillSolidRect(0, 0, 60, 50, kGreen); c.SelectClipRgn(nullptr); c.LineTo(30, 30); },
                [](P& p) { p.setClipRegion(lRegion() & QRect(8, 8, 12, 22)); p.translate(4, 4); p.fillRect(0, 0, 60, 50, kGreen); p.setClipping(false); p.drawLine(0, 0, 30, 30); }},
-    {__LINE__, [](C& c) { c.SelectClipRgn(&lShape(), Qt::ReplaceClip); c.SelectClipRgn(&lShape(), Qt::NoClip); c.FillSolidRect(0, 0, 60, 50, kGreen); },
+    {__LINE__, [](C& c) { c.SelectClipRgn(&lShape(), Qt::ReplaceClip); c.SelectClipRgn(&lShape(), 3); c.SelectClipRgn(&lShape(), Qt::NoClip); c.FillSolidRect(0, 0, 60, 50, kGreen); },
                [](P& p) { p.fillRect(0, 0, 60, 50, kGreen); }},
     {__LINE__, [](C& c) { QWidget w; w.setGeometry(0, 0, 20, 30); CWnd_E wnd; wnd.SubclassWindow(&w); c.ExcludeUpdateRgn(&wnd); c.FillSolidRect(0, 0, 60, 50, kGreen); },
                [](P& p) { p.setClipRegion(QRegion(0, 0, 60, 50) - QRegion(0, 0, 20, 30)); p.fillRect(0, 0, 60, 50, kGreen); }},
@@ -152,7 +171,21 @@ const Case kCases[] = {
                [](P& p) { p.drawLine(13, 9, 33, 29); p.drawLine(30, 25, 30, 5); }},
     {__LINE__, [](C& c) { c.SetMapMode(MM_ANISOTROPIC); c.SetWindowExt(30, 25); c.SetViewportExt(60, -50); c.SetViewportOrg(0, 49); c.MoveTo(5, 5); c.LineTo(20, 20); },
                [](P& p) { p.setViewport(0, 49, 60, -50); p.setWindow(0, 0, 30, 25); p.drawLine(5, 5, 20, 20); }},
+    // Text, icons and images where an axis runs against the device
+    {__LINE__, [](C& c) { turn(c); auto r = rect(2, 48, 50, 10); c.DrawText(kWide, -1, &r, Qt::AlignRight); c.TextOut(4, 20, L"ab", 2); c.MoveTo(9, 9); c.LineTo(20, 9); },
+               [](P& p) { p.drawText(corners(2, 2, 49, 39), Qt::AlignRight, kText); p.drawText(4, 30 + p.fontMetrics().ascent(), QStringLiteral("ab")); p.drawLine(9, 41, 20, 41); }},
+    {__LINE__, [](C& c) { turn(c, true); auto r = rect(58, 48, 35, 10); c.SetBkColor(RGB(255, 255, 0)); c.SetTextAlign(TA_UPDATECP); c.MoveTo(50, 45); c.ExtTextOut(0, 0, ETO_OPAQUE | ETO_CLIPPED, &r, L"WWW", 3, nullptr); c.TextOut(0, 0, L"a", 1); },
+               [](P& p) { const int a = p.fontMetrics().ascent(); p.fillRect(2, 2, 23, 38, Qt::yellow); p.setClipRect(2, 2, 23, 38); p.drawText(10, 5 + a, QStringLiteral("WWW")); p.setClipping(false);
+                          p.drawText(10 + p.fontMetrics().horizontalAdvance(QStringLiteral("WWW")), 5 + a, QStringLiteral("a")); }},
+    {__LINE__, [](C& c) { QImage i = arrow(); C m(&i); turn(c); c.StretchBlt(5, 5, 20, 30, &m, 0, 0, 10, 10, SRCCOPY); c.StretchBlt(30, 35, 20, -30, &m, 0, 0, 10, 10, SRCCOPY); c.TransparentBlt(50, 10, 10, 10, &m, 0, 0, 10, 10, RGB(255, 255, 0)); },
+               [](P& p) { p.drawImage(QRect(5, 15, 20, 30), arrow().mirrored(false, true)); p.drawImage(QRect(30, 15, 20, 30), arrow());
+                          const QImage i = arrow().mirrored(false, true);
+                          for (int n = 0; n < 100; ++n) { if (i.pixelColor(n % 10, n / 10) == QColor(Qt::black)) p.drawPoint(50 + n % 10, 30 + n / 10); } }},
+    {__LINE__, [](C& c) { turn(c, true); c.BitBlt(30, 20, 30, 30, &c, 20, 10, SRCCOPY); QPixmap x = QPixmap::fromImage(arrow().scaled(32, 32)); QIcon icon(x); c.DrawIcon(30, 40, &icon); },
+               [](P& p) { p.drawImage(0, 0, canvas(QImage::Format_RGB32), 10, 10, 30, 30); p.drawImage(30, 10, arrow().scaled(32, 32)); }},
     // Images
+    {__LINE__, [](C& c) { QImage i = arrow(); C m(&i); c.StretchBlt(0, 0, 60, 50, &m, 0, 0, 0, 10, SRCCOPY); c.TransparentBlt(0, 0, 60, 50, &m, 0, 0, 10, 0, 0); c.BitBlt(0, 0, 0, 9, &m, 0, 0, SRCCOPY); c.LineTo(5, 5); },
+               [](P& p) { p.drawLine(0, 0, 5, 5); }},
     {__LINE__, [](C& c) { c.BitBlt(0, 0, 30, 30, &c, 10, 10, SRCCOPY); }, // on itself
                [](P& p) { const QImage i = canvas(QImage::Format_RGB32); p.drawImage(0, 0, i, 10, 10, 30, 30); }},
     {__LINE__, [](C& c) { CBitmap_E b; b.CreateBitmap(10, 10, 1, 32, nullptr); C m; m.CreateCompatibleDC(&c); m.SelectObject(&green()); m.SelectObject(&b); m.PatBlt(0, 0, 10, 10, WHITENESS); m.LineTo(9, 9);

@@ -44,7 +44,7 @@ public:
     {
         CWnd_E::OnCtlColor(pDC, pControl, nCtlColor); // as wizards write it
         kinds[pControl] = nCtlColor;
-        if (nCtlColor == CTLCOLOR_EDIT)
+        if (nCtlColor == CTLCOLOR_EDIT || !answers)
             return nullptr;
         pDC->SetTextColor(RGB(255, 0, 0));
         return brush.GetSafeHandle();
@@ -53,6 +53,7 @@ public:
     std::function<void(View&)> paint;
     std::function<void(CDC_E&)> erase;
     QString log;
+    bool answers = true;
     QHash<QWidget*, UINT> kinds;
     CBrush_E brush{RGB(255, 255, 0)};
     DECLARE_MESSAGE_MAP_E()
@@ -143,6 +144,42 @@ TEST(Painting, SecondContextInAPaintMessageDrawsToo)
         [&] { return shown(*s.pWidget).pixelColor(15, 15) == QColor(Qt::red); }, 2000));
 }
 
+// All widgets of a window share what is shown: it is not to be painted twice at once.
+TEST(Painting, ContextsOfOtherWidgetsInAPaintMessage)
+{
+    Shown s;
+    QWidget sibling(&s.top);
+    sibling.setGeometry(130, 30, 40, 40);
+    QWidget* pChild = nullptr;
+    const auto mark = [](QWidget* pWidget) {
+        CClientDC_E(pWidget).FillSolidRect(2, 2, 5, 5, RGB(255, 0, 0));
+    };
+    bool marking = false;
+    s.view.paint = [&](View& view) {
+        if (!marking)
+            return;
+        CPaintDC_E dc(&view);
+        for (QWidget* const p : {&sibling, &s.top, pChild})
+            mark(p);
+        dc.FillSolidRect(50, 50, 9, 9, RGB(0, 0, 255)); // goes on
+    };
+    s.view.erase = [&](CDC_E&) { mark(&sibling); };
+    s.show();
+    pChild = new QWidget(s.pWidget);
+    pChild->setGeometry(5, 5, 20, 20);
+    pChild->show();
+    marking = true;
+    s.repaint();
+    EXPECT_TRUE(vxtest::waitUntil(
+        [&] {
+            const QImage image = shown(s.top).scaled(s.top.size()); // whatever the scale
+            return image.pixelColor(132, 32) == QColor(Qt::red) &&
+                   image.pixelColor(3, 3) == QColor(Qt::red) &&
+                   image.pixelColor(75, 85) == QColor(Qt::blue);
+        },
+        2000));
+}
+
 TEST(Painting, ClientContextReachesTheScreenAtOnce)
 {
     Shown s;
@@ -227,6 +264,7 @@ TEST(ControlColors, AreAskedOfTheWindowAround)
     auto* const pBox = new QGroupBox(s.pWidget);
     auto* const pEdit = new QLineEdit(pBox);
     auto* const pButton = new QPushButton(pBox);
+    pButton->setAutoFillBackground(true);
     int y = 0;
     for (QWidget* const pControl : QList<QWidget*>{pLabel, pBox, pEdit, pButton}) {
         pControl->setGeometry(5, y, 50, 30);
@@ -245,6 +283,29 @@ TEST(ControlColors, AreAskedOfTheWindowAround)
     pLabel->update();
     EXPECT_TRUE(vxtest::waitUntil(
         [&] { return pLabel->palette().color(QPalette::Window) == QColor(Qt::cyan); }));
+    // What the application sets later stays its own, as does the background that it asked for.
+    EXPECT_TRUE(pLabel->autoFillBackground());
+    for (QWidget* const pControl :
+         {static_cast<QWidget*>(pLabel), static_cast<QWidget*>(pButton)}) {
+        QPalette palette = pControl->palette();
+        palette.setColor(QPalette::Highlight, Qt::darkRed);
+        palette.setColor(QPalette::WindowText, Qt::darkBlue);
+        pControl->setPalette(palette);
+    }
+    s.view.answers = false;
+    pLabel->update();
+    pButton->update();
+    const QColor window = s.top.palette().color(QPalette::Window);
+    EXPECT_TRUE(
+        vxtest::waitUntil([&] { return pLabel->palette().color(QPalette::Window) == window; }));
+    EXPECT_FALSE(pLabel->autoFillBackground());
+    EXPECT_TRUE(pButton->autoFillBackground());
+    for (QWidget* const pControl :
+         {static_cast<QWidget*>(pLabel), static_cast<QWidget*>(pButton)}) {
+        EXPECT_EQ(pControl->palette().color(QPalette::Highlight), QColor(Qt::darkRed));
+        EXPECT_EQ(pControl->palette().color(QPalette::WindowText), QColor(Qt::darkBlue));
+    }
+    s.view.answers = true;
     // Sent by hand: the result is the brush, of all seven messages.
     CDC_E dc;
     for (UINT n = 0; n < CTLCOLOR_MAX; ++n) {

@@ -13,6 +13,7 @@
 #include <VxMFCEmu/core/object.h>
 
 #include <new>
+#include <vector>
 
 /// Makes and destroys an object of class @p T in memory that a map provides.
 template <typename T>
@@ -60,18 +61,24 @@ public:
     CObject_E* LookupPermanent(void* h) const;
     /// The temporary object of @p h; null when there is none.
     CObject_E* LookupTemporary(void* h) const;
+    /// Takes the temporary object of @p h, which lets that handle go, out of the map: it lives
+    /// until DeleteTemp(), with whatever handle it gets meanwhile. Nothing when there is none.
+    void SetAside(void* h);
     /// Clears the handles of the temporary objects, destroys them and frees their memory. Not to be
     /// called from the destructor of one of them.
     void DeleteTemp();
 
 private:
     void WriteHandle(CObject_E* pObject, void* h) const;
+    void ClearHandle(CObject_E* pObject, const void* h) const;
+    char* HandleField(CObject_E* pObject, int nIndex) const;
 
     CFixedAllocNoSync_E m_alloc;
     ObjectFn m_pfnConstructObject;
     ObjectFn m_pfnDestructObject;
     CMapPtrToPtr_E m_permanentMap;
     CMapPtrToPtr_E m_temporaryMap;
+    std::vector<CObject_E*> m_setAside; // temporary objects that have let their handle go
     [[maybe_unused]] CRuntimeClass_E* m_pClass;
     std::size_t m_nOffset;
     int m_nHandles;

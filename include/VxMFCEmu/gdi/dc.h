@@ -56,8 +56,10 @@ public:
     /// An inactive painter, an empty colour table, no handle. The device comes with
     /// CreateCompatibleDC(), or by beginning the painter.
     CDC_E();
-    /// Draws on @p pImage, which the caller owns and which must outlive the device context; null
-    /// gives an inactive painter.
+    /// Draws on @p pImage, which the caller owns; null gives an inactive painter. The image of a
+    /// bitmap may go first. Any other image must outlive the device context or be let go with
+    /// DeleteDC(): a painter has no way to learn that it is gone, and using or destroying the
+    /// device context after it is undefined behaviour.
     explicit CDC_E(QImage* pImage);
     /// Draws on @p pWidget, see above; null gives an inactive painter. A widget that is destroyed
     /// first leaves an inactive painter.
@@ -121,6 +123,10 @@ public:
     /// that another device context draws on and for one of 4 bits a pixel. The bitmap is drawn on
     /// in place and may be looked at meanwhile; destroying it is harmless.
     CBitmap_E* SelectObject(CBitmap_E* pBitmap);
+    /// The same by the class of the object: pen, brush, bitmap, font or region. Null for a font and
+    /// a region, whose previous ones are no objects, and for null and other classes, which select
+    /// nothing.
+    CGdiObject_E* SelectObject(CGdiObject_E* pObject);
     /// Replaces the colour table by the entries of @p pPalette, padded with white to 256, or by the
     /// default ones for null, and returns the address of m_palette.
     CPalette_E* SelectPalette(CPalette_E* pPalette, BOOL bForceBackground);
@@ -166,14 +172,24 @@ public:
     CPoint_E GetBrushOrg() const;
     CPoint_E SetBrushOrg(int x, int y);
 
-    // Lines and shapes. 1 means drawn; those with points give FALSE for too few or null ones.
+    // Lines and shapes. 1 means drawn. FALSE for a null rectangle, too few or null points, and,
+    // except where it is always 1, without a device; Rectangle() and Ellipse() give 1 then.
 
     CPoint_E GetCurrentPosition() const { return {m_x, m_y}; }
     /// Sets the current position. Always 1.
-    BOOL MoveTo(int x, int y);
+    BOOL MoveTo(int x, int y)
+    {
+        m_x = x;
+        m_y = y;
+        return 1;
+    }
     BOOL MoveTo(tagPOINT point) { return MoveTo(point.x, point.y); }
     /// Draws a line to a point, which it includes, and moves there. Always 1.
-    BOOL LineTo(int x, int y);
+    BOOL LineTo(int x, int y)
+    {
+        m_painter.drawLine(m_x, m_y, x, y);
+        return MoveTo(x, y);
+    }
     BOOL LineTo(tagPOINT point) { return LineTo(point.x, point.y); }
     BOOL Polyline(const tagPOINT* pPoints, int nCount);
     /// From the current position, which moves to the last point.
@@ -202,8 +218,8 @@ public:
     BOOL Chord(int l, int t, int r, int b, int xStart, int yStart, int xEnd, int yEnd);
     BOOL Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end);
     /// Draws one point and leaves a plain pen of the previous pen's colour. Returns @p color.
-    VxColor SetPixel(int x, int y, const VxColor& color);
-    VxColor SetPixel(tagPOINT point, const VxColor& color)
+    VxColor SetPixel(int x, int y, const VxColorArg& color);
+    VxColor SetPixel(tagPOINT point, const VxColorArg& color)
     {
         return SetPixel(point.x, point.y, color);
     }
@@ -215,14 +231,14 @@ public:
     // Fills
 
     /// Without an outline.
-    void FillSolidRect(int x, int y, int cx, int cy, const VxColor& color);
-    void FillSolidRect(const tagRECT* pRect, const VxColor& color);
+    void FillSolidRect(int x, int y, int cx, int cy, const VxColorArg& color);
+    void FillSolidRect(const tagRECT* pRect, const VxColorArg& color);
     /// Nothing for an empty brush.
     void FillRect(const tagRECT* pRect, CBrush_E* pBrush);
     /// A frame one pixel wide, whose left and top sides have one colour and whose others another.
-    void Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
-                    const VxColor& bottomRight);
-    void Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight);
+    void Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
+                    const VxColorArg& bottomRight);
+    void Draw3dRect(const tagRECT* pRect, const VxColorArg& topLeft, const VxColorArg& bottomRight);
     /// See DrawEdge_E().
     BOOL DrawEdge(tagRECT* pRect, UINT nEdge, UINT nFlags);
     /// Inverts a dotted frame: drawn twice, it is gone.
@@ -303,8 +319,11 @@ public:
     BOOL PtVisible(tagPOINT point) const { return PtVisible(point.x, point.y); }
     BOOL RectVisible(const tagRECT* pRect) const;
 
-    // Coordinates. The extents count in the modes MM_ISOTROPIC and MM_ANISOTROPIC only, and begin
-    // as the size of the device.
+    // Coordinates. Origins and extents end at 2^27 in either direction. Where an axis runs against
+    // that of the device (MM_LOMETRIC and kin, extents of different sign), text and icons stand
+    // upright at their point all the same, and images are mirrored as their extents on the devices
+    // of source and target say. The extents count in the modes MM_ISOTROPIC and MM_ANISOTROPIC
+    // only, and begin as the size of the device.
 
     int GetMapMode() const { return m_modes.map; }
     /// Returns the previous mode, 0 for an unknown one.
@@ -340,7 +359,8 @@ public:
     /// Copies pixels, combined with what is there and with the brush as @p dwRop says; FALSE for an
     /// operation without a name. Source and target may be the same device context.
     BOOL BitBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
-    /// The same with another size; extents of different sign mirror the image.
+    /// The same with another size; extents of different sign mirror the image. An empty source
+    /// draws nothing.
     BOOL StretchBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc, int cxSrc,
                     int cySrc, DWORD dwRop);
     /// The same for those pixels that have not the colour @p crTransparent.

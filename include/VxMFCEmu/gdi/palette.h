@@ -52,7 +52,7 @@ class VXMFC_EXPORT CPalette_E : public CGdiObject_E
     BOOL CreateHalftonePalette(CDC_E* pDC);
     int GetEntryCount() const;
     /// Copies nothing (intended). Returns @p nNumEntries, or the number of entries less @p
-    /// nStartIndex when there are fewer; 0 for null.
+    /// nStartIndex when there are fewer; 0 for null and for a start at the end or beyond.
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
                            tagPALETTEENTRY* lpPaletteColors) const;
     /// Overwrites entries, up to the last one; returns how many. 0 for null.

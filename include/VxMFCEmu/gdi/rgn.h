@@ -45,13 +45,14 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     /// The pixels from (@p x1, @p y1) to (@p x2, @p y2), both included (intended).
     BOOL CreateRectRgn(int x1, int y1, int x2, int y2);
     BOOL CreateRectRgnIndirect(const tagRECT* lpRect);
-    /// The ellipse within those pixels.
+    /// The ellipse within those pixels. FALSE beyond 2^20 in any direction, as for the two shapes
+    /// that follow: a region is made of rows.
     BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2);
     BOOL CreateEllipticRgnIndirect(const tagRECT* lpRect);
     /// The rectangle with corners of radii @p x3 and @p y3.
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3);
-    /// The polygon, filled odd-even whatever @p nMode (intended). FALSE for null and for a count
-    /// that is not positive.
+    /// The polygon, filled odd-even whatever @p nMode (intended). FALSE as well for null and for a
+    /// count that is not positive.
     BOOL CreatePolygonRgn(const tagPOINT* lpPoints, int nCount, int nMode);
     /// Returns 1 and makes no region.
     BOOL CreatePolyPolygonRgn(const tagPOINT* lpPoints, const int* lpPolyCounts, int nCount,

@@ -201,7 +201,8 @@ public:
     /// Shows a modal message box over this window and returns the id of the button that ended it.
     /// The types are the MB_* values; without a caption it is "Error".
     int MessageBox(const wchar_t* lpszText, const wchar_t* lpszCaption = nullptr, UINT nType = 0);
-    /// Schedules a repaint of the whole window.
+    /// Schedules a repaint of the whole window. Differs from Win32: WM_ERASEBKGND is sent whatever
+    /// @p bErase, since Qt paints what lies under the window anew, over the former contents.
     void Invalidate(BOOL bErase = TRUE);
     /// Schedules a repaint of a rectangle, of the whole window for null.
     void InvalidateRect(const tagRECT* pRect, BOOL bErase = TRUE);
