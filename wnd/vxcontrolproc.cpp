@@ -5,7 +5,7 @@
 #include <VxMFCEmu/wnd/window.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QDialog>
 
 #include <limits>
 
@@ -17,6 +17,8 @@ constexpr LRESULT kUnanswered = std::numeric_limits<LRESULT>::min() + 1;
 
 VxCreateObjectFn controlFactory(const QWidget* pWidget)
 {
+    if (qobject_cast<const QDialog*>(pWidget)) // has a class too, but is no control
+        return nullptr;
     for (const QMetaObject* pMeta = pWidget->metaObject(); pMeta; pMeta = pMeta->superClass()) {
         if (const auto it = g_mapCreateMethod.find(pMeta); it != g_mapCreateMethod.end())
             return it->second == &CWnd_E::CreateObject ? nullptr : it->second;
