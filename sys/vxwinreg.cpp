@@ -8,7 +8,6 @@
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
-#include <mutex>
 #include <string>
 #include <unordered_set>
 
@@ -17,6 +16,9 @@ QSettings g_appRegistry(QSettings::IniFormat, QSettings::UserScope,
                         QCoreApplication::organizationName(), QCoreApplication::applicationName());
 
 namespace vx::detail {
+
+std::mutex g_registryMutex;
+
 namespace {
 
 struct Root
@@ -73,13 +75,13 @@ public:
 
     HKEY Open(const QString& path)
     {
-        const std::lock_guard lock(m_mutex);
+        const RegistryLock lock(g_registryMutex);
         return *m_keys.insert(new Key{path}).first;
     }
     bool Close(HKEY hKey)
     {
         Key* const pKey = static_cast<Key*>(hKey);
-        const std::lock_guard lock(m_mutex);
+        const RegistryLock lock(g_registryMutex);
         if (m_keys.erase(pKey) == 0)
             return false;
         m_pLast = nullptr;
@@ -96,13 +98,11 @@ public:
             QString room;
             return make(root, room);
         }
-        const std::lock_guard lock(m_mutex);
         const Key* const pKey = Find(hKey);
         return pKey ? make(pKey->path, m_room) : QString();
     }
     void SetPath(HKEY hKey, const QString& path)
     {
-        const std::lock_guard lock(m_mutex);
         if (Key* const pKey = Find(hKey))
             pKey->path = path;
     }
@@ -117,7 +117,6 @@ private:
         return m_pLast;
     }
 
-    std::mutex m_mutex;
     QString m_room;
     Key* m_pLast = nullptr; // calls for one key come in rows
     std::unordered_set<Key*> m_keys;
@@ -295,6 +294,7 @@ LONG RegCloseKey_E(HKEY hKey)
 
 LONG RegFlushKey_E(HKEY /*hKey*/)
 {
+    const RegistryLock lock(g_registryMutex);
     forgetRegistryListings();
     g_appRegistry.sync();
     return ERROR_SUCCESS;

@@ -5,9 +5,16 @@
 
 #include <QtCore/QSettings>
 
+#include <mutex>
+
 extern QSettings g_appRegistry;
 
 namespace vx::detail {
+
+/// Held by the functions of the registry that use keys or the store, neither of which is made for
+/// two threads at once. What follows here wants it held.
+extern std::mutex g_registryMutex;
+using RegistryLock = std::lock_guard<std::mutex>;
 
 /// The path of a predefined root or of an open key; empty for every other handle.
 QString registryPath(HKEY hKey);

@@ -10,8 +10,6 @@
 #include <QtCore/QVariant>
 
 #include <algorithm>
-#include <atomic>
-#include <mutex>
 
 namespace vx::detail {
 namespace {
@@ -24,7 +22,6 @@ class Listings
 public:
     QStringList Of(const QString& path)
     {
-        const std::lock_guard lock(m_mutex);
         if (m_contents.IsOf(g_appRegistry)) {
             const auto found = m_listings.constFind(path);
             if (found != m_listings.cend())
@@ -33,18 +30,17 @@ public:
             m_listings.clear();
             m_contents.Take(g_appRegistry); // first: a change meanwhile makes the listing outdated
         }
-        m_isEmpty.store(false, std::memory_order_relaxed);
+        m_isEmpty = false;
         return *m_listings.insert(path, Read(path));
     }
 
     void Forget()
     {
-        if (m_isEmpty.load(std::memory_order_relaxed)) // mostly: writes come in rows
+        if (m_isEmpty) // mostly: writes come in rows
             return;
-        const std::lock_guard lock(m_mutex);
         m_listings.clear();
         m_contents.Drop();
-        m_isEmpty.store(true, std::memory_order_relaxed);
+        m_isEmpty = true;
     }
 
 private:
@@ -56,8 +52,7 @@ private:
         return names;
     }
 
-    std::mutex m_mutex;
-    std::atomic<bool> m_isEmpty{true};
+    bool m_isEmpty = true;
     QHash<QString, QStringList> m_listings;
     SettingsContents m_contents;
 };
@@ -83,6 +78,7 @@ void giveText(const QString& text, LPWSTR pBuffer, LPDWORD pLength)
 template <typename TextOf>
 LONG enumerate(HKEY hKey, DWORD dwIndex, LPWSTR pBuffer, LPDWORD pLength, TextOf textOf)
 {
+    const RegistryLock lock(g_registryMutex);
     const QString path = registryPath(hKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;
@@ -135,6 +131,7 @@ LONG RegQueryInfoKey_E(HKEY hKey, LPWSTR /*pClass*/, LPDWORD /*pcchClass*/, LPDW
                        LPDWORD pcbMaxValueLen, LPDWORD /*pcbSecurityDescriptor*/,
                        PFILETIME /*pftLastWriteTime*/)
 {
+    const RegistryLock lock(g_registryMutex);
     const QString path = registryPath(hKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;

@@ -18,6 +18,7 @@ QString withoutEmptyParts(const QString& path)
 
 LONG removeBelow(HKEY hKey, LPCWSTR pSubKey)
 {
+    const RegistryLock lock(g_registryMutex);
     const QString path = registryPath(hKey, pSubKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;
@@ -77,6 +78,7 @@ LONG RegDeleteKeyValue_E(HKEY hKey, LPCWSTR pSubKey, LPCWSTR /*pValueName*/)
 
 LONG RegRenameKey_E(HKEY hKey, LPCWSTR pSubKeyName, LPCWSTR pNewKeyName)
 {
+    const RegistryLock lock(g_registryMutex);
     const QString path = registryPath(hKey);
     if (path.isEmpty())
         return ERROR_INVALID_HANDLE;
@@ -90,6 +92,7 @@ LONG RegRenameKey_E(HKEY hKey, LPCWSTR pSubKeyName, LPCWSTR pNewKeyName)
 
 LONG RegCopyTree_E(HKEY hKeySrc, LPCWSTR pSubKey, HKEY hKeyDest)
 {
+    const RegistryLock lock(g_registryMutex);
     const QString source = registryPath(hKeySrc, pSubKey);
     const QString target = registryPath(hKeyDest);
     if (source.isEmpty() || target.isEmpty())

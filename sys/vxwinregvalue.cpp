@@ -148,6 +148,12 @@ LONG queryValue(const QString& path, const Output& output)
     return ERROR_SUCCESS;
 }
 
+bool isKey(HKEY hKey)
+{
+    const RegistryLock lock(g_registryMutex);
+    return !registryPath(hKey).isEmpty();
+}
+
 // The data as RegQueryValueExA_E() gives them, and a terminator in any case.
 std::vector<BYTE> dataOf(HKEY hKey, LPCSTR pName, LONG& result)
 {
@@ -165,12 +171,14 @@ std::vector<BYTE> dataOf(HKEY hKey, LPCSTR pName, LONG& result)
 LONG RegSetValueExA_E(HKEY hKey, LPCSTR pValueName, DWORD /*dwReserved*/, DWORD dwType,
                       const BYTE* pData, DWORD /*cbData*/)
 {
+    const RegistryLock lock(g_registryMutex);
     return setValue(valuePath(hKey, pValueName), dwType, pData, narrowText);
 }
 
 LONG RegSetValueExW_E(HKEY hKey, LPCWSTR pValueName, DWORD /*dwReserved*/, DWORD dwType,
                       const BYTE* pData, DWORD /*cbData*/)
 {
+    const RegistryLock lock(g_registryMutex);
     return setValue(valuePath(hKey, pValueName), dwType, pData, wideText);
 }
 
@@ -188,12 +196,14 @@ LONG RegSetKeyValue_E(HKEY hKey, LPCWSTR /*pSubKey*/, LPCWSTR pValueName, DWORD 
 LONG RegQueryValueExA_E(HKEY hKey, LPCSTR pValueName, LPDWORD /*pReserved*/, LPDWORD pdwType,
                         BYTE* pData, LPDWORD pcbData)
 {
+    const RegistryLock lock(g_registryMutex);
     return queryValue(valuePath(hKey, pValueName), {pdwType, pData, pcbData});
 }
 
 LONG RegQueryValueExW_E(HKEY hKey, LPCWSTR pValueName, LPDWORD /*pReserved*/, LPDWORD pdwType,
                         BYTE* pData, LPDWORD pcbData)
 {
+    const RegistryLock lock(g_registryMutex);
     const QString path =
         pValueName ? narrowRegistryPath(hKey, pValueName) : valuePath(hKey, LPCWSTR());
     return queryValue(path, {pdwType, pData, pcbData});
@@ -236,7 +246,7 @@ LONG RegQueryMultipleValues_E(HKEY hKey, PVALENT pValues, DWORD nValues, LPWSTR 
                               LPDWORD pdwTotalSize)
 {
     constexpr std::size_t kAlignment = 8;
-    if (registryPath(hKey).isEmpty())
+    if (!isKey(hKey))
         return ERROR_INVALID_HANDLE;
     if (!pValues || !pdwTotalSize)
         return ERROR_INVALID_PARAMETER;

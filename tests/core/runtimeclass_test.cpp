@@ -7,10 +7,10 @@ CObject_E* makeTarget() { return new CCmdTarget_E; }
 CObject_E* makeNothing() { return nullptr; }
 
 const QMetaObject* const object = &QObject::staticMetaObject;
-const QMetaObject* const button = &QPushButton::staticMetaObject;
-const QMetaObject* const slider = &QSlider::staticMetaObject;
-const QMetaObject* const dial = &QDial::staticMetaObject;
-const QMetaObject* const abstractSlider = &QAbstractSlider::staticMetaObject;
+const QMetaObject* const tabBar = &QTabBar::staticMetaObject;
+const QMetaObject* const tableView = &QTableView::staticMetaObject;
+const QMetaObject* const splitter = &QSplitter::staticMetaObject;
+const QMetaObject* const itemView = &QAbstractItemView::staticMetaObject;
 
 VxCreateObjectFn registered(const QMetaObject* meta)
 {
@@ -27,56 +27,56 @@ CRuntimeClass_E record(const QMetaObject* imp, const QMetaObject* base, VxCreate
 TEST(RuntimeClass, RegistersWhatDiffersFromTheBase)
 {
     {
-        const auto same = record(button, button, makeObject);
-        EXPECT_EQ(registered(button), nullptr);
-        const auto none = record(button, object, nullptr);
-        EXPECT_EQ(registered(button), nullptr);
-        const auto one = record(button, object, makeObject);
-        EXPECT_EQ(registered(button), makeObject);
+        const auto same = record(tabBar, tabBar, makeObject);
+        EXPECT_EQ(registered(tabBar), nullptr);
+        const auto none = record(tabBar, object, nullptr);
+        EXPECT_EQ(registered(tabBar), nullptr);
+        const auto one = record(tabBar, object, makeObject);
+        EXPECT_EQ(registered(tabBar), makeObject);
         for (const auto create : {makeTarget, makeObject})
-            const auto later = record(button, object, create);
-        EXPECT_EQ(registered(button), makeObject) << "the first registration wins and stays";
+            const auto later = record(tabBar, object, create);
+        EXPECT_EQ(registered(tabBar), makeObject) << "the first registration wins and stays";
         EXPECT_EQ(one.GetObjectSize(), 12);
-        EXPECT_STREQ(one.GetImpClassName(), "QPushButton");
+        EXPECT_STREQ(one.GetImpClassName(), "QTabBar");
         EXPECT_STREQ(one.GetClassName(), "CObject_E");
         const std::unique_ptr<CObject_E> made(one.CreateObject());
         EXPECT_NE(made, nullptr);
         EXPECT_EQ(none.CreateObject(), nullptr);
     }
-    EXPECT_EQ(registered(button), nullptr) << "gone with its record";
+    EXPECT_EQ(registered(tabBar), nullptr) << "gone with its record";
 }
 
 TEST(RuntimeClass, AListRegistersItsEntriesOnly)
 {
-    const auto listed =
-        record(button, dial, makeObject, CRuntimeClass_E::CreateMetaList(slider, dial, nullptr));
-    EXPECT_EQ(registered(slider), makeObject);
-    EXPECT_EQ(registered(dial), nullptr) << "the base's";
-    EXPECT_EQ(registered(button), nullptr) << "the single class does not count beside a list";
+    const auto listed = record(tabBar, splitter, makeObject,
+                               CRuntimeClass_E::CreateMetaList(tableView, splitter, nullptr));
+    EXPECT_EQ(registered(tableView), makeObject);
+    EXPECT_EQ(registered(splitter), nullptr) << "the base's";
+    EXPECT_EQ(registered(tabBar), nullptr) << "the single class does not count beside a list";
 }
 
 TEST(RuntimeClass, MetaListEndsAtTheFirstNull)
 {
     const QMetaObject* const none = nullptr;
     const std::unique_ptr<QList<const QMetaObject*>> list(
-        CRuntimeClass_E::CreateMetaList(slider, button, none, dial, none));
-    EXPECT_EQ(*list, (QList<const QMetaObject*>{slider, button}));
+        CRuntimeClass_E::CreateMetaList(tableView, tabBar, none, splitter, none));
+    EXPECT_EQ(*list, (QList<const QMetaObject*>{tableView, tabBar}));
     const std::unique_ptr<QList<const QMetaObject*>> empty(
-        CRuntimeClass_E::CreateMetaList(none, dial, none));
+        CRuntimeClass_E::CreateMetaList(none, splitter, none));
     EXPECT_TRUE(empty->isEmpty());
 }
 
 TEST(RuntimeClass, WhatCanImplementIt)
 {
     const QMetaObject* const none = nullptr;
-    const auto single = record(abstractSlider, object, nullptr);
+    const auto single = record(itemView, object, nullptr);
     const auto listed =
-        record(button, object, nullptr, CRuntimeClass_E::CreateMetaList(dial, slider, none));
-    const auto empty = record(button, object, nullptr, CRuntimeClass_E::CreateMetaList(none));
+        record(tabBar, object, nullptr, CRuntimeClass_E::CreateMetaList(splitter, tableView, none));
+    const auto empty = record(tabBar, object, nullptr, CRuntimeClass_E::CreateMetaList(none));
     const Row<const CRuntimeClass_E*, const QMetaObject*, bool> rows[] = {
-        {&single, slider, true},   {&single, abstractSlider, true},  {&single, button, false},
-        {&single, nullptr, false}, {&listed, slider, true},          {&listed, dial, true},
-        {&listed, button, false},  {&listed, abstractSlider, false}, {&empty, button, false},
+        {&single, tableView, true}, {&single, itemView, true},  {&single, tabBar, false},
+        {&single, nullptr, false},  {&listed, tableView, true}, {&listed, splitter, true},
+        {&listed, tabBar, false},   {&listed, itemView, false}, {&empty, tabBar, false},
     };
     forRows(rows, [&](const CRuntimeClass_E* pRecord, const QMetaObject* meta, bool fits) {
         EXPECT_EQ(pRecord->IsMyImpMeta(meta), fits);
@@ -85,11 +85,11 @@ TEST(RuntimeClass, WhatCanImplementIt)
 
 TEST(RuntimeClass, ANullFactoryIsNotRegistered)
 {
-    EXPECT_FALSE(CRuntimeClass_E::RegisterCreateObjectMethod(button, nullptr));
-    EXPECT_TRUE(CRuntimeClass_E::RegisterCreateObjectMethod(button, makeObject));
-    EXPECT_FALSE(CRuntimeClass_E::RegisterCreateObjectMethod(button, makeTarget));
-    EXPECT_EQ(registered(button), makeObject);
-    g_mapCreateMethod.erase(button);
+    EXPECT_FALSE(CRuntimeClass_E::RegisterCreateObjectMethod(tabBar, nullptr));
+    EXPECT_TRUE(CRuntimeClass_E::RegisterCreateObjectMethod(tabBar, makeObject));
+    EXPECT_FALSE(CRuntimeClass_E::RegisterCreateObjectMethod(tabBar, makeTarget));
+    EXPECT_EQ(registered(tabBar), makeObject);
+    g_mapCreateMethod.erase(tabBar);
 }
 
 TEST(RuntimeClass, DerivationFollowsTheMetaObjects)
@@ -106,18 +106,18 @@ TEST(RuntimeClass, DerivationFollowsTheMetaObjects)
 
 TEST(Registry, ClimbsToTheNearestRegisteredClass)
 {
-    const auto forSlider = record(abstractSlider, object, makeTarget);
+    const auto forView = record(itemView, object, makeTarget);
     const std::unique_ptr<CObject_E> nearest(
-        CObject_E::FromImpMetaObject(&QScrollBar::staticMetaObject));
+        CObject_E::FromImpMetaObject(&QTableWidget::staticMetaObject));
     ASSERT_NE(nearest, nullptr);
     EXPECT_TRUE(nearest->IsKindOf("CCmdTarget_E"));
-    const std::unique_ptr<CObject_E> climbed(CObject_E::FromImpMetaObject(button));
+    const std::unique_ptr<CObject_E> climbed(CObject_E::FromImpMetaObject(tabBar));
     ASSERT_NE(climbed, nullptr);
     EXPECT_STREQ(climbed->GetClassName(), "CWnd_E") << "the library's own entry for QWidget";
     EXPECT_EQ(CObject_E::FromImpMetaObject(nullptr), nullptr);
     EXPECT_EQ(CObject_E::FromImpMetaObject(object), nullptr);
-    const auto yieldsNothing = record(dial, object, makeNothing);
-    EXPECT_EQ(CObject_E::FromImpMetaObject(dial), nullptr) << "the first hit decides";
+    const auto yieldsNothing = record(splitter, object, makeNothing);
+    EXPECT_EQ(CObject_E::FromImpMetaObject(splitter), nullptr) << "the first hit decides";
 }
 
 } // namespace

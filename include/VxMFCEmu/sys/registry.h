@@ -38,9 +38,8 @@
 /// touched. Writes reach the file when `QSettings` writes it: at the next turn of the event loop,
 /// in RegFlushKey_E() and at exit. Its errors are not reported.
 ///
-/// Threads: any for opening, closing, setting and querying, as far as `QSettings` allows.
-/// Enumerating functions, RegQueryInfoKey_E(), RegRenameKey_E() and RegCopyTree_E() change the
-/// state of the one store: no other registry function may run meanwhile.
+/// Threads: any. A call is not interrupted by another one's change of the store, RegRenameKey_E()
+/// and RegCopyTree_E() included.
 #pragma once
 
 #include <VxMFCEmu/sys/registrytypes.h>
