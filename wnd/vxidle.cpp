@@ -115,11 +115,14 @@ void QGlobalEventHandler::AppendTempObject(QObject* pObject)
 void QGlobalEventHandler::RemoveTempObject()
 {
     // Deleting an object may make new temporary ones.
+    std::vector<QPointer<QObject>> objects;
     while (!m_tempObjects.empty()) {
-        const std::vector<QPointer<QObject>> objects = std::exchange(m_tempObjects, {});
+        objects.swap(m_tempObjects);
         for (const QPointer<QObject>& object : objects)
             delete object;
+        objects.clear();
     }
+    m_tempObjects.swap(objects); // its room serves until the next idle time
     if (cleanUps().empty())
         DisconnectIdleSlot(this);
 }
