@@ -30,8 +30,8 @@ std::vector<IncomingConnection> incomingConnections(const QObject* pReceiver);
 bool isConnected(const QObject* pSender, const QMetaMethod& signal, const QObject* pReceiver,
                  const QMetaMethod& method);
 
-/// What `findChild<QWidget*>(strName)` finds for a name that is not empty. That one casts each child
-/// and copies its name before the two are compared.
+/// What `findChild<QWidget*>(strName)` finds for a name that is not empty. That one casts each
+/// child and copies its name before the two are compared.
 QWidget* findChildWidget(const QObject* pParent, const QString& strName);
 
 /// The dynamic property of this name; null when there is none. QObject::property() compares the
