@@ -20,7 +20,8 @@ public:
     void startOver();
     /// How many lines count.
     int lineCount() const;
-    /// Waits for a line that matches and gives the last one; an empty match when none comes in time.
+    /// Waits for a line that matches and gives the last one; an empty match when none comes in
+    /// time.
     QRegularExpressionMatch waitFor(const QString& pattern) const;
     /// Global rectangle of a part, of which it may have been told at any time.
     QRect geometryOf(const char* part) const;

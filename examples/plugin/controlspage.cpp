@@ -111,6 +111,7 @@ void CControlsPage::MakeOutput()
     m_wndNotes.Create(dwControl | ES_MULTILINE | ES_WANTRETURN, rect, pGroup, IDC_NOTES);
     m_wndPan.Create(dwControl | SBS_HORZ, rect, pGroup, IDC_PAN);
     m_wndProgress.Create(WS_CHILD | WS_VISIBLE, rect, pGroup, IDC_PROGRESS);
+    m_wndCaption.Create(L"Notifications", WS_CHILD | WS_VISIBLE, rect, this);
     m_wndNotices.Create(dwControl, rect, this, IDC_NOTICES);
 
     const SCROLLINFO info = {sizeof(SCROLLINFO), SIF_RANGE | SIF_PAGE, 0, 100, 20, 0, 0};
@@ -134,14 +135,18 @@ void CControlsPage::MakeOutput()
     pRows->setVerticalSpacing(10);
     pRows->addRow(QString(), m_wndHidden);
     pRows->addRow(QStringLiteral("Line &type"), m_wndLineType);
-    pRows->addRow(QStringLiteral("Scale 1 &:"), m_wndScale);
+    pRows->addRow(QStringLiteral("Sca&le 1:"), m_wndScale);
     pRows->addRow(QStringLiteral("La&yers"), m_wndLayers);
     pRows->addRow(QStringLiteral("&Revisions"), m_wndNotes);
     pRows->addRow(QStringLiteral("&Pan"), m_wndPan);
     pRows->addRow(QStringLiteral("Progress"), m_wndProgress);
     auto* const pColumns = pPage->findChild<QHBoxLayout*>(QStringLiteral("columns"));
     pColumns->addWidget(m_wndOutput);
-    pColumns->addWidget(m_wndNotices);
+    auto* const pNotices = new QVBoxLayout;
+    pNotices->setSpacing(4);
+    pNotices->addWidget(m_wndCaption);
+    pNotices->addWidget(m_wndNotices, 1);
+    pColumns->addLayout(pNotices);
     for (int i = 0; i < pColumns->count(); ++i)
         pColumns->setStretch(i, 1);
 }
@@ -168,8 +173,8 @@ void CControlsPage::DrawLineTypes()
     qobject_cast<QComboBox*>(m_wndLineType)->setIconSize({sizeSample.cx, sizeSample.cy});
 }
 
-// What a program sets is notified neither on Windows nor here for the text of a line, combo boxes
-// and clicks. Other widgets tell of every change, so the functions that fill them hold these back.
+// Combo boxes say nothing of what a program sets, nor do textEdited() and clicked(). The other
+// signals tell of every change, so that the functions which fill the controls hold them back.
 void CControlsPage::FillSheet()
 {
     const QSignalBlocker quiet[] = {
@@ -213,7 +218,7 @@ void CControlsPage::FillOutput()
     setStrings(m_wndLayers, {L"Outline", L"Dimensions", L"Hatching", L"Construction"});
     m_wndLayers.SetCheck(0, BST_CHECKED);
     m_wndLayers.SetCheck(1, BST_CHECKED);
-    m_wndNotes.SetWindowText(L"A  First issue\nB  Bearing seat 0.02 wider");
+    m_wndNotes.SetWindowText(L"A  First issue\nB  Wider bearing seat");
     m_wndPan.SetScrollPos(40);
     m_wndProgress.SetPos(0);
     m_wndPlot.EnableWindow();
@@ -223,7 +228,7 @@ void CControlsPage::OnFill()
 {
     FillSheet();
     FillOutput();
-    Notify(L"filled: %s", State().GetString());
+    SendReport(*this, L"filled: " + State());
 }
 
 void CControlsPage::OnPlot()
@@ -233,7 +238,8 @@ void CControlsPage::OnPlot()
     strSummary.Format(L"Plotting %s, %d %%", textOf(m_wndName).GetString(), m_wndProgress.GetPos());
     m_wndSummary.SetWindowText(strSummary);
     m_wndPlot.EnableWindow(m_wndProgress.GetPos() < 100);
-    Notify(L"BN_CLICKED plot: %s", State().GetString());
+    Notify(L"BN_CLICKED plot");
+    SendReport(*this, L"plotting: " + State());
 }
 
 CString_E CControlsPage::State()

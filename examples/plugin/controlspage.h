@@ -86,6 +86,7 @@ private:
     CEdit_E m_wndNotes;
     CScrollBar_E m_wndPan;
     CProgressCtrl_E m_wndProgress;
+    CStatic_E m_wndCaption;
     CListBox_E m_wndNotices;
     CImageList_E m_lineTypes;
 };
