@@ -89,6 +89,8 @@ BOOL CControlsPage::OnInitDialog()
         !m_wndPortrait.SubclassDlgItem(IDC_PORTRAIT, this))
         return FALSE;
     MakeOutput();
+    ConnectOutput();
+    LayOut();
     m_wndCopies.SetRange32(1, 99);
     m_wndWeight.SetRange(0, 100);
     m_wndWeight.SetPageSize(10);
@@ -119,7 +121,10 @@ void CControlsPage::MakeOutput()
     m_wndScale.SetRange32(0, 50);
     m_wndProgress.SetStep(25);
     DrawLineTypes();
+}
 
+void CControlsPage::ConnectOutput()
+{
     QWidget* const pPage = GetSafeHwnd();
     Connect(IDC_HIDDEN, SIGNAL(clicked()), this, SLOT(OnBnClickedHidden()), pPage);
     Connect(IDC_LINETYPE, SIGNAL(currentIndexChanged(int)), this, SLOT(OnCbnSelchangeLineType()),
@@ -129,7 +134,10 @@ void CControlsPage::MakeOutput()
             SLOT(OnCheckLayer(QListWidgetItem*)), pPage);
     Connect(IDC_NOTES, SIGNAL(textChanged()), this, SLOT(OnEnChangeNotes()), pPage);
     Connect(IDC_PAN, SIGNAL(valueChanged(int)), this, SLOT(OnHScrollPan()), pPage);
+}
 
+void CControlsPage::LayOut()
+{
     auto* const pRows = new QFormLayout(m_wndOutput);
     pRows->setHorizontalSpacing(12);
     pRows->setVerticalSpacing(10);
@@ -140,12 +148,12 @@ void CControlsPage::MakeOutput()
     pRows->addRow(QStringLiteral("&Revisions"), m_wndNotes);
     pRows->addRow(QStringLiteral("&Pan"), m_wndPan);
     pRows->addRow(QStringLiteral("Progress"), m_wndProgress);
-    auto* const pColumns = pPage->findChild<QHBoxLayout*>(QStringLiteral("columns"));
-    pColumns->addWidget(m_wndOutput);
     auto* const pNotices = new QVBoxLayout;
     pNotices->setSpacing(4);
     pNotices->addWidget(m_wndCaption);
     pNotices->addWidget(m_wndNotices, 1);
+    auto* const pColumns = GetSafeHwnd()->findChild<QHBoxLayout*>(QStringLiteral("columns"));
+    pColumns->addWidget(m_wndOutput);
     pColumns->addLayout(pNotices);
     for (int i = 0; i < pColumns->count(); ++i)
         pColumns->setStretch(i, 1);

@@ -60,6 +60,8 @@ public Q_SLOTS:
 
 private:
     void MakeOutput();
+    void ConnectOutput();
+    void LayOut();
     void DrawLineTypes();
     void FillSheet();
     void FillOutput();
