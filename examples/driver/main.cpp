@@ -1,138 +1,28 @@
 // Works the demo as a user would and checks what its window reported.
+#include "controls.h"
 #include "support/waiting.h"
 #include "support/xinput.h"
+#include "user.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QRect>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QSize>
 #include <QtCore/QTemporaryDir>
-#include <QtCore/QThread>
 #include <QtGui/QColor>
 
 #include <X11/keysym.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <functional>
-#include <initializer_list>
-#include <utility>
-#include <vector>
 
 namespace {
 
 constexpr char kTitle[] = "Emulation demo";
 constexpr int kLimitMs = 15000;
 constexpr QSize kLaterSize(900, 580);
-
-class Report
-{
-public:
-    explicit Report(const QString& path) : m_path(path) { QFile::remove(path); }
-
-    /// Lines that are there by now count no more.
-    void startOver() { m_start = QFile(m_path).size(); }
-
-    /// Waits for a line that matches; an empty match when none comes in time.
-    QRegularExpressionMatch waitFor(const QString& pattern) const
-    {
-        return waitFor(pattern, m_start);
-    }
-    QRegularExpressionMatch waitFor(const QString& pattern, qint64 start) const
-    {
-        const QRegularExpression expression(QStringLiteral("^%1\n").arg(pattern),
-                                            QRegularExpression::MultilineOption);
-        QElapsedTimer clock;
-        clock.start();
-        QRegularExpressionMatch match;
-        while (!match.hasMatch() && !clock.hasExpired(kLimitMs)) {
-            QFile file(m_path);
-            if (file.open(QIODevice::ReadOnly) && file.seek(start))
-                match = expression.match(QString::fromUtf8(file.readAll()));
-            QThread::msleep(10);
-        }
-        std::printf("%s  %s\n", match.hasMatch() ? "ok     " : "MISSING", qUtf8Printable(pattern));
-        return match;
-    }
-
-private:
-    QString m_path;
-    qint64 m_start = 0;
-};
-
-QRect geometryOf(const Report& report, const char* part)
-{
-    const QRegularExpressionMatch match = report.waitFor(
-        QStringLiteral("geometry %1 (\\d+) (\\d+) (\\d+) (\\d+)").arg(QLatin1String(part)), 0);
-    return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
-            match.captured(4).toInt()};
-}
-
-void click(QPoint global, unsigned button = 1)
-{
-    vxtest::movePointer(global);
-    vxtest::clickButton(button);
-}
-
-/// What to do, and what is to be reported from then on; nothing to do asks for another line.
-using Steps = std::vector<std::pair<std::function<void()>, QString>>;
-
-/// Up to the first step without its line.
-bool perform(Report& report, const Steps& steps)
-{
-    return std::all_of(steps.begin(), steps.end(), [&](const auto& step) {
-        if (step.first) {
-            report.startOver();
-            step.first();
-        }
-        return report.waitFor(step.second).hasMatch();
-    });
-}
-
-bool check(bool passed, const char* what)
-{
-    std::printf("%s  %s\n", passed ? "ok     " : "FAILED ", what);
-    return passed;
-}
-
-void typeText(const char* text)
-{
-    for (; *text; ++text)
-        vxtest::typeKey(static_cast<unsigned char>(*text)); // Latin 1 is its own keysyms
-}
-
-void typeKeys(std::initializer_list<unsigned long> keysyms)
-{
-    for (const unsigned long keysym : keysyms)
-        vxtest::typeKey(keysym);
-}
-
-/// Waits until a window other than @p below lies over all and gives it the keyboard, as a window
-/// manager would; 0 when none does.
-unsigned long waitForWindowOver(unsigned long below)
-{
-    unsigned long top = below;
-    if (!vxtest::waitUntil([&] { return (top = vxtest::topWindow()) != below; }) || !top)
-        return 0;
-    vxtest::focusWindow(top);
-    return top;
-}
-
-/// Saves the screen when it shows no more changes.
-void savePicture(const QString& path)
-{
-    QImage picture = vxtest::screenshot();
-    vxtest::waitUntil([&] {
-        QThread::msleep(100);
-        const QImage previous = std::exchange(picture, vxtest::screenshot());
-        return picture == previous;
-    });
-    picture.copy(QRect(QPoint(0, 0), kLaterSize)).save(path);
-}
+constexpr QRect kWindow(QPoint(0, 0), kLaterSize);
 
 /// Enters a value that the dialog does not take, and then one in its place.
 bool correctSpacing(unsigned long dialog, const QString& picture)
@@ -142,7 +32,7 @@ bool correctSpacing(unsigned long dialog, const QString& picture)
     const unsigned long box = waitForWindowOver(dialog);
     if (!check(box, "a message box is over the settings"))
         return false;
-    savePicture(picture);
+    savePicture(picture, kWindow);
     vxtest::typeKey(XK_Return);
     if (!check(waitForWindowOver(box) == dialog, "the message box is closed"))
         return false;
@@ -153,9 +43,9 @@ bool correctSpacing(unsigned long dialog, const QString& picture)
 /// Gives the settings new values by keys alone, and leaves them in all the other ways.
 bool useSettings(Report& report, unsigned long window, const QString& pictures)
 {
-    const QPoint button = geometryOf(report, "settings").center();
-    const QPoint grid = geometryOf(report, "grid").center();
-    const QRect plot = geometryOf(report, "plot");
+    const QPoint button = report.geometryOf("settings").center();
+    const QPoint grid = report.geometryOf("grid").center();
+    const QRect plot = report.geometryOf("plot");
     const QString stored =
         QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, labels 0, lines 1");
     const QString status =
@@ -176,9 +66,9 @@ bool useSettings(Report& report, unsigned long window, const QString& pictures)
     };
     const auto clickDefaultsAndCancel = [&] {
         waitForWindowOver(window);
-        savePicture(pictures.arg(QStringLiteral("settings")));
-        click(geometryOf(report, "defaultsButton").center());
-        click(geometryOf(report, "Cancel").center());
+        savePicture(pictures.arg(QStringLiteral("settings")), kWindow);
+        click(report.geometryOf("defaultsButton").center());
+        click(report.geometryOf("Cancel").center());
     };
     const auto typeAndEscape = [&] {
         waitForWindowOver(window);
@@ -186,7 +76,7 @@ bool useSettings(Report& report, unsigned long window, const QString& pictures)
     };
     const auto clickOk = [&] {
         waitForWindowOver(window);
-        click(geometryOf(report, "OK").center());
+        click(report.geometryOf("OK").center());
     };
     return perform(report, {{open, shown}}) && enterAll() &&
            perform(report,
@@ -210,12 +100,12 @@ bool useSettings(Report& report, unsigned long window, const QString& pictures)
 /// Uses the tracker and the plot as a user would.
 bool useTracker(Report& report, unsigned long window)
 {
-    const QRect tracker = geometryOf(report, "tracker");
+    const QRect tracker = report.geometryOf("tracker");
     const QPoint origin = tracker.topLeft();
-    const QPoint plot = geometryOf(report, "plot").center();
-    const QPoint post = geometryOf(report, "post").center();
-    const QPoint fit = geometryOf(report, "fit").center();
-    const int growth = kLaterSize.width() - geometryOf(report, "frame").width();
+    const QPoint plot = report.geometryOf("plot").center();
+    const QPoint post = report.geometryOf("post").center();
+    const QPoint fit = report.geometryOf("fit").center();
+    const int growth = kLaterSize.width() - report.geometryOf("frame").width();
     return perform(
         report,
         {{[&] { vxtest::movePointer(origin + QPoint(20, 25)); },
@@ -242,21 +132,24 @@ bool useTracker(Report& report, unsigned long window)
           QStringLiteral("WM_SIZE %1,\\d+").arg(tracker.width() + growth)}});
 }
 
+// The places that are clicked are those from before the window is resized.
 bool firstRun(Report& report, unsigned long window, const QString& pictures)
 {
     return perform(report, {{nullptr, QStringLiteral("run 1, tracker on #E6EEF8")},
                             {nullptr, QStringLiteral("stored: title '', paper 0, grid 0 of 20 mm, "
                                                      "labels 1, lines 0")}}) &&
-           useSettings(report, window, pictures) && useTracker(report, window);
+           useSettings(report, window, pictures) &&
+           useControls(report, window, pictures.arg(QStringLiteral("controls"))) &&
+           useTracker(report, window);
 }
 
 /// The second run finds the window as the first one left it, and the registry counts on.
 bool secondRun(Report& report, unsigned long, const QString&)
 {
     const bool sameSize =
-        check(geometryOf(report, "frame").size() == kLaterSize, "the window has its size again");
-    const QPoint post = geometryOf(report, "post").center();
-    const QPoint labels = geometryOf(report, "labels").center();
+        check(report.geometryOf("frame").size() == kLaterSize, "the window has its size again");
+    const QPoint post = report.geometryOf("post").center();
+    const QPoint labels = report.geometryOf("labels").center();
     return perform(report,
                    {{nullptr, QStringLiteral("run 2, tracker on #E6EEF8")},
                     {nullptr, QStringLiteral("stored: title 'gears', paper 1, grid 1 of 25 mm, "
@@ -288,7 +181,7 @@ bool runHost(const QCommandLineParser& options, Use use)
     const unsigned long window = passed ? vxtest::findWindow(kTitle) : 0;
     passed = window && use(report, window, pictures);
     if (window) {
-        vxtest::screenshot().copy(QRect(QPoint(0, 0), kLaterSize)).save(picture);
+        vxtest::screenshot().copy(kWindow).save(picture);
         vxtest::closeWindow(window);
         passed = report.waitFor(QStringLiteral("WM_DESTROY")).hasMatch() && passed;
     }

@@ -80,8 +80,7 @@ void CPlotWnd::ReportZoom()
 {
     CString_E strLine;
     strLine.Format(L"plot of %d items at %d %%", ItemCount(), ZoomPercent());
-    if (CWnd_E* const pParent = GetParent())
-        pParent->SendMessage(WM_TRACKER_REPORT, 0, reinterpret_cast<LPARAM>(&strLine));
+    SendReport(*this, strLine);
 }
 
 double CPlotWnd::FittingScale() const

@@ -7,6 +7,7 @@ constexpr int IDC_STATUS = 1002;
 constexpr int IDC_POST = 1003;
 constexpr int IDC_CLEAR = 1004;
 constexpr int IDC_SETTINGS = 1005;
+constexpr int IDC_CONTROLS = 1006;
 
 // The status line: commands, then what only shows a state.
 constexpr int ID_VIEW_GRID = 1101;
@@ -24,6 +25,29 @@ constexpr int IDC_SPACING = 2004;
 constexpr int IDC_LABELS = 2005;
 constexpr int IDC_FINE = 2006; // the first of the radio buttons
 constexpr int IDC_DEFAULTS = 2007;
+
+// The controls page: those of its form, controls.ui, and those that it makes.
+constexpr int IDC_NAME = 2101;
+constexpr int IDC_SIZE = 2102;
+constexpr int IDC_LANDSCAPE = 2103;
+constexpr int IDC_PORTRAIT = 2104;
+constexpr int IDC_FRAME = 2105;
+constexpr int IDC_VIEW = 2106;
+constexpr int IDC_COPIES = 2107;
+constexpr int IDC_WEIGHT = 2108;
+constexpr int IDC_DATE = 2109;
+constexpr int IDC_SUMMARY = 2110;
+constexpr int IDC_FILL = 2111;
+constexpr int IDC_PLOT = 2112;
+constexpr int IDC_OUTPUT = 2113;
+constexpr int IDC_HIDDEN = 2114;
+constexpr int IDC_LINETYPE = 2115;
+constexpr int IDC_SCALE = 2116;
+constexpr int IDC_LAYERS = 2117;
+constexpr int IDC_NOTES = 2118;
+constexpr int IDC_PAN = 2119;
+constexpr int IDC_PROGRESS = 2120;
+constexpr int IDC_NOTICES = 2121;
 
 constexpr unsigned IDS_TITLE = 101;
 constexpr unsigned IDS_READY = 102;

@@ -56,6 +56,7 @@ ON_MESSAGE_E(WM_TRACKER_REPORT, &CTrackerPanel::OnReport)
 ON_BN_CLICKED_E(IDC_POST, &CTrackerPanel::OnPost)
 ON_BN_CLICKED_E(IDC_CLEAR, &CTrackerPanel::OnClear)
 ON_BN_CLICKED_E(IDC_SETTINGS, &CTrackerPanel::OnSettings)
+ON_BN_CLICKED_E(IDC_CONTROLS, &CTrackerPanel::OnControls)
 ON_COMMAND_E(ID_VIEW_GRID, &CTrackerPanel::OnViewGrid)
 ON_COMMAND_E(ID_VIEW_LABELS, &CTrackerPanel::OnViewLabels)
 ON_COMMAND_E(ID_VIEW_FIT, &CTrackerPanel::OnViewFit)
@@ -127,8 +128,9 @@ void CTrackerPanel::SetupUI()
                      1);
     pGrid->addWidget(makeButton<QPushButton>(IDC_CLEAR, QStringLiteral("Clear"), pPanel), 1, 2);
     pGrid->addWidget(
-        makeButton<QPushButton>(IDC_SETTINGS, QStringLiteral("Plot settings..."), pPanel), 2, 1, 1,
-        2);
+        makeButton<QPushButton>(IDC_SETTINGS, QStringLiteral("Plot settings..."), pPanel), 2, 1);
+    pGrid->addWidget(makeButton<QPushButton>(IDC_CONTROLS, QStringLiteral("Controls..."), pPanel),
+                     2, 2);
     pGrid->addWidget(MakeStatusLine(), 3, 0, 1, 3);
     pGrid->setColumnStretch(0, 1);
 
@@ -188,19 +190,38 @@ void CTrackerPanel::OnSettings()
 {
     CSettingsDialog dlg(this);
     dlg.m_look = m_settings.Look();
-    // When it is on the screen.
-    QTimer::singleShot(0, &dlg, [&] {
-        for (const int nID : {IDC_TITLE, IDC_PAPER, IDC_SPACING, IDC_GRID, IDC_LABELS, IDC_FINE,
-                              IDC_DEFAULTS, IDOK, IDCANCEL})
-            WriteGeometry(CString_E(ToStringId(static_cast<UINT>(nID))),
-                          dlg.GetDlgItem(nID, nullptr));
-        WriteReport(L"settings shown");
-    });
+    ReportShown(dlg, L"settings",
+                {IDC_TITLE, IDC_PAPER, IDC_SPACING, IDC_GRID, IDC_LABELS, IDC_FINE, IDC_DEFAULTS,
+                 IDOK, IDCANCEL});
     const bool bAccepted = dlg.DoModal() == IDOK;
     WriteReport(bAccepted ? L"settings accepted" : L"settings cancelled");
     if (bAccepted)
         SetLook(dlg.m_look);
     ReportLook();
+}
+
+void CTrackerPanel::OnControls()
+{
+    if (!m_wndControls.GetSafeHwnd() && !m_wndControls.Create(GetSafeHwnd()))
+        return;
+    m_wndControls.ShowWindow(SW_SHOW);
+    m_wndControls.SetActiveWindow();
+    ReportShown(m_wndControls, L"controls",
+                {IDC_NAME, IDC_SIZE, IDC_PORTRAIT, IDC_FRAME, IDC_VIEW, IDC_COPIES, IDC_WEIGHT,
+                 IDC_DATE, IDC_HIDDEN, IDC_LINETYPE, IDC_SCALE, IDC_LAYERS, IDC_NOTES, IDC_PAN,
+                 IDC_FILL, IDC_PLOT, IDCANCEL});
+}
+
+// When it is on the screen.
+void CTrackerPanel::ReportShown(CDialog_E& dlg, const CString_E& strName, std::vector<int> ids)
+{
+    QTimer::singleShot(0, &dlg, [this, &dlg, strName, ids] {
+        for (const int nID : ids)
+            WriteGeometry(CString_E(ToStringId(static_cast<UINT>(nID))),
+                          dlg.GetDlgItem(nID, nullptr));
+        WriteGeometry(strName + L"Dialog", dlg);
+        WriteReport(strName + L" shown");
+    });
 }
 
 void CTrackerPanel::SetLook(const PlotLook& look)
@@ -268,6 +289,7 @@ void CTrackerPanel::ReportReady()
     WriteGeometry(L"tracker", m_wndTracker);
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
     WriteGeometry(L"settings", GetDlgItem(IDC_SETTINGS, nullptr));
+    WriteGeometry(L"controls", GetDlgItem(IDC_CONTROLS, nullptr));
     WriteGeometry(L"grid", GetDlgItem(ID_VIEW_GRID, nullptr));
     WriteGeometry(L"labels", GetDlgItem(ID_VIEW_LABELS, nullptr));
     WriteGeometry(L"fit", GetDlgItem(ID_VIEW_FIT, nullptr));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controlspage.h"
 #include "plotwnd.h"
 #include "settings.h"
 #include "trackerwnd.h"
@@ -43,6 +44,7 @@ class CTrackerPanel : public CWnd_E
     void OnPost();
     void OnClear();
     void OnSettings();
+    void OnControls();
     void OnViewGrid();
     void OnViewLabels();
     void OnViewFit();
@@ -61,11 +63,13 @@ private:
     void WriteGeometry(const wchar_t* lpszName, QWidget* pWidget) const;
     void ReportReady();
     void ReportLook() const;
+    void ReportShown(CDialog_E& dlg, const CString_E& strName, std::vector<int> ids);
     void ReportStatus();
 
     CDrawingWnd m_wndDrawing;
     CPlotWnd m_wndPlot;
     CTrackerWnd m_wndTracker;
+    CControlsPage m_wndControls;
     CTrackerSettings m_settings;
     CString_E m_strReportPath;
     CString_E m_strStatus; // as reported last

@@ -2,6 +2,12 @@
 
 #include <cstdarg>
 
+void SendReport(const CWnd_E& window, const CString_E& strLine)
+{
+    if (const CWnd_E* const pParent = window.GetParent())
+        pParent->SendMessage(WM_TRACKER_REPORT, 0, reinterpret_cast<LPARAM>(&strLine));
+}
+
 IMPLEMENT_DYNAMIC_E(CTrackerWnd, CWnd_E, QWidget)
 
 BEGIN_MESSAGE_MAP_E(CTrackerWnd, CWnd_E)
@@ -71,6 +77,5 @@ void CTrackerWnd::Report(const wchar_t* lpszFormat, ...)
     va_start(args, lpszFormat);
     strLine.FormatV(lpszFormat, args);
     va_end(args);
-    if (CWnd_E* const pParent = GetParent())
-        pParent->SendMessage(WM_TRACKER_REPORT, 0, reinterpret_cast<LPARAM>(&strLine));
+    SendReport(*this, strLine);
 }

@@ -7,6 +7,9 @@ constexpr UINT WM_TRACKER_REPORT = WM_APP + 1;
 /// Posted to the tracker: wParam is a number to report.
 constexpr UINT WM_TRACKER_PING = WM_APP + 2;
 
+/// Sends the parent of @p window a line for its report.
+void SendReport(const CWnd_E& window, const CString_E& strLine);
+
 /// The area that handles messages and reports each one to its parent.
 class CTrackerWnd : public CWnd_E
 {
