@@ -152,8 +152,8 @@ DWORD waitFailure(int nError);
 bool close(MutexObject& mutex);
 bool close(SemaphoreObject& semaphore);
 bool close(EventObject& event);
-/// What it does when nobody sleeps on the object any more.
-void end(MutexObject& mutex);
+/// What it does when nobody sleeps on the object any more. A mutex that somebody slept on is locked
+/// for good.
 void end(SemaphoreObject& semaphore);
 void end(EventObject& event);
 

@@ -64,6 +64,4 @@ DWORD wait(VxHandle& handle, MutexObject& mutex, DWORD dwMilliseconds)
 
 bool close(MutexObject& mutex) { return pthread_mutex_destroy(&mutex.mutex) == 0; }
 
-void end(MutexObject&) {} // one that could not be destroyed at once is locked for good
-
 } // namespace vx::detail

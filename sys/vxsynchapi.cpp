@@ -12,7 +12,6 @@ namespace {
 constexpr int kAbandoned = 36;
 
 bool close(std::monostate) { return false; }
-void end(std::monostate) {}
 
 void forget(const VxHandle* pHandle)
 {
@@ -38,7 +37,10 @@ void letGo(VxHandle* pHandle)
 {
     if (--pHandle->nHolders > 0)
         return;
-    std::visit([](auto& object) { end(object); }, pHandle->object);
+    if (auto* const pSemaphore = std::get_if<SemaphoreObject>(&pHandle->object))
+        end(*pSemaphore);
+    else if (auto* const pEvent = std::get_if<EventObject>(&pHandle->object))
+        end(*pEvent);
     delete pHandle;
 }
 
