@@ -137,6 +137,21 @@ QImage* pixelsOf(const QPainter& painter)
 
 uchar* rowOf(QImage& image, int y) { return const_cast<uchar*>(image.constScanLine(y)); }
 
+bool canPaintOn(const QWidget& widget)
+{
+    if (!widget.testAttribute(Qt::WA_WState_InPaintEvent))
+        return false;
+    // The painter counts on the device that the event paints on: the window's or a grabbed image.
+    struct Access : QWidget
+    {
+        using QWidget::redirected;
+        using QWidget::sharedPainter;
+    };
+    const QPaintDevice* const pDevice = (widget.*&Access::redirected)(nullptr);
+    // QWidget::render() lends its painter, on which others may be stacked.
+    return !pDevice || !pDevice->paintingActive() || (widget.*&Access::sharedPainter)();
+}
+
 PaintedWidget::PaintedWidget(QWidget* pWidget, QPainter& painter)
     : m_connection(QObject::connect(pWidget, &QObject::destroyed, [&painter] { painter.end(); }))
 {
