@@ -144,7 +144,7 @@ void CDC_E::DrawFocusRect(const tagRECT* pRect)
     m_painter.setCompositionMode(QPainter::RasterOp_NotDestination);
     m_painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawRect(fromRect(*pRect).adjusted(0, 0, -1, -1));
+    m_painter.drawRect(boundedRect(*pRect).adjusted(0, 0, -1, -1));
 }
 
 void CDC_E::FrameRect(const tagRECT* pRect, CBrush_E* pBrush)
@@ -227,13 +227,15 @@ BOOL CDC_E::FrameRgn(CRgn_E* pRgn, CBrush_E* pBrush, int nWidth, int nHeight)
         return FALSE;
     if (pRegion->isEmpty()) // nothing has no bounds
         return TRUE;
-    const QRect inner = pRegion->boundingRect();
-    const QRect outer = inner.adjusted(-nWidth, -nHeight, nWidth, nHeight);
+    const QRect inner = boundedRect(toRect(pRegion->boundingRect()));
+    const int cx = bounded(nWidth);
+    const int cy = bounded(nHeight);
+    const QRect outer = inner.adjusted(-cx, -cy, cx, cy);
     // Intended: bands on the outside of the bounds.
-    for (const QRect& band : {QRect(outer.left(), inner.top(), nWidth, inner.height()),
-                              QRect(inner.right() + 1, inner.top(), nWidth, inner.height()),
-                              QRect(outer.left(), outer.top(), outer.width(), nHeight),
-                              QRect(outer.left(), inner.bottom() + 1, outer.width(), nHeight)}) {
+    for (const QRect& band : {QRect(outer.left(), inner.top(), cx, inner.height()),
+                              QRect(inner.right() + 1, inner.top(), cx, inner.height()),
+                              QRect(outer.left(), outer.top(), outer.width(), cy),
+                              QRect(outer.left(), inner.bottom() + 1, outer.width(), cy)}) {
         if (band.isValid())
             m_painter.fillRect(band, *pValue);
     }
