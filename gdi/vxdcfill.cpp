@@ -100,12 +100,12 @@ void invertPixels(QImage& image, const QRect& rect)
 
 } // namespace
 
-void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColorArg& color)
+void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColor& color)
 {
     m_painter.fillRect(extentRect(x, y, cx, cy), static_cast<const QColor&>(color));
 }
 
-void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColorArg& color)
+void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColor& color)
 {
     if (pRect)
         m_painter.fillRect(fromRect(*pRect), static_cast<const QColor&>(color));
@@ -118,8 +118,8 @@ void CDC_E::FillRect(const tagRECT* pRect, CBrush_E* pBrush)
         m_painter.fillRect(fromRect(*pRect), *pValue);
 }
 
-void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
-                       const VxColorArg& bottomRight)
+void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
+                       const VxColor& bottomRight)
 {
     FillSolidRect(x, y, wrappingSub(cx, 1), 1, topLeft);
     FillSolidRect(x, y, 1, wrappingSub(cy, 1), topLeft);
@@ -128,8 +128,7 @@ void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
     FillSolidRect(x, wrappingAdd(y, cy), cx, -1, bottomRight);
 }
 
-void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColorArg& topLeft,
-                       const VxColorArg& bottomRight)
+void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight)
 {
     if (pRect)
         Draw3dRect(pRect->left, pRect->top, wrappingSub(pRect->right, pRect->left),

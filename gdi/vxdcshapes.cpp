@@ -189,7 +189,7 @@ BOOL CDC_E::Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end)
     return DrawArcKind(ArcKind::Chord, pRect, start, end);
 }
 
-VxColor CDC_E::SetPixel(int x, int y, const VxColorArg& color)
+VxColorResult CDC_E::SetPixel(int x, int y, const VxColor& color)
 {
     const QColor previous = m_painter.pen().color();
     m_painter.setPen(color);

@@ -230,6 +230,15 @@ TEST(DcSafety, ColorsCompareByWhatTheyAre)
     const bool known = i.dc.GetBkMode() == 0;
     const COLORREF color = known ? i.dc.GetTextColor() : RGB(1, 2, 3);
     EXPECT_EQ(color, RGB(255, 0, 0));
+    VxColor own = RGB(1, 2, 3);
+    EXPECT_TRUE(own == QColor(1, 2, 3) && QColor(1, 2, 3) == own && own == RGB(1, 2, 3));
+    own = RGB(255, 0, 0);
+    EXPECT_TRUE(own == i.dc.GetTextColor() && i.dc.GetTextColor() == own && own != Qt::blue);
+    auto result = i.dc.GetTextColor();
+    result = RGB(0, 0, 255);
+    std::vector<VxColor> colors{own, result};
+    colors.push_back(RGB(0, 255, 0));
+    EXPECT_EQ(colors, std::vector<VxColor>({Qt::red, 0xFF0000, QColor(Qt::green)}));
     CRgn_E none;
     EXPECT_TRUE(none.CreateFromPath(&i.dc)); // empty without a clip
     tagRECT box{1, 1, 1, 1};
