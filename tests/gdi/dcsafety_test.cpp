@@ -239,6 +239,11 @@ TEST(DcSafety, ColorsCompareByWhatTheyAre)
     std::vector<VxColor> colors{own, result};
     colors.push_back(RGB(0, 255, 0));
     EXPECT_EQ(colors, std::vector<VxColor>({Qt::red, 0xFF0000, QColor(Qt::green)}));
+    i.dc.SetTextColor(Qt::green); // no index
+    i.dc.SetBkColor(Qt::yellow);
+    EXPECT_EQ(i.dc.SetTextColor(0x0000FFUL), Qt::green);
+    EXPECT_EQ(i.dc.SetBkColor(0xFF0000UL), Qt::yellow);
+    EXPECT_TRUE(i.dc.GetTextColor() == Qt::red && i.dc.GetBkColor() == Qt::blue);
     CRgn_E none;
     EXPECT_TRUE(none.CreateFromPath(&i.dc)); // empty without a clip
     tagRECT box{1, 1, 1, 1};

@@ -139,6 +139,11 @@ public:
     /// The same with a colour-table entry; an index outside 0 to 255 changes nothing.
     VxColorResult SetBkColor(int nIndex);
     VxColorResult SetBkColor(const QColor& color);
+    VxColorResult SetBkColor(Qt::GlobalColor color) { return SetBkColor(QColor(color)); }
+    VxColorResult SetBkColor(unsigned long crColor)
+    {
+        return SetBkColor(static_cast<COLORREF>(crColor));
+    }
     /// The text colour, or the pen's colour while none is set.
     VxColorResult GetTextColor() const;
     /// Sets the text colour and returns the previous one; 0xFFFFFFFF sets none.
@@ -146,6 +151,11 @@ public:
     /// The same with a colour-table entry; an index outside 0 to 255 changes nothing.
     VxColorResult SetTextColor(int nIndex);
     VxColorResult SetTextColor(const QColor& color);
+    VxColorResult SetTextColor(Qt::GlobalColor color) { return SetTextColor(QColor(color)); }
+    VxColorResult SetTextColor(unsigned long crColor)
+    {
+        return SetTextColor(static_cast<COLORREF>(crColor));
+    }
     /// The `Qt::BGMode`: 0 transparent, 1 opaque.
     int GetBkMode() const;
     /// Sets the mode, TRANSPARENT or with any other value opaque. Differs from Win32: the result is
