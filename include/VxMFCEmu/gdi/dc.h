@@ -121,7 +121,8 @@ public:
     /// bitmap it drew on, at first a 1 x 1 one that belongs to the device context. Null, changing
     /// nothing, for other device contexts and for a null or empty bitmap. Null as well for a bitmap
     /// that another device context draws on and for one of 4 bits a pixel. The bitmap is drawn on
-    /// in place and may be looked at meanwhile; destroying it is harmless.
+    /// in place and may be looked at meanwhile; destroying it is harmless. What SaveDC() has saved
+    /// is kept, what has been saved on m_painter itself ends with this.
     CBitmap_E* SelectObject(CBitmap_E* pBitmap);
     /// The same by the class of the object: pen, brush, bitmap, font or region. Null for a font and
     /// a region, whose previous ones are no objects, and for null and other classes, which select
