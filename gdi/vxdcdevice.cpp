@@ -204,8 +204,8 @@ ClientSurface::~ClientSurface()
 namespace {
 
 /// Images whose bitmaps went while a painter was at work on them. Objects with static storage may
-/// look here at unload.
-__attribute__((init_priority(102))) std::vector<std::unique_ptr<QImage>> orphans;
+/// look here at unload, and the temporary ones of the handle maps' state after them.
+__attribute__((init_priority(101))) std::vector<std::unique_ptr<QImage>> orphans;
 
 } // namespace
 

@@ -37,6 +37,19 @@ TEST(TemporaryObjects, DestructorMaySetOthersAside)
     EXPECT_EQ(destroyed, 9);
 }
 
+// Temporary objects that are left die with the library, after everything else.
+TEST(GdiObjectDeathTest, TemporaryObjectsMayBeLeftAtExit)
+{
+    EXPECT_EXIT(
+        {
+            static QPen pens[50];
+            for (QPen& pen : pens)
+                CPen_E::FromHandle(&pen)->CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
 template <typename T>
 class GdiObject : public FreshMap
 {
