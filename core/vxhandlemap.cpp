@@ -80,11 +80,12 @@ void CHandleMap_E::SetAside(void* h)
 
 void CHandleMap_E::DeleteTemp()
 {
-    // A destructor may ask for another temporary object: repeated until none is left.
+    // A destructor may ask for another temporary object, or set one aside: no position in the map
+    // outlives it.
     while (!m_temporaryMap.IsEmpty() || !m_setAside.empty()) {
         for (CObject_E* const pObject : std::exchange(m_setAside, {}))
             m_pfnDestructObject(pObject);
-        for (POSITION position = m_temporaryMap.GetStartPosition(); position;) {
+        if (POSITION position = m_temporaryMap.GetStartPosition()) {
             void* h = nullptr;
             void* pEntry = nullptr;
             m_temporaryMap.GetNextAssoc(position, h, pEntry);

@@ -4,8 +4,8 @@
 #include <VxMFCEmu/sys/memory.h>
 
 // Objects of any unit may take their handles out of the maps while they die at unload; the
-// priority, next after the registry and the slot table that these stand on, makes the states
-// outlive them.
+// priority makes the states outlive them. What the states stand on comes before: the registry, the
+// slot table, and what temporary objects look at when they die with their map.
 __attribute__((init_priority(102))) AFX_MODULE_STATE_E afxModuleState(FALSE);
 __attribute__((init_priority(102))) AFX_MODULE_THREAD_STATE_E gdiThreadState;
 

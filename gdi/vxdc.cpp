@@ -33,8 +33,7 @@ CDC_E::CDC_E(QWidget* pWidget) : m_colorTable(defaultColorTable())
 {
     if (!pWidget)
         return;
-    const bool painting = pWidget->testAttribute(Qt::WA_WState_InPaintEvent);
-    if (painting && !pWidget->paintingActive() && m_painter.begin(pWidget)) {
+    if (canPaintOn(*pWidget) && m_painter.begin(pWidget)) {
         m_pDevice = std::make_unique<PaintedWidget>(pWidget, m_painter);
         return;
     }

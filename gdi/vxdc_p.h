@@ -83,6 +83,12 @@ private:
 inline constexpr int kFarthest = 1 << 27;
 inline int bounded(int coordinate) { return qBound(-kFarthest, coordinate, kFarthest); }
 
+/// The pixels of a rectangle, as far as the farthest ones.
+inline QRect boundedRect(const tagRECT& rc)
+{
+    return fromRect({bounded(rc.left), bounded(rc.top), bounded(rc.right), bounded(rc.bottom)});
+}
+
 /// The pixels of an extent. One that ends beyond what can be counted wraps around.
 inline QRect extentRect(int x, int y, int cx, int cy)
 {

@@ -46,29 +46,31 @@ constexpr BlitRow kBlitRows[] = {
 // clang-format on
 static_assert(std::size(kBlitRows) == 15);
 
-/// Part of an image; negative extents run to the left and up.
+/// Part of an image.
 struct Source
 {
     QImage image;
     QRect rect;
 };
 
-/// The pixels of a rectangle of @p pDC; none when it has no image.
-std::optional<Source> sourceOf(CDC_E* pDC, const QRect& rect, bool copy)
+/// Makes the image a copy of the part alone.
+void takePart(Source& source)
+{
+    source.image = source.image.copy(source.rect);
+    source.rect.moveTo(0, 0);
+}
+
+/// The pixels of a rectangle of @p pDC, inside of its image or not; none when it has no image.
+std::optional<Source> sourceOf(CDC_E* pDC, const QRect& rect)
 {
     const QImage* const pPixels = pDC ? pixelsOf(pDC->m_painter) : nullptr;
     if (!pPixels)
         return std::nullopt;
-    const QRect onDevice = pDC->m_painter.deviceTransform().mapRect(rect);
-    if (onDevice.isEmpty())
-        return Source{};
-    if (copy)
-        return Source{pPixels->copy(onDevice), QRect(QPoint(), onDevice.size())};
     // Without a reference of its own, since the painter of pDC goes on writing to the image.
     QImage view(pPixels->constBits(), pPixels->width(), pPixels->height(), pPixels->bytesPerLine(),
                 pPixels->format());
     view.setColorTable(pPixels->colorTable());
-    return Source{std::move(view), onDevice};
+    return Source{std::move(view), pDC->m_painter.deviceTransform().mapRect(rect)};
 }
 
 /// The image with its own alpha, or with none: the fourth byte of formats without alpha is
@@ -113,8 +115,24 @@ void mirror(Source& source, std::pair<bool, bool> axes)
 {
     if (!axes.first && !axes.second)
         return;
-    source.image = source.image.copy(source.rect).mirrored(axes.first, axes.second);
-    source.rect.moveTo(0, 0);
+    takePart(source);
+    source.image = source.image.mirrored(axes.first, axes.second);
+}
+
+/// Takes what lies outside of its image off @p source, and returns the part of @p target that shows
+/// the rest. Copies of the part would have black there.
+QRectF crop(Source& source, const QRectF& target, std::pair<bool, bool> mirrored)
+{
+    const QRect all = source.rect;
+    source.rect &= source.image.rect();
+    if (source.rect.isEmpty() || source.rect == all)
+        return target;
+    const QRect part = source.rect.translated(-all.topLeft());
+    const qreal x = target.width() / all.width();
+    const qreal y = target.height() / all.height();
+    const int left = mirrored.first ? all.width() - part.width() - part.x() : part.x();
+    const int top = mirrored.second ? all.height() - part.height() - part.y() : part.y();
+    return {target.x() + left * x, target.y() + top * y, part.width() * x, part.height() * y};
 }
 
 } // namespace
@@ -131,33 +149,38 @@ BOOL CDC_E::StretchBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, in
                                           [dwRop](const BlitRow& row) { return row.rop == dwRop; });
     if (pRow == std::end(kBlitRows) || !m_painter.isActive())
         return FALSE;
-    const Extent target = onDevice(*this, {x, y, cx, cy});
+    const Extent to = onDevice(*this, {x, y, cx, cy});
     const Extent from(xSrc, ySrc, cxSrc, cySrc);
+    QRectF target = to.rect();
     std::optional<Source> source;
     if (pRow->sourceMode != kNone) {
-        source = sourceOf(pSrcDC, from.rect(), pSrcDC == this);
+        source = sourceOf(pSrcDC, from.rect());
         if (!source)
             return FALSE;
+        const auto axes = mirroring(to, onDevice(*pSrcDC, from));
+        target = crop(*source, target, axes);
         if (source->rect.isEmpty()) // Qt would take all of the image
             return TRUE;
+        if (pSrcDC == this)
+            takePart(*source);
         const QImage* const pTarget = pixelsOf(m_painter);
         if (pTarget && pTarget->hasAlphaChannel() &&
             source->image.format() == QImage::Format_RGBX8888) {
-            source->image = withTrueAlpha(source->image.copy(source->rect));
-            source->rect.moveTo(0, 0);
+            takePart(*source);
+            source->image = withTrueAlpha(source->image);
         }
-        mirror(*source, mirroring(target, onDevice(*pSrcDC, from)));
+        mirror(*source, axes);
     }
     const PainterState state(m_painter);
     const UprightScope upright(m_painter);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform, m_modes.stretch == HALFTONE);
     if (source) {
         m_painter.setCompositionMode(static_cast<Mode>(pRow->sourceMode));
-        m_painter.drawImage(target.rect(), source->image, source->rect);
+        m_painter.drawImage(target, source->image, source->rect);
     }
     if (pRow->brushMode != kNone) {
         m_painter.setCompositionMode(static_cast<Mode>(pRow->brushMode));
-        m_painter.fillRect(target.rect(), pRow->anyBrush ? QBrush(Qt::black) : m_painter.brush());
+        m_painter.fillRect(target, pRow->anyBrush ? QBrush(Qt::black) : m_painter.brush());
     }
     return TRUE;
 }
@@ -166,11 +189,15 @@ BOOL CDC_E::TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc
                            int cxSrc, int cySrc, COLORREF crTransparent)
 {
     const Extent from(xSrc, ySrc, cxSrc, cySrc);
-    std::optional<Source> source = sourceOf(pSrcDC, from.rect(), true);
+    std::optional<Source> source = sourceOf(pSrcDC, from.rect());
     if (!source || !m_painter.isActive())
         return FALSE;
+    const Extent to = onDevice(*this, {x, y, cx, cy});
+    const auto axes = mirroring(to, onDevice(*pSrcDC, from));
+    const QRectF target = crop(*source, to.rect(), axes);
     if (source->rect.isEmpty())
         return TRUE;
+    takePart(*source);
     QImage& image = source->image;
     image = withTrueAlpha(image);
     const QRgb transparent = toQColor(crTransparent).rgb() & RGB_MASK;
@@ -180,11 +207,10 @@ BOOL CDC_E::TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc
             pRow, pRow + image.width(),
             [transparent](QRgb pixel) { return (pixel & RGB_MASK) == transparent; }, QRgb{0});
     }
-    const Extent target = onDevice(*this, {x, y, cx, cy});
-    mirror(*source, mirroring(target, onDevice(*pSrcDC, from)));
+    mirror(*source, axes);
     const CompositionScope scope(m_painter, Mode::CompositionMode_SourceOver);
     const UprightScope upright(m_painter);
-    m_painter.drawImage(target.rect(), image, source->rect);
+    m_painter.drawImage(target, image, source->rect);
     return TRUE;
 }
 

@@ -23,7 +23,7 @@ QSize isotropic(const QSize& window, const QSize& viewport)
     return {viewport.width(), qRound(viewport.height() * x / y)};
 }
 
-QRect boundedRect(const QPoint& origin, const QSize& size)
+QRect boundedExtent(const QPoint& origin, const QSize& size)
 {
     return {bounded(origin.x()), bounded(origin.y()), bounded(size.width()),
             bounded(size.height())};
@@ -85,9 +85,9 @@ void CDC_E::SetScale(const QSize& window, const QSize& viewport)
         return;
     const bool fits =
         m_modes.map == MM_ISOTROPIC && viewport.width() != 0 && viewport.height() != 0;
-    m_painter.setWindow(boundedRect(m_painter.window().topLeft(), window));
-    m_painter.setViewport(
-        boundedRect(m_painter.viewport().topLeft(), fits ? isotropic(window, viewport) : viewport));
+    m_painter.setWindow(boundedExtent(m_painter.window().topLeft(), window));
+    m_painter.setViewport(boundedExtent(m_painter.viewport().topLeft(),
+                                        fits ? isotropic(window, viewport) : viewport));
 }
 
 CPoint_E CDC_E::GetViewportOrg() const { return toPoint(m_painter.viewport().topLeft()); }
@@ -95,7 +95,7 @@ CPoint_E CDC_E::GetViewportOrg() const { return toPoint(m_painter.viewport().top
 CPoint_E CDC_E::SetViewportOrg(int x, int y)
 {
     const CPoint_E previous = GetViewportOrg();
-    m_painter.setViewport(boundedRect({x, y}, m_painter.viewport().size()));
+    m_painter.setViewport(boundedExtent({x, y}, m_painter.viewport().size()));
     return previous;
 }
 
@@ -120,7 +120,7 @@ CPoint_E CDC_E::GetWindowOrg() const { return toPoint(m_painter.window().topLeft
 CPoint_E CDC_E::SetWindowOrg(int x, int y)
 {
     const CPoint_E previous = GetWindowOrg();
-    m_painter.setWindow(boundedRect({x, y}, m_painter.window().size()));
+    m_painter.setWindow(boundedExtent({x, y}, m_painter.window().size()));
     return previous;
 }
 

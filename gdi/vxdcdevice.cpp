@@ -137,6 +137,21 @@ QImage* pixelsOf(const QPainter& painter)
 
 uchar* rowOf(QImage& image, int y) { return const_cast<uchar*>(image.constScanLine(y)); }
 
+bool canPaintOn(const QWidget& widget)
+{
+    if (!widget.testAttribute(Qt::WA_WState_InPaintEvent))
+        return false;
+    // The painter counts on the device that the event paints on: the window's or a grabbed image.
+    struct Access : QWidget
+    {
+        using QWidget::redirected;
+        using QWidget::sharedPainter;
+    };
+    const QPaintDevice* const pDevice = (widget.*&Access::redirected)(nullptr);
+    // QWidget::render() lends its painter, on which others may be stacked.
+    return !pDevice || !pDevice->paintingActive() || (widget.*&Access::sharedPainter)();
+}
+
 PaintedWidget::PaintedWidget(QWidget* pWidget, QPainter& painter)
     : m_connection(QObject::connect(pWidget, &QObject::destroyed, [&painter] { painter.end(); }))
 {
@@ -189,8 +204,8 @@ ClientSurface::~ClientSurface()
 namespace {
 
 /// Images whose bitmaps went while a painter was at work on them. Objects with static storage may
-/// look here at unload.
-__attribute__((init_priority(102))) std::vector<std::unique_ptr<QImage>> orphans;
+/// look here at unload, and the temporary ones of the handle maps' state after them.
+__attribute__((init_priority(101))) std::vector<std::unique_ptr<QImage>> orphans;
 
 } // namespace
 

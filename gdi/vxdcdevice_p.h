@@ -23,6 +23,10 @@ public:
     DcDevice& operator=(const DcDevice&) = delete;
 };
 
+/// Whether a painter can begin on @p widget: in a paint event, unless another one is at work where
+/// that event paints. Qt would let the second one end the first one's painting.
+bool canPaintOn(const QWidget& widget);
+
 /// A widget that is being painted: ends the painter when the widget dies first.
 class PaintedWidget : public DcDevice
 {

@@ -100,12 +100,12 @@ void invertPixels(QImage& image, const QRect& rect)
 
 } // namespace
 
-void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColorArg& color)
+void CDC_E::FillSolidRect(int x, int y, int cx, int cy, const VxColor& color)
 {
     m_painter.fillRect(extentRect(x, y, cx, cy), static_cast<const QColor&>(color));
 }
 
-void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColorArg& color)
+void CDC_E::FillSolidRect(const tagRECT* pRect, const VxColor& color)
 {
     if (pRect)
         m_painter.fillRect(fromRect(*pRect), static_cast<const QColor&>(color));
@@ -118,8 +118,8 @@ void CDC_E::FillRect(const tagRECT* pRect, CBrush_E* pBrush)
         m_painter.fillRect(fromRect(*pRect), *pValue);
 }
 
-void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
-                       const VxColorArg& bottomRight)
+void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
+                       const VxColor& bottomRight)
 {
     FillSolidRect(x, y, wrappingSub(cx, 1), 1, topLeft);
     FillSolidRect(x, y, 1, wrappingSub(cy, 1), topLeft);
@@ -128,8 +128,7 @@ void CDC_E::Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
     FillSolidRect(x, wrappingAdd(y, cy), cx, -1, bottomRight);
 }
 
-void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColorArg& topLeft,
-                       const VxColorArg& bottomRight)
+void CDC_E::Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight)
 {
     if (pRect)
         Draw3dRect(pRect->left, pRect->top, wrappingSub(pRect->right, pRect->left),
@@ -144,7 +143,7 @@ void CDC_E::DrawFocusRect(const tagRECT* pRect)
     m_painter.setCompositionMode(QPainter::RasterOp_NotDestination);
     m_painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawRect(fromRect(*pRect).adjusted(0, 0, -1, -1));
+    m_painter.drawRect(boundedRect(*pRect).adjusted(0, 0, -1, -1));
 }
 
 void CDC_E::FrameRect(const tagRECT* pRect, CBrush_E* pBrush)
@@ -227,13 +226,15 @@ BOOL CDC_E::FrameRgn(CRgn_E* pRgn, CBrush_E* pBrush, int nWidth, int nHeight)
         return FALSE;
     if (pRegion->isEmpty()) // nothing has no bounds
         return TRUE;
-    const QRect inner = pRegion->boundingRect();
-    const QRect outer = inner.adjusted(-nWidth, -nHeight, nWidth, nHeight);
+    const QRect inner = boundedRect(toRect(pRegion->boundingRect()));
+    const int cx = bounded(nWidth);
+    const int cy = bounded(nHeight);
+    const QRect outer = inner.adjusted(-cx, -cy, cx, cy);
     // Intended: bands on the outside of the bounds.
-    for (const QRect& band : {QRect(outer.left(), inner.top(), nWidth, inner.height()),
-                              QRect(inner.right() + 1, inner.top(), nWidth, inner.height()),
-                              QRect(outer.left(), outer.top(), outer.width(), nHeight),
-                              QRect(outer.left(), inner.bottom() + 1, outer.width(), nHeight)}) {
+    for (const QRect& band : {QRect(outer.left(), inner.top(), cx, inner.height()),
+                              QRect(inner.right() + 1, inner.top(), cx, inner.height()),
+                              QRect(outer.left(), outer.top(), outer.width(), cy),
+                              QRect(outer.left(), inner.bottom() + 1, outer.width(), cy)}) {
         if (band.isValid())
             m_painter.fillRect(band, *pValue);
     }

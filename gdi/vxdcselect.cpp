@@ -149,42 +149,43 @@ CGdiObject_E* CDC_E::SelectObject(CGdiObject_E* pObject)
     return nullptr;
 }
 
-VxColor CDC_E::GetBkColor() const { return m_painter.background().color(); }
+VxColorResult CDC_E::GetBkColor() const { return m_painter.background().color(); }
 
-VxColor CDC_E::SetBkColor(COLORREF crColor) { return SetBkColor(toQColor(crColor)); }
+VxColorResult CDC_E::SetBkColor(COLORREF crColor) { return SetBkColor(toQColor(crColor)); }
 
-VxColor CDC_E::SetBkColor(int nIndex)
+VxColorResult CDC_E::SetBkColor(int nIndex)
 {
     return isIndex(m_colorTable, nIndex) ? SetBkColor(colorOf(m_colorTable.at(nIndex)))
                                          : GetBkColor();
 }
 
-VxColor CDC_E::SetBkColor(const QColor& color)
+VxColorResult CDC_E::SetBkColor(const QColor& color)
 {
-    VxColor previous = GetBkColor();
+    VxColorResult previous = GetBkColor();
     m_painter.setBackground(color);
     return previous;
 }
 
-VxColor CDC_E::GetTextColor() const
+VxColorResult CDC_E::GetTextColor() const
 {
-    return m_textColor == CLR_NONE ? VxColor(m_painter.pen().color()) : VxColor(m_textColor);
+    return m_textColor == CLR_NONE ? VxColorResult(m_painter.pen().color())
+                                   : VxColorResult(m_textColor);
 }
 
-VxColor CDC_E::SetTextColor(COLORREF crColor)
+VxColorResult CDC_E::SetTextColor(COLORREF crColor)
 {
-    VxColor previous = GetTextColor();
+    VxColorResult previous = GetTextColor();
     m_textColor = crColor;
     return previous;
 }
 
-VxColor CDC_E::SetTextColor(int nIndex)
+VxColorResult CDC_E::SetTextColor(int nIndex)
 {
     return isIndex(m_colorTable, nIndex) ? SetTextColor(colorOf(m_colorTable.at(nIndex)))
                                          : GetTextColor();
 }
 
-VxColor CDC_E::SetTextColor(const QColor& color) { return SetTextColor(toColorRef(color)); }
+VxColorResult CDC_E::SetTextColor(const QColor& color) { return SetTextColor(toColorRef(color)); }
 
 int CDC_E::GetBkMode() const { return m_painter.backgroundMode(); }
 

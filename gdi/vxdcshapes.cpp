@@ -40,11 +40,6 @@ int angleOf(const QRect& rect, const tagPOINT& point)
     return static_cast<int>(std::lround(std::atan2(y, x) * kSixteenths));
 }
 
-QRect boundedRect(const tagRECT& rc)
-{
-    return fromRect({bounded(rc.left), bounded(rc.top), bounded(rc.right), bounded(rc.bottom)});
-}
-
 constexpr int kFullCircle = 360 * 16;
 
 } // namespace
@@ -133,7 +128,7 @@ BOOL CDC_E::RoundRect(const tagRECT* pRect, tagPOINT point)
 {
     if (!pRect || !m_painter.isActive())
         return FALSE;
-    m_painter.drawRoundedRect(fromRect(*pRect), point.x / 2.0, point.y / 2.0);
+    m_painter.drawRoundedRect(boundedRect(*pRect), point.x / 2.0, point.y / 2.0);
     return TRUE;
 }
 
@@ -194,7 +189,7 @@ BOOL CDC_E::Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end)
     return DrawArcKind(ArcKind::Chord, pRect, start, end);
 }
 
-VxColor CDC_E::SetPixel(int x, int y, const VxColorArg& color)
+VxColorResult CDC_E::SetPixel(int x, int y, const VxColor& color)
 {
     const QColor previous = m_painter.pen().color();
     m_painter.setPen(color);

@@ -113,18 +113,18 @@ BOOL CDC_E::TextOutAt(int x, int y, const QString& str, const int* pDxWidths)
     const auto characters = str.toUcs4();
     int width = 0;
     if (pDxWidths)
-        width = std::accumulate(pDxWidths, pDxWidths + characters.size(), 0);
+        width = std::accumulate(pDxWidths, pDxWidths + characters.size(), 0, &wrappingAdd);
     else if (align & (TA_UPDATECP | TA_CENTER))
         width = metrics.horizontalAdvance(str);
     const bool fromCurrent = (align & TA_UPDATECP) != 0;
     const UprightScope upright(m_painter);
     QPoint at(upright.x(fromCurrent ? m_x : x), upright.y(fromCurrent ? m_y : y));
     if ((align & TA_CENTER) == TA_CENTER)
-        at.rx() -= width / 2;
+        at.rx() = wrappingSub(at.x(), width / 2);
     else if (align & TA_RIGHT)
-        at.rx() -= width;
+        at.rx() = wrappingSub(at.x(), width);
     if ((align & TA_BASELINE) != TA_BASELINE)
-        at.ry() += align & TA_BOTTOM ? -metrics.descent() : metrics.ascent();
+        at.ry() = wrappingAdd(at.y(), align & TA_BOTTOM ? -metrics.descent() : metrics.ascent());
 
     const QPen pen = m_painter.pen();
     m_painter.setPen(GetTextColor());
@@ -132,14 +132,14 @@ BOOL CDC_E::TextOutAt(int x, int y, const QString& str, const int* pDxWidths)
         QPoint place = at;
         for (int i = 0; i < characters.size(); ++i) {
             m_painter.drawText(place, QString::fromUcs4(&characters[i], 1));
-            place.rx() += pDxWidths[i];
+            place.rx() = wrappingAdd(place.x(), pDxWidths[i]);
         }
     } else {
         m_painter.drawText(at, str);
     }
     m_painter.setPen(pen);
     if (fromCurrent && (align & TA_CENTER) != TA_CENTER)
-        m_x = wrappingAdd(m_x, upright.x(align & TA_RIGHT ? -width : width));
+        m_x = wrappingAdd(m_x, upright.x(align & TA_RIGHT ? wrappingSub(0, width) : width));
     return TRUE;
 }
 

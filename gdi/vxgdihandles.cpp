@@ -16,8 +16,9 @@ struct Row
     QVarLengthArray<CGdiObject_E*, 1> holders; // the last one is whom the handle map knows
 };
 
-// Objects with static storage let go of their handles at unload, later than most.
-__attribute__((init_priority(102))) std::unordered_map<HGDIOBJ, Row> rows;
+// Objects with static storage let go of their handles at unload, later than most, and the state
+// with the handle maps ends their temporary ones after that: this is still there then.
+__attribute__((init_priority(101))) std::unordered_map<HGDIOBJ, Row> rows;
 
 void keep(HGDIOBJ) {}
 

@@ -47,8 +47,11 @@ bool attachHandle(T* pObject, void* T::*pHandle, void* h, CHandleMap_E* (*pfnMap
 /// The object of @p h; a temporary one goes with @p pfnDeleteTemp at the next idle time.
 inline CObject_E* objectOf(void* h, CHandleMap_E* pMap, void (*pfnDeleteTemp)())
 {
+    if (CObject_E* const pPermanent = pMap->LookupPermanent(h))
+        return pPermanent;
+    const bool made = h && !pMap->LookupTemporary(h);
     CObject_E* const pObject = pMap->FromHandle(h);
-    if (pObject && !pMap->LookupPermanent(h))
+    if (made)
         cleanUpAtIdle(pfnDeleteTemp);
     return pObject;
 }

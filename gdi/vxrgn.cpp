@@ -171,8 +171,7 @@ BOOL CRgn_E::PtInRegion(tagPOINT point) const { return PtInRegion(point.x, point
 
 BOOL CRgn_E::RectInRegion(const tagRECT* lpRect) const
 {
-    return lpRect && regionOf(this).contains(withCorners(lpRect->left, lpRect->top,
-                                                         lpRect->right - 1, lpRect->bottom - 1));
+    return lpRect && regionOf(this).contains(vx::detail::fromRect(*lpRect));
 }
 
 UINT CRgn_E::GetRegionData(tagRGNDATA*, int) const { return GDI_ERROR; }

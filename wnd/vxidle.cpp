@@ -100,8 +100,13 @@ void QGlobalEventHandler::OnEnterIdle()
 {
     if (isHostCommandRunning())
         return;
-    for (void (*const pfnCleanUp)() : std::exchange(cleanUps(), {}))
+    // One by one, so that the rest stays listed for the next time when one throws.
+    std::vector<void (*)()>& list = cleanUps();
+    for (std::size_t n = list.size(); n > 0 && !list.empty(); --n) {
+        void (*const pfnCleanUp)() = list.front();
+        list.erase(list.begin());
         pfnCleanUp();
+    }
     RemoveTempObject();
 }
 

