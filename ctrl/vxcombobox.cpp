@@ -1,7 +1,7 @@
 #include <VxMFCEmu/ctrl/combobox.h>
 
 #include "ctrl/vxcomboitems_p.h"
-#include "dlg/vxcombotext_p.h"
+#include "wnd/vxcombotext_p.h"
 
 #include <VxCustomUI.h>
 

@@ -283,22 +283,12 @@ void CSpinButtonCtrl_E::SetSel(int nStart, int nEnd, BOOL)
 
 void CSpinButtonCtrl_E::GetWindowText(CString_E& rString)
 {
-    QString strText;
-    if (const auto* const pWhole = widgetOf<QSpinBox>(*this))
-        strText = QString::number(pWhole->value());
-    else if (const auto* const pDecimal = widgetOf<QDoubleSpinBox>(*this))
-        strText = QString::number(pDecimal->value(), 'f', pDecimal->decimals());
-    rString = strText;
+    GetWindowText_E(spinBoxOf(*this), rString);
 }
 
 void CSpinButtonCtrl_E::SetWindowText(const wchar_t* lpszString)
 {
-    // Intended: a text that does not parse sets 0.
-    const VxQString strText(lpszString);
-    if (auto* const pWhole = widgetOf<QSpinBox>(*this))
-        pWhole->setValue(strText.toInt());
-    else if (auto* const pDecimal = widgetOf<QDoubleSpinBox>(*this))
-        pDecimal->setValue(strText.toDouble());
+    SetWindowText_E(spinBoxOf(*this), lpszString);
 }
 
 BOOL CSpinButtonCtrl_E::OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam,

@@ -44,7 +44,8 @@ TEST(SpinButton, DecimalNumbers)
             pBox->setValue(2.9);
             EXPECT_EQ(spin.GetPos(), 2);
             EXPECT_EQ(spin.SetPos(-2), -1);
-            EXPECT_EQ(spin.SetPos(3), 2);
+            EXPECT_EQ(spin.SetPos32(10), -1);
+            EXPECT_EQ(spin.SetPos32(3), 2);
             EXPECT_EQ(pBox->value(), 3.0);
             const UDACCEL accel{0, 4};
             EXPECT_TRUE(spin.SetAccel(1, &accel));
@@ -76,6 +77,9 @@ TEST(SpinButton, TextSelectionAndBuddy)
             CString_E text;
             spin.GetWindowText(text);
             EXPECT_EQ(text.Compare(L"1234"), 0) << "the value alone";
+            wchar_t buffer[8] = L"";
+            EXPECT_EQ(spin.GetWindowText(buffer, 8), spin.GetWindowTextLength());
+            EXPECT_STREQ(buffer, L"1234");
             spin.SetWindowText(L"1e3");
             EXPECT_EQ(pBox->value(), 0);
             spin.SetWindowText(nullptr);
