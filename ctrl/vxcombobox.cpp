@@ -108,6 +108,8 @@ int CComboBox_E::InsertString(int nIndex, const wchar_t* lpszString)
         const int nRow = insertionRow(nIndex, nCount);
         if (nRow < 0)
             return CB_ERR;
+        if (nCount >= combo.maxCount())
+            return CB_ERRSPACE;
         const QuietItems quiet(combo);
         combo.insertItem(nRow, VxQString(lpszString));
         if (nCount == 0)
