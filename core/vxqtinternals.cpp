@@ -1,6 +1,7 @@
 // The one file that reads Qt's private headers.
 #include "core/vxqtinternals_p.h"
 
+#include <private/qabstractspinbox_p.h>
 #include <private/qmetaobject_p.h>
 #include <private/qobject_p.h>
 #include <private/qsettings_p.h>
@@ -132,6 +133,12 @@ void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant
         names.removeAt(nIndex);
         values.removeAt(nIndex);
     }
+}
+
+// UndefinedBehaviorSanitizer would want type information that Qt does not export.
+__attribute__((no_sanitize("vptr"))) void forgetLineEdit(QAbstractSpinBox* pBox)
+{
+    static_cast<QAbstractSpinBoxPrivate*>(QObjectPrivate::get(pBox))->edit = nullptr;
 }
 
 struct SettingsContents::Files

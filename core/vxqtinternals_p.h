@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+class QAbstractSpinBox;
 class QSettings;
 class QWidget;
 
@@ -41,6 +42,10 @@ const QVariant* dynamicProperty(const QObject* pObject, const QByteArray& name);
 /// Sets the dynamic property of this name, or takes it away when @p value is invalid. Neither
 /// compares the name with the class's properties nor sends the object an event of the change.
 void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant& value);
+
+/// Has a spin box give up its line edit, which is being destroyed, without deleting it. It needs a
+/// new one at once.
+void forgetLineEdit(QAbstractSpinBox* pBox);
 
 /// The contents of a store of INI settings at one moment, to find out cheaply whether they have
 /// changed, whoever did it: stores of one file in one process share them.

@@ -2,7 +2,6 @@
 
 #include "ctrl/vxcontroltable_p.h"
 #include "ctrl/vximagehandle_p.h"
-#include "wnd/vxuncheck_p.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGroupBox>
@@ -175,10 +174,7 @@ void CButton_E::SetCheck(int nCheck)
         if (nCheck >= BST_UNCHECKED && nCheck <= BST_INDETERMINATE)
             pBox->setCheckState(kCheckStates[nCheck]);
     } else if (auto* const pButton = widgetOf<QAbstractButton>(*this)) {
-        if (nCheck != BST_UNCHECKED)
-            pButton->setChecked(true);
-        else
-            uncheck(pButton);
+        pButton->setChecked(nCheck != BST_UNCHECKED);
     }
 }
 

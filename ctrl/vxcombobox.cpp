@@ -1,7 +1,7 @@
 #include <VxMFCEmu/ctrl/combobox.h>
 
 #include "ctrl/vxcomboitems_p.h"
-#include "dlg/vxcombotext_p.h"
+#include "wnd/vxcombotext_p.h"
 
 #include <VxCustomUI.h>
 
@@ -108,6 +108,8 @@ int CComboBox_E::InsertString(int nIndex, const wchar_t* lpszString)
         const int nRow = insertionRow(nIndex, nCount);
         if (nRow < 0)
             return CB_ERR;
+        if (nCount >= combo.maxCount())
+            return CB_ERRSPACE;
         const QuietItems quiet(combo);
         combo.insertItem(nRow, VxQString(lpszString));
         if (nCount == 0)

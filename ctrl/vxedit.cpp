@@ -10,6 +10,7 @@
 
 #include <VxCustomUI.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
@@ -31,6 +32,11 @@ Qt::Alignment alignmentOf(DWORD dwStyle)
     return dwStyle & ES_CENTER  ? Qt::AlignHCenter
            : dwStyle & ES_RIGHT ? Qt::AlignRight
                                 : Qt::AlignLeft;
+}
+
+constexpr DWORD withStyle(DWORD dwStyle, DWORD bit, bool bSet)
+{
+    return bSet ? dwStyle | bit : dwStyle & ~bit;
 }
 
 void hideBar(QTextEdit& text, QScrollBar& bar,
@@ -58,13 +64,18 @@ void selectIn(QTextEdit& text, int nStart, int nEnd)
 template <typename Change>
 void keepState(QLineEdit& line, Change change)
 {
+    const QPointer<QLineEdit> pAlive(&line); // slots may delete it
     const bool bModified = line.isModified();
     const int nCursor = line.cursorPosition();
     const int nStart = line.selectionStart();
     const int nLength = line.selectionLength();
     change();
-    line.setModified(bModified);
-    line.setCursorPosition(nCursor);
+    if (pAlive)
+        line.setModified(bModified);
+    if (pAlive)
+        line.setCursorPosition(nCursor);
+    if (!pAlive)
+        return;
     if (nLength > 0 && nCursor == nStart)
         line.setSelection(nStart + nLength, -nLength);
     else if (nLength > 0)
@@ -100,6 +111,11 @@ BOOL CEdit_E::OnAttach()
         return FALSE;
     if (widgetOf<QTextEdit>(*this))
         m_dwStyle |= ES_MULTILINE;
+    useEdit(*this, [this](auto& widget) {
+        m_dwStyle = withStyle(m_dwStyle, ES_READONLY, widget.isReadOnly());
+    });
+    if (const auto* const pLine = widgetOf<QLineEdit>(*this))
+        m_dwStyle = withStyle(m_dwStyle, ES_PASSWORD, pLine->echoMode() == QLineEdit::Password);
     return TRUE;
 }
 
@@ -189,6 +205,7 @@ void CEdit_E::SetPasswordChar(TCHAR ch)
     if (auto* const pLine = widgetOf<QLineEdit>(*this)) {
         pLine->setEchoMode(ch ? QLineEdit::Password : QLineEdit::Normal);
         pLine->setProperty(kPasswordProperty, ch ? QVariant(static_cast<uint>(ch)) : QVariant());
+        m_dwStyle = withStyle(m_dwStyle, ES_PASSWORD, ch != 0);
     }
 }
 
@@ -260,7 +277,7 @@ BOOL CEdit_E::SetReadOnly(BOOL bReadOnly)
 {
     if (!useEdit(*this, [=](auto& widget) { widget.setReadOnly(bReadOnly != 0); }))
         return FALSE;
-    m_dwStyle = bReadOnly ? m_dwStyle | ES_READONLY : m_dwStyle & ~ES_READONLY;
+    m_dwStyle = withStyle(m_dwStyle, ES_READONLY, bReadOnly != FALSE);
     return TRUE;
 }
 
@@ -273,9 +290,9 @@ BOOL CEdit_E::CanUndo() const
 
 BOOL CEdit_E::Undo()
 {
-    const BOOL bCan = CanUndo();
-    useEdit(*this, [](auto& widget) { widget.undo(); });
-    return bCan || widgetOf<QLineEdit>(*this);
+    const BOOL bDone = CanUndo() || widgetOf<QLineEdit>(*this);
+    useEdit(*this, [](auto& widget) { widget.undo(); }); // a slot may delete this edit
+    return bDone;
 }
 
 void CEdit_E::EmptyUndoBuffer()

@@ -21,6 +21,13 @@ int findAround(const QListWidget& list, int nStart, Matches matches)
     return nRow >= 0 ? nRow : findRow(0, nNext, textOf, matches);
 }
 
+/// Inserts an item and returns its row, which is another one in a list that sorts its items.
+int insertInto(QListWidget& list, int nRow, QListWidgetItem* pItem)
+{
+    list.insertItem(nRow, pItem);
+    return list.isSortingEnabled() ? list.row(pItem) : nRow;
+}
+
 } // namespace
 
 BOOL CListBox_E::AttachDefault(QWidget* pParent) { return attachNew<QListWidget>(*this, pParent); }
@@ -54,8 +61,7 @@ int CListBox_E::GetCount() const
 int CListBox_E::AddString(const wchar_t* lpszItem)
 {
     return askWidget<QListWidget>(*this, LB_ERR, [&](auto& list) {
-        list.addItem(MakeItem(VxQString(lpszItem)));
-        return list.count() - 1;
+        return insertInto(list, list.count(), MakeItem(VxQString(lpszItem)));
     });
 }
 
@@ -63,9 +69,7 @@ int CListBox_E::InsertString(int nIndex, const wchar_t* lpszItem)
 {
     return askWidget<QListWidget>(*this, LB_ERR, [&](auto& list) {
         const int nRow = insertionRow(nIndex, list.count());
-        if (nRow >= 0)
-            list.insertItem(nRow, MakeItem(VxQString(lpszItem)));
-        return nRow;
+        return nRow < 0 ? LB_ERR : insertInto(list, nRow, MakeItem(VxQString(lpszItem)));
     });
 }
 

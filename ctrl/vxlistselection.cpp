@@ -90,7 +90,9 @@ int CListBox_E::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem)
 int CListBox_E::GetSelCount() const
 {
     return askWidget<QListWidget>(*this, LB_ERR, [](auto& list) {
-        return selectsSeveral(list) ? list.selectionModel()->selectedIndexes().size() : LB_ERR;
+        return list.selectionMode() == QAbstractItemView::SingleSelection
+                   ? LB_ERR
+                   : list.selectionModel()->selectedIndexes().size();
     });
 }
 

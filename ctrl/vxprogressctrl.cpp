@@ -43,19 +43,30 @@ LRESULT getRange(CProgressCtrl_E& bar, WPARAM bLow, LPARAM lParam)
     return bLow ? range.nLow : range.nHigh;
 }
 
+constexpr char kBarColor[] = "barColor";
+constexpr char kBackColor[] = "backColor";
+
+COLORREF colorOf(const CProgressCtrl_E& control, const char* pszName)
+{
+    return askWidget<QProgressBar>(control, COLORREF{0}, [pszName](auto& bar) {
+        const QVariant color = bar.property(pszName);
+        return color.isValid() ? color.toUInt() : CLR_DEFAULT;
+    });
+}
+
 /// Sets one colour, which @p pszName keeps, and gives the previous one.
 COLORREF setColor(const CProgressCtrl_E& control, QPalette::ColorRole role, const char* pszName,
                   COLORREF color)
 {
-    return askWidget<QProgressBar>(control, COLORREF{0}, [=](auto& bar) {
+    return askWidget<QProgressBar>(control, COLORREF{0}, [&](auto& bar) {
         const bool bDefault = color == CLR_DEFAULT;
-        const QVariant previous = bar.property(pszName);
+        const COLORREF previous = colorOf(control, pszName);
         bar.setProperty(pszName, bDefault ? QVariant() : QVariant(color));
         QPalette palette = bar.palette();
         palette.setColor(role,
                          bDefault ? QApplication::palette(&bar).color(role) : toQColor(color));
         bar.setPalette(palette);
-        return previous.isValid() ? previous.toUInt() : CLR_DEFAULT;
+        return previous;
     });
 }
 
@@ -73,6 +84,8 @@ constexpr Row kMessages[] = {
     {PBM_SETMARQUEE, [](auto& bar, WPARAM w, LPARAM l) -> LRESULT { return bar.SetMarquee(w != 0, intIn(l)); }},
     {PBM_SETBARCOLOR, [](auto& bar, WPARAM, LPARAM l) -> LRESULT { return bar.SetBarColor(static_cast<COLORREF>(l)); }},
     {PBM_SETBKCOLOR,  [](auto& bar, WPARAM, LPARAM l) -> LRESULT { return bar.SetBkColor(static_cast<COLORREF>(l)); }},
+    {PBM_GETBARCOLOR, [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.GetBarColor(); }},
+    {PBM_GETBKCOLOR,  [](auto& bar, WPARAM, LPARAM) -> LRESULT { return bar.GetBkColor(); }},
 };
 // clang-format on
 
@@ -104,16 +117,23 @@ void CProgressCtrl_E::SetRange(short nLower, short nUpper) { SetRange32(nLower, 
 
 void CProgressCtrl_E::SetRange32(int nLower, int nUpper)
 {
-    if (auto* const pBar = widgetOf<QProgressBar>(*this))
+    auto* const pBar = widgetOf<QProgressBar>(*this);
+    if (pBar && pBar->property(kRangeBeforeMarquee).isValid())
+        pBar->setProperty(kRangeBeforeMarquee, QPoint(nLower, std::max(nLower, nUpper)));
+    else if (pBar)
         pBar->setRange(nLower, nUpper);
 }
 
 void CProgressCtrl_E::GetRange(int* pLower, int* pUpper) const
 {
+    const QPoint range = askWidget<QProgressBar>(*this, QPoint(), [](auto& bar) {
+        const QVariant kept = bar.property(kRangeBeforeMarquee);
+        return kept.isValid() ? kept.toPoint() : QPoint(bar.minimum(), bar.maximum());
+    });
     if (pLower)
-        *pLower = askWidget<QProgressBar>(*this, 0, [](auto& bar) { return bar.minimum(); });
+        *pLower = range.x();
     if (pUpper)
-        *pUpper = askWidget<QProgressBar>(*this, 0, [](auto& bar) { return bar.maximum(); });
+        *pUpper = range.y();
 }
 
 int CProgressCtrl_E::SetPos(int nPos)
@@ -162,13 +182,17 @@ int CProgressCtrl_E::StepIt() { return OffsetPos(GetStep()); }
 
 COLORREF CProgressCtrl_E::SetBarColor(COLORREF color)
 {
-    return setColor(*this, QPalette::Highlight, "barColor", color);
+    return setColor(*this, QPalette::Highlight, kBarColor, color);
 }
+
+COLORREF CProgressCtrl_E::GetBarColor() const { return colorOf(*this, kBarColor); }
 
 COLORREF CProgressCtrl_E::SetBkColor(COLORREF color)
 {
-    return setColor(*this, QPalette::Base, "backColor", color);
+    return setColor(*this, QPalette::Base, kBackColor, color);
 }
+
+COLORREF CProgressCtrl_E::GetBkColor() const { return colorOf(*this, kBackColor); }
 
 BOOL CProgressCtrl_E::SetMarquee(BOOL bMarquee, int)
 {

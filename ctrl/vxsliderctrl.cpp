@@ -38,13 +38,31 @@ QVector<int> innerTics(const QAbstractSlider& slider)
     return tics;
 }
 
-void showTics(QSlider& slider, DWORD dwStyle)
+/// Painting takes its time for each tic of the range, also for those on one pixel.
+constexpr LONGLONG kMostTics = 1000;
+
+/// Has the widget draw the tics that are set, or its own choice by pages when @p dwStyle or its
+/// form wants that; those at the ends alone when they are too many.
+void fitTics(QSlider& slider, DWORD dwStyle)
 {
-    LONGLONG distance = LONGLONG{slider.maximum()} - slider.minimum();
+    const LONGLONG distance = LONGLONG{slider.maximum()} - slider.minimum();
+    const bool bOwn = !slider.property(kTics).isValid();
+    const bool bAsked = slider.tickInterval() <= 0 && slider.tickPosition() != QSlider::NoTicks;
+    if (bOwn && !(dwStyle & TBS_AUTOTICKS) && !bAsked)
+        return;
+    LONGLONG interval = bOwn ? std::max(slider.pageStep(), 1) : distance;
     const auto tics = innerTics(slider);
     for (const int nTic : tics)
-        distance = std::gcd(distance, LONGLONG{nTic} - slider.minimum());
-    slider.setTickInterval(static_cast<int>(std::min<LONGLONG>(distance, INT_MAX)));
+        interval = std::gcd(interval, LONGLONG{nTic} - slider.minimum());
+    if (interval > 0 && distance / interval > kMostTics)
+        slider.setTickInterval(static_cast<int>(std::min<LONGLONG>(distance, INT_MAX)));
+    else
+        slider.setTickInterval(bOwn ? 0 : static_cast<int>(std::min<LONGLONG>(interval, INT_MAX)));
+}
+
+void showTics(QSlider& slider, DWORD dwStyle)
+{
+    fitTics(slider, dwStyle);
     slider.setTickPosition(dwStyle & TBS_NOTICKS ? QSlider::NoTicks
                            : dwStyle & TBS_BOTH  ? QSlider::TicksBothSides
                            : dwStyle & TBS_TOP   ? QSlider::TicksAbove
@@ -66,6 +84,16 @@ tagRECT partRect(const CSliderCtrl_E& control, QStyle::SubControl part)
     QStyleOptionSlider option;
     (pSlider->*(&OpenSlider::initStyleOption))(&option);
     return toRect(pSlider->style()->subControlRect(QStyle::CC_Slider, &option, part, pSlider));
+}
+
+/// Makes a change after which other tics may be too many.
+template <typename Change>
+void changeScale(const CSliderCtrl_E& control, Change change)
+{
+    if (auto* const pSlider = widgetOf<QAbstractSlider>(control))
+        change(*pSlider);
+    if (auto* const pSlider = widgetOf<QSlider>(control))
+        fitTics(*pSlider, control.GetStyle());
 }
 
 /// Changes one end of the selection.
@@ -134,10 +162,8 @@ BOOL CSliderCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent)
 {
     if (!CWnd_E::Create(dwStyle, rect, pParent))
         return FALSE;
-    if (auto* const pSlider = widgetOf<QSlider>(*this); pSlider && dwStyle & TBS_AUTOTICKS) {
+    if (auto* const pSlider = widgetOf<QSlider>(*this); pSlider && dwStyle & TBS_AUTOTICKS)
         showTics(*pSlider, dwStyle);
-        pSlider->setTickInterval(0); // the widget's own choice: by steps or pages
-    }
     return TRUE;
 }
 
@@ -149,20 +175,17 @@ BOOL CSliderCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, 
 
 void CSliderCtrl_E::SetRange(int nMin, int nMax, BOOL)
 {
-    if (auto* const pSlider = widgetOf<QAbstractSlider>(*this))
-        pSlider->setRange(nMin, nMax);
+    changeScale(*this, [=](auto& slider) { slider.setRange(nMin, nMax); });
 }
 
 void CSliderCtrl_E::SetRangeMin(int nMin, BOOL)
 {
-    if (auto* const pSlider = widgetOf<QAbstractSlider>(*this))
-        pSlider->setMinimum(nMin);
+    changeScale(*this, [=](auto& slider) { slider.setMinimum(nMin); });
 }
 
 void CSliderCtrl_E::SetRangeMax(int nMax, BOOL)
 {
-    if (auto* const pSlider = widgetOf<QAbstractSlider>(*this))
-        pSlider->setMaximum(nMax);
+    changeScale(*this, [=](auto& slider) { slider.setMaximum(nMax); });
 }
 
 void CSliderCtrl_E::GetRange(int& nMin, int& nMax) const
@@ -198,9 +221,9 @@ int CSliderCtrl_E::GetLineSize() const
 
 int CSliderCtrl_E::SetPageSize(int nSize)
 {
-    return askWidget<QAbstractSlider>(*this, 0, [nSize](auto& slider) {
+    return askWidget<QAbstractSlider>(*this, 0, [this, nSize](auto& slider) {
         const int nPrevious = slider.pageStep();
-        slider.setPageStep(std::max(nSize, -INT_MAX));
+        changeScale(*this, [=](auto& it) { it.setPageStep(std::max(nSize, -INT_MAX)); });
         return nPrevious;
     });
 }

@@ -1,5 +1,6 @@
 #include <VxMFCEmu/ctrl/spinbuttonctrl.h>
 
+#include "core/vxqtinternals_p.h"
 #include "ctrl/vxcontroltable_p.h"
 #include "ctrl/vxlineselection_p.h"
 #include "wnd/vxlivewidgets_p.h"
@@ -42,6 +43,36 @@ template <typename Change>
 void changeSpin(const CSpinButtonCtrl_E& spin, Change change)
 {
     askSpin(spin, 0, [&change](auto& box) { return change(box), 0; });
+}
+
+/// The spin box when it is one of numbers: dates have none of what the members are about.
+QAbstractSpinBox* spinBoxOf(const CSpinButtonCtrl_E& spin)
+{
+    return askSpin(spin, static_cast<QAbstractSpinBox*>(nullptr),
+                   [](auto& box) -> QAbstractSpinBox* { return &box; });
+}
+
+QLineEdit* lineEditOf(const QAbstractSpinBox* pBox) { return (pBox->*(&OpenSpinBox::lineEdit))(); }
+
+void setLineEdit(QAbstractSpinBox* pBox, QLineEdit* pEdit)
+{
+    (pBox->*(&OpenSpinBox::setLineEdit))(pEdit);
+    pBox->setSpecialValueText(pBox->specialValueText()); // has the value shown in it
+    pEdit->show();
+}
+
+/// Gives a spin box whose buddy is being destroyed a line edit of its own.
+void replaceLostBuddy(QAbstractSpinBox* pBox)
+{
+    forgetLineEdit(pBox);
+    auto* const pEdit = new QLineEdit(pBox);
+    setLineEdit(pBox, pEdit);
+    // The spin box itself deletes the buddy when somebody else sets a line edit.
+    const auto dropUnused = [pBox, pEdit] {
+        if (lineEditOf(pBox) != pEdit)
+            pEdit->deleteLater();
+    };
+    QMetaObject::invokeMethod(pEdit, dropUnused, Qt::QueuedConnection);
 }
 
 LRESULT getRange32(CSpinButtonCtrl_E& spin, WPARAM wParam, LPARAM lParam)
@@ -162,14 +193,13 @@ int CSpinButtonCtrl_E::GetPos32(BOOL* pbError) const
 
 BOOL CSpinButtonCtrl_E::SetAccel(int nAccel, const UDACCEL* pAccel)
 {
-    return askWidget<QAbstractSpinBox>(*this, FALSE, [=](auto& box) {
-        if (nAccel <= 0)
-            return TRUE;
-        box.setAccelerated(true);
-        if (auto* const pBox = qobject_cast<QSpinBox*>(&box); pBox && pAccel)
-            pBox->setSingleStep(static_cast<int>(std::min<UINT>(pAccel->nInc, INT_MAX)));
-        return TRUE;
-    });
+    auto* const pBox = spinBoxOf(*this);
+    if (!pBox || nAccel <= 0)
+        return pBox != nullptr;
+    pBox->setAccelerated(true);
+    if (auto* const pWhole = qobject_cast<QSpinBox*>(pBox); pWhole && pAccel)
+        pWhole->setSingleStep(static_cast<int>(std::min<UINT>(pAccel->nInc, INT_MAX)));
+    return TRUE;
 }
 
 UINT CSpinButtonCtrl_E::GetAccel(int nAccel, UDACCEL* pAccel) const
@@ -183,19 +213,35 @@ UINT CSpinButtonCtrl_E::GetAccel(int nAccel, UDACCEL* pAccel) const
 
 void CSpinButtonCtrl_E::SetBuddy(QLineEdit* pBuddy)
 {
-    auto* const pBox = widgetOf<QAbstractSpinBox>(*this);
+    auto* const pBox = spinBoxOf(*this);
     // Taken away from another one's, it would leave that one with a dangling pointer.
-    if (!pBox || !pBuddy || qobject_cast<QAbstractSpinBox*>(pBuddy->parent()) ||
+    if (!pBox || !pBuddy || pBuddy->isAncestorOf(pBox) ||
+        qobject_cast<QAbstractSpinBox*>(pBuddy->parent()) ||
         qobject_cast<QComboBox*>(pBuddy->parent()))
         return;
-    (pBox->*(&OpenSpinBox::setLineEdit))(pBuddy);
-    pBuddy->show();
+    if (const QLineEdit* const pOld = lineEditOf(pBox); pOld && pOld != pBuddy)
+        QObject::disconnect(pOld, &QObject::destroyed, pBox, nullptr);
+    setLineEdit(pBox, pBuddy);
+    QObject::disconnect(pBuddy, &QObject::destroyed, pBox, nullptr);
+    QObject::connect(pBuddy, &QObject::destroyed, pBox, [pBox] {
+        // A spin box that is being destroyed takes its buddy along, and is no spin box any more.
+        if (qobject_cast<QAbstractSpinBox*>(static_cast<QObject*>(pBox)))
+            replaceLostBuddy(pBox);
+    });
 }
+
+CWnd_E* CSpinButtonCtrl_E::SetBuddy(CWnd_E* pWndBuddy)
+{
+    SetBuddy(pWndBuddy ? widgetOf<QLineEdit>(*pWndBuddy) : nullptr);
+    return nullptr;
+}
+
+void CSpinButtonCtrl_E::SetBuddy(std::nullptr_t) {}
 
 QLineEdit* CSpinButtonCtrl_E::GetBuddy() const
 {
-    auto* const pBox = widgetOf<QAbstractSpinBox>(*this);
-    return pBox ? (pBox->*(&OpenSpinBox::lineEdit))() : nullptr;
+    const auto* const pBox = spinBoxOf(*this);
+    return pBox ? lineEditOf(pBox) : nullptr;
 }
 
 int CSpinButtonCtrl_E::SetBase(int nBase)
@@ -237,22 +283,12 @@ void CSpinButtonCtrl_E::SetSel(int nStart, int nEnd, BOOL)
 
 void CSpinButtonCtrl_E::GetWindowText(CString_E& rString)
 {
-    QString strText;
-    if (const auto* const pWhole = widgetOf<QSpinBox>(*this))
-        strText = QString::number(pWhole->value());
-    else if (const auto* const pDecimal = widgetOf<QDoubleSpinBox>(*this))
-        strText = QString::number(pDecimal->value(), 'f', pDecimal->decimals());
-    rString = strText;
+    GetWindowText_E(spinBoxOf(*this), rString);
 }
 
 void CSpinButtonCtrl_E::SetWindowText(const wchar_t* lpszString)
 {
-    // Intended: a text that does not parse sets 0.
-    const VxQString strText(lpszString);
-    if (auto* const pWhole = widgetOf<QSpinBox>(*this))
-        pWhole->setValue(strText.toInt());
-    else if (auto* const pDecimal = widgetOf<QDoubleSpinBox>(*this))
-        pDecimal->setValue(strText.toDouble());
+    SetWindowText_E(spinBoxOf(*this), lpszString);
 }
 
 BOOL CSpinButtonCtrl_E::OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam,

@@ -1,6 +1,6 @@
 // Exchange of what buttons, lists, sliders and calendars hold.
-#include "dlg/vxcombotext_p.h"
 #include "dlg/vxddx_p.h"
+#include "wnd/vxcombotext_p.h"
 
 #include <VxMFCEmu/dlg/ddx.h>
 #include <VxMFCEmu/text/vxqstring.h>

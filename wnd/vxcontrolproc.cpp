@@ -1,12 +1,17 @@
 #include "wnd/vxcontrolproc_p.h"
 
+#include <VxMFCEmu/wnd/controlmessages.h>
 #include <VxMFCEmu/wnd/messageevent.h>
 #include <VxMFCEmu/wnd/sendmessage.h>
 #include <VxMFCEmu/wnd/window.h>
+#include <VxMFCEmu/wnd/windowtext.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialog>
 
+#include <algorithm>
+#include <climits>
 #include <limits>
 
 namespace vx::detail {
@@ -82,16 +87,39 @@ bool answerAsControl(QWidget* pWidget, VxWinMsgEvent& e)
     return bAnswered;
 }
 
+bool answerTextMessage(QWidget* pWidget, VxWinMsgEvent& e)
+{
+    switch (e.message) {
+    case WM_SETTEXT: {
+        const BOOL bSet = SetWindowText_E(pWidget, reinterpret_cast<LPCWSTR>(e.lParam));
+        e.result = bSet || !qobject_cast<QComboBox*>(pWidget) ? bSet : CB_ERR;
+        return true;
+    }
+    case WM_GETTEXT: {
+        const auto nMax = static_cast<int>(std::min<WPARAM>(e.wParam, INT_MAX));
+        e.result = GetWindowText_E(pWidget, reinterpret_cast<LPWSTR>(e.lParam), nMax);
+        return true;
+    }
+    case WM_GETTEXTLENGTH:
+        e.result = GetWindowTextLength_E(pWidget);
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool sendToUnbound(QWidget* pWidget, VxWinMsgEvent& e)
 {
-    if (!isControlMessage(e.message) || CObject_E::GetOwner(pWidget) || !controlFactory(pWidget))
+    const bool bControl = isControlMessage(e.message) && controlFactory(pWidget);
+    if (CObject_E::GetOwner(pWidget) || (!bControl && !isTextMessage(e.message)))
         return false;
     const QPointer<QWidget> alive(pWidget);
     e.result = kUnanswered;
     QCoreApplication::sendEvent(pWidget, &e);
     if (e.result == kUnanswered) {
         e.result = 0;
-        answerAsControl(alive, e);
+        if (!answerTextMessage(alive, e))
+            answerAsControl(alive, e);
     }
     return true;
 }

@@ -1,5 +1,3 @@
-#include "wnd/vxuncheck_p.h"
-
 #include <VxMFCEmu/wnd/controlmessages.h>
 #include <VxMFCEmu/wnd/resourceids.h>
 #include <VxMFCEmu/wnd/wincodes.h>
@@ -19,8 +17,9 @@
 
 #include <climits>
 
-namespace vx::detail {
+namespace {
 
+/// Unchecks a button, also the only checked one of an exclusive group, which Qt would not let go.
 void uncheck(QAbstractButton* pButton)
 {
     const QPointer<QAbstractButton> pAlive(pButton);
@@ -37,15 +36,11 @@ void uncheck(QAbstractButton* pButton)
         pGroup->setExclusive(true);
 }
 
-} // namespace vx::detail
-
-namespace {
-
 void setCheck(QAbstractButton* pButton, UINT uCheck)
 {
     auto* const pBox = qobject_cast<QCheckBox*>(pButton);
     if (uCheck == BST_UNCHECKED)
-        vx::detail::uncheck(pButton);
+        uncheck(pButton);
     else if (uCheck == BST_INDETERMINATE && pBox && pBox->isTristate())
         pBox->setCheckState(Qt::PartiallyChecked);
     else if (pBox)

@@ -4,6 +4,7 @@
 #include <VxMFCEmu/text/vxqstring.h>
 #include <VxMFCEmu/wnd/windowtree.h>
 
+#include "wnd/vxcombotext_p.h"
 #include "wnd/vxtextbuffer_p.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -13,10 +14,12 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTextEdit>
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 
 namespace {
 
@@ -41,23 +44,37 @@ constexpr TextRow textRow()
 
 bool setComboText(QWidget* pWidget, const QString& strText)
 {
-    auto* const pCombo = static_cast<QComboBox*>(pWidget);
-    if (pCombo->isEditable())
-        pCombo->setEditText(strText);
-    return pCombo->isEditable();
+    auto& combo = static_cast<QComboBox&>(*pWidget);
+    vx::detail::showComboText(combo, strText);
+    return combo.isEditable() || combo.currentText() == strText;
 }
 
 bool setSpinText(QWidget* pWidget, const QString& strText)
 {
-    // The spin box takes its value from its line edit, which it does not give away.
+    // Intended: a text that is no number sets 0.
+    if (auto* const pWhole = qobject_cast<QSpinBox*>(pWidget)) {
+        pWhole->setValue(strText.toInt());
+        return true;
+    }
+    if (auto* const pDecimal = qobject_cast<QDoubleSpinBox*>(pWidget)) {
+        const double value = strText.toDouble();
+        pDecimal->setValue(std::isfinite(value) ? value : 0);
+        return true;
+    }
+    // Others take their value from their line edit, which they do not give away.
     auto* const pEdit = pWidget->findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
     if (pEdit)
         pEdit->setText(strText);
     return pEdit != nullptr;
 }
 
+/// A number without what is shown around and in it.
 QString spinText(const QWidget* pWidget)
 {
+    if (const auto* const pWhole = qobject_cast<const QSpinBox*>(pWidget))
+        return QString::number(pWhole->value());
+    if (const auto* const pDecimal = qobject_cast<const QDoubleSpinBox*>(pWidget))
+        return QString::number(pDecimal->value(), 'f', pDecimal->decimals());
     return static_cast<const QAbstractSpinBox*>(pWidget)->text();
 }
 

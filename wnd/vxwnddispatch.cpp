@@ -114,6 +114,8 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
 
 bool CWnd_E::AnswerAsControl(VxWinMsgEvent& e)
 {
+    if (vx::detail::answerTextMessage(GetSafeHwnd(), e))
+        return true;
     return vx::detail::isControlMessage(e.message) &&
            (OnControlMessage(e.message, e.wParam, e.lParam, &e.result) ||
             vx::detail::answerAsControl(GetSafeHwnd(), e));

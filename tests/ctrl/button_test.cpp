@@ -25,13 +25,13 @@ TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
         {nullptr, BS_AUTOCHECKBOX, "QCheckBox", 3, "11110"},
         {nullptr, BS_3STATE, "QCheckBox", 5, "12220"},
         {nullptr, BS_AUTO3STATE, "QCheckBox", 6, "12220"},
-        {nullptr, BS_RADIOBUTTON, "QRadioButton", 4, "11110"},
-        {nullptr, BS_AUTORADIOBUTTON, "QRadioButton", 9, "11110"},
+        {nullptr, BS_RADIOBUTTON, "QRadioButton", 4, "11111"},
+        {nullptr, BS_AUTORADIOBUTTON, "QRadioButton", 9, "11111"},
         {nullptr, BS_GROUPBOX, "QGroupBox", 7, "00000"},
         {nullptr, BS_OWNERDRAW, "QPushButton", 0xB, "00000"},
         {new QCheckBox(pParent), 0, "QCheckBox", BS_AUTOCHECKBOX, "11110"},
         {pThree, 0, "QCheckBox", BS_AUTOCHECKBOX, "11110"},
-        {new QRadioButton(pParent), 0, "QRadioButton", BS_RADIOBUTTON, "11110"},
+        {new QRadioButton(pParent), 0, "QRadioButton", BS_RADIOBUTTON, "11111"},
         {new QGroupBox(pParent), 0, "QGroupBox", BS_GROUPBOX, "00000"},
         {new QToolButton(pParent), 0, "QToolButton", 0, "00000"},
     };
@@ -66,7 +66,7 @@ TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
     ClearTempObjectPool();
 }
 
-TEST(Button, UncheckInAGroupAndClick)
+TEST(Button, CheckInAGroupAndClick)
 {
     QWidget parent;
     CButton_E radios[2];
@@ -76,7 +76,8 @@ TEST(Button, UncheckInAGroupAndClick)
     }
     EXPECT_EQ(radios[0].GetCheck(), 0);
     radios[1].SetCheck(0);
-    EXPECT_EQ(radios[1].GetCheck(), 0);
+    EXPECT_EQ(radios[1].GetCheck(), 1) << "one of a group stays checked";
+    radios[0].SetCheck(1);
     const QSignalSpy clicks(radios[1].GetSafeHwnd(), SIGNAL(clicked()));
     radios[1].SetCheck(1);
     EXPECT_EQ(clicks.count(), 0);

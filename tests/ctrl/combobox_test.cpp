@@ -59,10 +59,12 @@ const Step<Box> kEditable[] = {
     {__LINE__, [](Box& b) -> Results { return {b.SetEditSel(1, -1), b.GetEditSel() == MAKELONG(1, 3), send(b, CB_SETEDITSEL, 0, reinterpret_cast<void*>(MAKELPARAM(0, 2))), b.GetEditSel() == MAKELONG(0, 2)}; }, "1 1 1 1", nullptr},
     {__LINE__, [](Box& b) -> Results { return {(b.Copy(), b.SetEditSel(2, 99)), (b.Cut(), b.Paste(), b.Paste(), b.SetEditSel(-1, 2)), b.GetEditBox()->hasSelectedText()}; }, "1 1 0", "ABC,1,abd,2.9 @2 ABDD"},
     {__LINE__, [](Box& b) -> Results { return {b.LimitText(7), b.GetEditBox()->maxLength(), send(b, CB_SETCUEBANNER, 0, L"which?"), b.GetCueBanner() == L"which?"}; }, "1 7 1 1", nullptr},
+    {__LINE__, [](Box& b) -> Results { return {send(b, CB_LIMITTEXT, 0), b.GetEditBox()->maxLength() > 9999, send(b, CB_GETCOUNT, 0), send(b, CB_GETLBTEXTLEN, 3), send(b, CB_GETLBTEXTLEN, 4)}; }, "1 1 4 3 -1", nullptr},
+    {__LINE__, [](Box& b) -> Results { return {send(b, CB_SETCURSEL, 3), send(b, CB_GETCURSEL, 0), send(b, CB_SETCURSEL, -1), send(b, CB_GETCURSEL, 0), b.SetCurSel(2)}; }, "3 3 -1 -1 2", nullptr},
     // The list that drops down
     {__LINE__, [](Box& b) -> Results { return {b.SetItemHeight(0, 31), b.GetItemHeight(-1), b.GetItemHeight(0) > 0, b.GetItemHeight(4)}; }, "0 31 1 -1", nullptr},
     {__LINE__, [](Box& b) -> Results { return {send(b, CB_SETDROPPEDWIDTH, 333), b.GetDroppedWidth(), b.SetMinVisibleItems(5), b.SetMinVisibleItems(0), b.GetMinVisible()}; }, "333 333 1 0 5", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {b.SetTopIndex(1), b.SetTopIndex(4), b.InitStorage(7, 0), send(b, CB_SHOWDROPDOWN, 1), b.GetDroppedState()}; }, "0 -1 7 1 0", nullptr},
+    {__LINE__, [](Box& b) -> Results { return {b.SetTopIndex(1), b.SetTopIndex(4), b.InitStorage(7, 0), send(b, CB_SHOWDROPDOWN, 1), (b.ShowDropDown(), b.GetDroppedState())}; }, "0 -1 7 1 0", nullptr},
     // The selection goes
     {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(99)}; }, "-1", "ABC,1,abd,2.9 @-1 "},
     {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), b.DeleteString(1)}; }, "1 3", "ABC,abd,2.9 @-1 "},
@@ -95,6 +97,17 @@ TEST(ComboBox, EveryMemberKeepsSilent)
         form.control.Clear();
         EXPECT_EQ(index.size(), 1); // the one member that is heard
     }
+}
+
+TEST(ComboBox, Full)
+{
+    Form form(false, 0);
+    form.widget->setMaxCount(1);
+    EXPECT_EQ(form.control.AddString(L"a"), 0);
+    EXPECT_EQ(form.control.AddString(L"b"), CB_ERRSPACE);
+    EXPECT_EQ(send(form.control, CB_INSERTSTRING, 0, L"b"), CB_ERRSPACE);
+    EXPECT_EQ(send(form.control, CB_INSERTSTRING, 2, L"b"), CB_ERR);
+    EXPECT_EQ(stateOf(*form.widget), "a @-1 "_q);
 }
 
 TEST(ComboBox, IsMadeByItsStyle)

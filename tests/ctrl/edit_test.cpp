@@ -188,6 +188,7 @@ TEST_P(EditTest, Lines)
         {[](Edit& e) { return e.Send(EM_GETLINE, 1, address(g_buffer)); }, 3, 3},
         {[](Edit& e) { return e.Send(EM_GETLINE); }, 0, 0},
         {[](Edit& e) { return e.Send(EM_FMTLINES, TRUE); }, 0, 1},
+        {[](Edit& e) -> LRESULT { return e.FmtLines(FALSE); }, 0, 0},
         {[](Edit& e) -> LRESULT { return e.SetTabStops(16); }, 0, 1},
         {[](Edit& e) { return e.Send(EM_SETTABSTOPS, 2, 0); }, 0, 0},
     };
@@ -204,6 +205,7 @@ TEST_P(EditTest, PlacesAndScrolling)
     const CPoint_E fifth = m_edit.PosFromChar(4);
     EXPECT_GT(fifth.x, first.x + 8);
     EXPECT_EQ(m_edit.CharFromPos(CPoint_E(fifth.x + 1, fifth.y + 5)), 4);
+    EXPECT_EQ(m_edit.Send(EM_CHARFROMPOS, 0, MAKELPARAM(fifth.x + 1, fifth.y + 5)), 4);
     EXPECT_EQ(m_edit.Send(EM_POSFROMCHAR, 4), MAKELPARAM(fifth.x, first.y));
     const Step steps[] = {
         {[](Edit& e) { return e.Send(EM_POSFROMCHAR, 1000); }, -1, -1},
@@ -227,13 +229,16 @@ TEST_P(EditTest, PlacesAndScrolling)
     rect = {3, 4, 103, 54};
     m_edit.Send(EM_SETRECT, 0, address(&rect));
     EXPECT_EQ(m_edit.GetSafeHwnd()->geometry(), QRect(3, 4, 100, 50));
+    rect.right = 93;
+    m_edit.SetRect(&rect);
+    EXPECT_EQ(m_edit.GetSafeHwnd()->width(), 90);
     EXPECT_EQ(m_edit.Send(EM_SETRECT) + m_edit.Send(EM_GETRECT), 0);
 }
 
 TEST_P(EditTest, Limit)
 {
     EXPECT_GE(m_edit.GetLimitText(), 30000U);
-    m_edit.SetLimitText(5);
+    m_edit.Send(EM_SETLIMITTEXT, 5);
     EXPECT_EQ(m_edit.Send(EM_GETLIMITTEXT), 5);
     QTest::keyClicks(m_edit.GetSafeHwnd(), "abcdefg"_q);
     m_edit.SetSel(1, 3);
@@ -264,6 +269,9 @@ TEST(Edit, CharacterStyles)
         EXPECT_EQ(pLine->text(), QString::fromLatin1(pszText));
         EXPECT_TRUE(pLine->alignment() & Qt::AlignRight);
         EXPECT_EQ(edit.GetPasswordChar() != 0, dwStyle == ES_PASSWORD);
+        EXPECT_EQ((edit.GetStyle() & ES_READONLY) != 0, dwStyle == ES_READONLY);
+        edit.SetPasswordChar(0);
+        EXPECT_FALSE(edit.GetPasswordChar() || edit.GetStyle() & ES_PASSWORD);
         edit.Send(EM_SETPASSWORDCHAR, L'#');
         EXPECT_EQ(edit.Send(EM_GETPASSWORDCHAR), L'#');
     });
@@ -279,6 +287,44 @@ TEST(Edit, BoundAgainKeepsTheFormsLook)
         EXPECT_EQ((edit.GetStyle() & ES_MULTILINE) != 0, pWidget == &text);
     }
     EXPECT_TRUE(text.verticalScrollBar()->isEnabled());
+}
+
+TEST(Edit, TakesItsStyleFromTheWidget)
+{
+    QLineEdit line;
+    line.setReadOnly(true);
+    line.setEchoMode(QLineEdit::Password);
+    QTextEdit text;
+    text.setReadOnly(true);
+    CEdit_E edit;
+    ASSERT_TRUE(edit.SubclassWindow(&line));
+    EXPECT_EQ(edit.GetStyle() & (ES_READONLY | ES_PASSWORD), ES_READONLY | ES_PASSWORD);
+    ASSERT_TRUE(edit.SubclassWindow(&text));
+    EXPECT_TRUE(edit.GetStyle() & ES_READONLY);
+    text.setReadOnly(false);
+    ASSERT_TRUE(edit.SubclassWindow(&text));
+    EXPECT_FALSE(edit.GetStyle() & ES_READONLY);
+}
+
+TEST(Edit, SlotsThatDeleteIt)
+{
+    QLineEdit line;
+    line.setText("long text"_q);
+    auto pEdit = std::make_unique<CEdit_E>();
+    ASSERT_TRUE(pEdit->SubclassWindow(&line));
+    const auto drop = QObject::connect(&line, &QLineEdit::textChanged, [&] { pEdit.reset(); });
+    line.insert("!"_q);
+    EXPECT_FALSE(pEdit);
+    for (const bool undo : {true, false}) {
+        pEdit = std::make_unique<CEdit_E>();
+        ASSERT_TRUE(pEdit->SubclassWindow(&line));
+        if (undo)
+            EXPECT_TRUE(pEdit->Undo());
+        else
+            pEdit->SetLimitText(3);
+        EXPECT_FALSE(pEdit);
+    }
+    EXPECT_EQ(line.text(), "lon"_q);
 }
 
 TEST(Edit, ScrollBarsOfTheWindow)

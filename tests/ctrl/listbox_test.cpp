@@ -63,11 +63,14 @@ const Step<List> kSingle[] = {
     {__LINE__, [](List& l) -> Results { return {l.SetItemData(0, 5UL << 32), send(l, LB_GETITEMDATA, 0), l.SetItemDataPtr(1, &l), l.GetItemDataPtr(1) == &l}; }, "0 21474836480 0 1", nullptr},
     // Place
     {__LINE__, [](List& l) -> Results { return {l.SetItemHeight(1, 44), l.GetItemHeight(1), l.SetItemHeight(9, 44), l.GetItemHeight(9), l.SetTopIndex(9), l.SetTopIndex(0)}; }, "0 44 -1 -1 -1 0", nullptr},
+    {__LINE__, [](List& l) -> Results { return {send(l, LB_SETTABSTOPS, 0), send(l, LB_SETHORIZONTALEXTENT, 500), send(l, LB_GETLISTBOXINFO, 0)}; }, "0 0 0", nullptr},
+    {__LINE__, [](List& l) -> Results { return {send(l, LB_GETCOUNT, 0), send(l, LB_SETCURSEL, 0), send(l, LB_GETCURSEL, 0), send(l, LB_GETSEL, 0), send(l, LB_GETSEL, 9), send(l, LB_GETSELCOUNT, 0), send(l, LB_GETTEXTLEN, 0)}; }, "2 0 0 1 -1 -1 3", nullptr},
     {__LINE__, [](List& l) -> Results { return {l.InitStorage(7, 0), l.SetTabStops(4), l.GetListBoxInfo(), l.SetCurSel(1)}; }, "7 0 0 1", "xyz,abd* @1"},
 };
 
 const Step<List> kSeveral[] = {
     {__LINE__, [](List& l) -> Results { return {l.SetSel(3), l.SetSel(1), l.GetSelCount(), selectedRows(l, 9), selectedRows(l, 1), l.GetSelItems(9, nullptr)}; }, "0 0 2 13 1 0", "a,b*,c,d* @-1"},
+    {__LINE__, [](List& l) -> Results { int rows[2] = {-1, -1}; return {send(l, LB_GETSELCOUNT, 0), send(l, LB_GETSELITEMS, 2, rows), rows[0], rows[1], send(l, LB_GETSELITEMS, 2)}; }, "2 2 1 3 0", nullptr},
     {__LINE__, [](List& l) -> Results { return {l.SetSel(1, FALSE), l.SetSel(4)}; }, "0 -1", "a,b,c,d* @-1"},
     {__LINE__, [](List& l) -> Results { return {l.SendMessage(LB_SELITEMRANGE, TRUE, MAKELPARAM(1, 2)), l.SendMessage(LB_SELITEMRANGEEX, 9, 2)}; }, "0 0", "a,b*,c,d @-1"},
     {__LINE__, [](List& l) -> Results { return {l.SendMessage(LB_SELITEMRANGEEX, 2, 9)}; }, "0", "a,b*,c*,d* @-1"},
@@ -101,6 +104,18 @@ TEST(ListBox, EveryMember)
         EXPECT_EQ(form.control.DeleteString(1), 3);
         EXPECT_TRUE(waitUntil([&] { return !cell; }));
     }
+}
+
+TEST(ListBox, SortedByItsForm)
+{
+    FormWith<List, QListWidget> form(false, 0);
+    form.widget->setSortingEnabled(true);
+    List& list = form.control;
+    const Results rows{list.AddString(L"m"), list.AddString(L"a"), list.InsertString(0, L"z"),
+                       send(list, LB_ADDSTRING, 0, L"b"), list.InsertString(9, L"no")};
+    EXPECT_EQ(rows.text, "0 0 2 1 -1"_q);
+    form.widget->setSelectionMode(QAbstractItemView::NoSelection);
+    EXPECT_EQ(Results(list.GetSelCount(), list.SetSel(0)).text, "0 -1"_q);
 }
 
 TEST(ListBox, IsMadeByItsStyle)

@@ -161,6 +161,35 @@ TEST(Messages, NumbersOfTheirOwnInPlainWindows)
     EXPECT_FALSE(PostMessage_E(nullptr, PBM_SETPOS, 1));
 }
 
+TEST(Messages, OfTexts)
+{
+    for (const bool bound : {false, true}) {
+        QComboBox fixed;
+        fixed.addItems({"a"_q, "other"_q});
+        const auto pSpin = std::make_unique<QSpinBox>();
+        pSpin->setSuffix("%"_q);
+        QDialog dialog;
+        QLineEdit line;
+        const Row<QWidget*, const wchar_t*, LRESULT, const wchar_t*> rows[] = {
+            {&fixed, L"other", TRUE, L"other"}, {&fixed, L"none", CB_ERR, L"other"},
+            {pSpin.get(), L"42", TRUE, L"42"},  {&dialog, L"Title", TRUE, L"Title"},
+            {&line, nullptr, TRUE, L""},        {&line, L"text", TRUE, L"text"},
+        };
+        forRows(rows, [&](QWidget* pWidget, const wchar_t* set, LRESULT done, const wchar_t* got) {
+            CWnd_E window;
+            if (bound)
+                window.SubclassWindow(pWidget);
+            wchar_t buffer[8] = L"";
+            EXPECT_EQ(SendMessage_E(pWidget, WM_SETTEXT, 0, at(set)), done);
+            EXPECT_EQ(SendMessage_E(pWidget, WM_GETTEXT, 8, at(buffer)),
+                      static_cast<LRESULT>(std::wcslen(got)));
+            EXPECT_STREQ(buffer, got);
+            EXPECT_EQ(SendMessage_E(pWidget, WM_GETTEXTLENGTH), CString_E(got).GetLength());
+            EXPECT_EQ(SendMessage_E(pWidget, WM_GETTEXT, 8, 0), 0);
+        });
+    }
+}
+
 /// A widget that knows a message itself.
 class KnowingBar : public QProgressBar
 {

@@ -47,14 +47,20 @@ TEST(Progress, Members)
         EXPECT_EQ(bar.StepIt(), 42);
         EXPECT_TRUE(bar.SetMarquee(TRUE) && bar.SetMarquee(TRUE));
         EXPECT_EQ(pBar->maximum(), pBar->minimum());
+        bar.SetRange(-20, 80);
+        EXPECT_EQ(pBar->maximum(), pBar->minimum()) << "it goes on";
+        bar.GetRange(&low, &high);
+        EXPECT_EQ(std::tie(low, high), std::make_tuple(-20, 80));
         EXPECT_TRUE(bar.SetMarquee(FALSE));
-        EXPECT_EQ(pBar->maximum(), 90);
+        EXPECT_EQ(pBar->maximum(), 80);
         EXPECT_EQ(bar.SetBarColor(RGB(200, 10, 20)), CLR_DEFAULT);
         EXPECT_EQ(pBar->palette().color(QPalette::Highlight), QColor(200, 10, 20));
         EXPECT_EQ(bar.SendMessage(PBM_SETBARCOLOR, 0, CLR_DEFAULT), RGB(200, 10, 20));
         EXPECT_EQ(pBar->palette().color(QPalette::Highlight),
                   QApplication::palette(pBar).color(QPalette::Highlight));
         EXPECT_EQ(bar.SetBkColor(0), CLR_DEFAULT);
+        EXPECT_EQ(bar.SendMessage(PBM_GETBKCOLOR), 0);
+        EXPECT_EQ(bar.SendMessage(PBM_GETBARCOLOR), CLR_DEFAULT);
         EXPECT_EQ(bar.SetBkColor(CLR_DEFAULT), 0U);
     });
 }

@@ -44,7 +44,8 @@ TEST(SpinButton, DecimalNumbers)
             pBox->setValue(2.9);
             EXPECT_EQ(spin.GetPos(), 2);
             EXPECT_EQ(spin.SetPos(-2), -1);
-            EXPECT_EQ(spin.SetPos(3), 2);
+            EXPECT_EQ(spin.SetPos32(10), -1);
+            EXPECT_EQ(spin.SetPos32(3), 2);
             EXPECT_EQ(pBox->value(), 3.0);
             const UDACCEL accel{0, 4};
             EXPECT_TRUE(spin.SetAccel(1, &accel));
@@ -76,6 +77,9 @@ TEST(SpinButton, TextSelectionAndBuddy)
             CString_E text;
             spin.GetWindowText(text);
             EXPECT_EQ(text.Compare(L"1234"), 0) << "the value alone";
+            wchar_t buffer[8] = L"";
+            EXPECT_EQ(spin.GetWindowText(buffer, 8), spin.GetWindowTextLength());
+            EXPECT_STREQ(buffer, L"1234");
             spin.SetWindowText(L"1e3");
             EXPECT_EQ(pBox->value(), 0);
             spin.SetWindowText(nullptr);
@@ -115,6 +119,58 @@ TEST(SpinButton, TextSelectionAndBuddy)
             spin.SetBuddy(other.findChild<QLineEdit*>());
             EXPECT_EQ(spin.GetBuddy(), pBuddy);
         });
+}
+
+TEST(SpinButton, BuddiesThatGoAndThatCannotBe)
+{
+    QLineEdit around;
+    auto* const pBox = new VxCUISpinBox(&around);
+    CSpinButtonCtrl_E spin;
+    ASSERT_TRUE(spin.SubclassWindow(pBox));
+    const QPointer<QLineEdit> pOwn = pBox->lineEdit();
+    spin.SetBuddy(&around);
+    EXPECT_EQ(spin.GetBuddy(), pOwn);
+    for (const bool inside : {true, false}) {
+        auto pEdit = std::make_unique<CEdit_E>();
+        ASSERT_TRUE(pEdit->Create(0, kPlace, &around));
+        QPointer<QLineEdit> pBuddy = qobject_cast<QLineEdit*>(pEdit->GetSafeHwnd());
+        spin.SetBuddy(pEdit.get());
+        spin.SetBuddy(pBuddy);
+        EXPECT_EQ(spin.GetBuddy(), pBuddy);
+        if (!inside)
+            pBuddy->setParent(nullptr);
+        delete pBuddy;
+        ASSERT_TRUE(spin.GetBuddy());
+        EXPECT_EQ(spin.GetBuddy()->parentWidget(), pBox);
+        EXPECT_EQ(spin.GetBuddy()->text(), QString::number(spin.GetPos()));
+        pBox->resize(50, 20);
+        spin.SetPos(inside ? 7 : 9);
+        EXPECT_EQ(spin.GetBuddy()->text(), inside ? "7"_q : "9"_q);
+        deliverPosted();
+        EXPECT_EQ(pBox->findChildren<QLineEdit*>().size(), 1);
+    }
+    spin.SetBuddy(new QLineEdit);
+    pBox->setLineEdit(new QLineEdit);
+    deliverPosted();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(pBox->findChildren<QLineEdit*>().size(), 1);
+    spin.SetBuddy(new QLineEdit);
+    delete pBox; // with its buddy
+    EXPECT_FALSE(spin.GetBuddy());
+}
+
+TEST(SpinButton, DatesAreNoNumbers)
+{
+    QDateEdit date;
+    CSpinButtonCtrl_E spin;
+    spin.SetImpQObject(&date);
+    const QLineEdit* const pOwn = date.findChild<QLineEdit*>();
+    UDACCEL accel{0, 5};
+    QLineEdit edit;
+    spin.SetBuddy(&edit);
+    EXPECT_EQ(date.findChild<QLineEdit*>(), pOwn);
+    EXPECT_FALSE(spin.SetAccel(1, &accel) || spin.GetBuddy() || date.isAccelerated());
+    spin.SetImpQObject(nullptr);
 }
 
 TEST(SpinButton, WithoutAUsableWidget)

@@ -35,7 +35,7 @@ TEST(Static, TextAndImages)
     const auto bitmap = reinterpret_cast<LPARAM>(&image);
     const auto handle = reinterpret_cast<WPARAM>(&icon);
     CStatic_E made;
-    ASSERT_TRUE(made.Create(nullptr, SS_LEFT, {}, static_cast<QWidget*>(nullptr)));
+    ASSERT_TRUE(made.Create(nullptr, SS_LEFT, {}, nullptr));
     QLabel label;
     VxCUILabel companion;
     for (QWidget* const pWidget : std::initializer_list<QWidget*>{made, &label, &companion}) {

@@ -39,16 +39,50 @@ TEST(WindowText, WhatTheTextIs)
     });
 }
 
-TEST(WindowText, FixedComboAndSpinBox)
+TEST(WindowText, ComboBoxesSelectTheExactItem)
 {
-    QComboBox combo;
-    combo.addItems({"one"_q, "two"_q});
-    EXPECT_FALSE(SetWindowText_E(&combo, L"two"));
-    EXPECT_EQ(GetWindowTextLength_E(&combo), 3);
-    EXPECT_EQ(combo.currentIndex(), 0);
-    QSpinBox spin;
-    EXPECT_TRUE(SetWindowText_E(&spin, L"42"));
-    EXPECT_EQ(spin.value(), 42);
+    for (const bool editable : {false, true}) {
+        QComboBox combo;
+        combo.setEditable(editable);
+        combo.addItems({"one"_q, "Two"_q, "two"_q});
+        int nChanges = 0;
+        QObject::connect(&combo, qOverload<int>(&QComboBox::currentIndexChanged),
+                         [&nChanges] { ++nChanges; });
+        EXPECT_TRUE(SetWindowText_E(&combo, L"two"));
+        EXPECT_EQ(combo.currentIndex(), 2);
+        EXPECT_EQ(SetWindowText_E(&combo, L"TWO"), editable);
+        EXPECT_EQ(combo.currentIndex(), 2);
+        EXPECT_EQ(combo.currentText(), editable ? "TWO"_q : "two"_q);
+        EXPECT_EQ(GetWindowTextLength_E(&combo), 3);
+        EXPECT_EQ(nChanges, 0);
+    }
+}
+
+TEST(WindowText, SpinBoxesHavePlainNumbers)
+{
+    QSpinBox whole;
+    whole.setRange(-9, 99999);
+    whole.setSuffix(" mm"_q);
+    whole.setGroupSeparatorShown(true);
+    QDoubleSpinBox decimal;
+    decimal.setRange(-1e9, 1e9);
+    decimal.setPrefix("x = "_q);
+    decimal.setLocale(QLocale::German);
+    QDateEdit date(QDate(2024, 5, 6));
+    date.setDisplayFormat("yyyy-MM-dd"_q);
+    const Row<QWidget*, const wchar_t*, const wchar_t*> rows[] = {
+        {&whole, L"12345", L"12345"},          {&whole, L"1e3", L"0"},
+        {&whole, L"100000", L"99999"},         {&decimal, L"1234.5", L"1234.50"},
+        {&decimal, L"nan", L"0.00"},           {&decimal, L"7", L"7.00"},
+        {&decimal, L"-inf", L"0.00"},          {&decimal, nullptr, L"0.00"},
+        {&date, L"2025-01-02", L"2025-01-02"},
+    };
+    forRows(rows, [](QWidget* pWidget, const wchar_t* set, const wchar_t* got) {
+        EXPECT_TRUE(SetWindowText_E(pWidget, set));
+        wchar_t buffer[16] = L"";
+        EXPECT_EQ(GetWindowText_E(pWidget, buffer, 16), GetWindowTextLength_E(pWidget));
+        EXPECT_STREQ(buffer, got);
+    });
 }
 
 TEST(WindowText, Buffers)

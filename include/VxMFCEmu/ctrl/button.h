@@ -38,7 +38,7 @@ class VXMFC_EXPORT CButton_E : public CWnd_E
     /// BST_UNCHECKED, BST_CHECKED or, of a button with three states, BST_INDETERMINATE.
     int GetCheck() const;
     /// Sets one of the three states; other values are ignored. A button with two states is checked
-    /// by any value but 0, and 0 also unchecks the checked button of a group.
+    /// by any value but 0; 0 leaves the checked radio button of a group as it is.
     void SetCheck(int nCheck);
     /// BST_FOCUS when the button has the focus, else 0.
     UINT GetState() const;

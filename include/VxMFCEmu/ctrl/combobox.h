@@ -58,8 +58,8 @@ class VXMFC_EXPORT CComboBox_E : public CWnd_E
     int SetCurSel(int nSelect);
     /// Appends an item, which leaves the selection alone, and returns its index.
     int AddString(const wchar_t* lpszString);
-    /// Inserts an item, at the end for -1, and returns its index; CB_ERR beyond the end. The same
-    /// item stays selected.
+    /// Inserts an item, at the end for -1, and returns its index; CB_ERR beyond the end,
+    /// CB_ERRSPACE in a box that is full. The same item stays selected.
     int InsertString(int nIndex, const wchar_t* lpszString);
     /// Returns the number of items left; CB_ERR without that item. No item is selected once the
     /// selected one is gone.

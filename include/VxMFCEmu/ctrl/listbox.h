@@ -37,7 +37,7 @@ class VXMFC_EXPORT CListBox_E : public CWnd_E
     // Items
 
     int GetCount() const;
-    /// Appends an item and returns its index.
+    /// Appends an item and returns its index, which is another one in a list that its form sorts.
     int AddString(const wchar_t* lpszItem);
     /// Inserts an item, at the end for -1, and returns its index; LB_ERR beyond the end.
     int InsertString(int nIndex, const wchar_t* lpszItem);
@@ -81,7 +81,7 @@ class VXMFC_EXPORT CListBox_E : public CWnd_E
     int SetSel(int nIndex, BOOL bSelect = TRUE);
     /// The same for the items of a range, whose ends may lie outside of the list.
     int SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem);
-    /// Number of selected items; LB_ERR when only one can be selected.
+    /// Number of selected items; LB_ERR in a list for a single selection.
     int GetSelCount() const;
     /// Writes the indexes of the first @p nMaxItems selected items, from the top, and returns how
     /// many these are.

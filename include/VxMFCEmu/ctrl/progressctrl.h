@@ -23,6 +23,7 @@ class VXMFC_EXPORT CProgressCtrl_E : public CWnd_E
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
 
     void SetRange(short nLower, short nUpper);
+    /// While SetMarquee() is on, the range counts from its end on.
     void SetRange32(int nLower, int nUpper);
     /// Either pointer may be null.
     void GetRange(int* pLower, int* pUpper) const;
@@ -43,6 +44,8 @@ class VXMFC_EXPORT CProgressCtrl_E : public CWnd_E
     /// and return the previous one; CLR_DEFAULT stands for the style's own.
     COLORREF SetBarColor(COLORREF color);
     COLORREF SetBkColor(COLORREF color);
+    COLORREF GetBarColor() const;
+    COLORREF GetBkColor() const;
 
     BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 

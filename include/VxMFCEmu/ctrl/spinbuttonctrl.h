@@ -11,6 +11,8 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
+#include <cstddef>
+
 QT_BEGIN_NAMESPACE
 class QLineEdit;
 QT_END_NAMESPACE
@@ -50,8 +52,12 @@ class VXMFC_EXPORT CSpinButtonCtrl_E : public CWnd_E
     /// The number of accelerations, of which it stores the first if there is room.
     UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
     /// Puts @p pBuddy, which the spin box owns from then on, in the place of its line edit, which
-    /// is deleted. Nothing for null and for the edit of another spin box or a combo box.
+    /// is deleted. Nothing for null, for the edit of another spin box or a combo box and for one
+    /// around the spin box. When the buddy is destroyed, the spin box gets a new line edit.
     void SetBuddy(QLineEdit* pBuddy);
+    /// The same with the line edit of a window; null, since the previous buddy is gone.
+    CWnd_E* SetBuddy(CWnd_E* pWndBuddy);
+    void SetBuddy(std::nullptr_t);
     QLineEdit* GetBuddy() const;
     /// Shows whole numbers to this base and returns the previous one; -1 for a decimal spin box, 0
     /// for a base below 2 or above 36.

@@ -27,8 +27,13 @@ class VXMFC_EXPORT CStatic_E : public CWnd_E
     using CWnd_E::Create;
     /// Makes the label below @p pParent, at @p rect in its coordinates, with a text; null is empty.
     BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
-    BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent,
-                UINT nID = 0xFFFF);
+    BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// The same for a label without an id of its own. A null parent is taken for a widget.
+    template <typename Window, std::enable_if_t<std::is_base_of_v<CWnd_E, Window>, int> = 0>
+    BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, Window* pParent)
+    {
+        return Create(lpszText, dwStyle, rect, pParent, 0xFFFFU);
+    }
 
     /// Shows @p bitmap instead of the text and returns the previous one.
     QPixmap SetBitmap(const QPixmap& bitmap);

@@ -1,7 +1,8 @@
 /// @file windowtext.h
 /// The text of windows, and the text and state of dialog controls found by id.
 ///
-/// What the text is depends on the widget: of buttons, labels, edits and spin boxes what they show,
+/// What the text is depends on the widget: of buttons, labels and edits what they show, of
+/// number spin boxes the plain value,
 /// of group boxes the title, of combo boxes the current text, of all others the window title.
 ///
 /// A null window, and a control that is not there, give FALSE or 0. Lengths count code points,
@@ -14,7 +15,9 @@
 
 class CString_E;
 
-/// Sets the text; null as empty. FALSE for a combo box that cannot be edited.
+/// Sets the text; null as empty. A spin box of numbers takes 0 for what is none. A combo box
+/// selects the item with exactly this text, without a signal; FALSE when it has none and cannot be
+/// edited.
 VXMFC_EXPORT BOOL SetWindowText_E(HWND hWnd, LPCWSTR pszText);
 /// Stores the text, empty for a null window, and returns its length.
 VXMFC_EXPORT int GetWindowText_E(HWND hWnd, CString_E& strText);
