@@ -72,7 +72,7 @@ COLORREF setColor(const CProgressCtrl_E& control, QPalette::ColorRole role, cons
 
 // clang-format off
 constexpr Row kMessages[] = {
-    {PBM_SETRANGE,   [](auto& bar, WPARAM, LPARAM l) { return setRange(bar, LOWORD(l), HIWORD(l)); }},
+    {PBM_SETRANGE,   [](auto& bar, WPARAM, LPARAM l) { return setRange(bar, intIn(l & 0xFFFF), intIn((l >> 16) & 0xFFFF)); }},
     {PBM_SETRANGE32, [](auto& bar, WPARAM w, LPARAM l) { return setRange(bar, intIn(w), intIn(l)); }},
     {PBM_GETRANGE,   getRange},
     {PBM_SETPOS,     [](auto& bar, WPARAM w, LPARAM) -> LRESULT { return bar.SetPos(intIn(w)); }},

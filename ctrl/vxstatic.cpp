@@ -57,7 +57,7 @@ void applyStyle(QLabel& label, DWORD dwStyle)
         label.setAlignment(Qt::AlignCenter);
     }
     if (dwStyle & SS_SUNKEN)
-        label.setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        label.setFrameStyle(static_cast<int>(QFrame::Panel) | QFrame::Sunken);
     else if (isEtched(type))
         label.setFrameShadow(QFrame::Sunken);
     label.setScaledContents((dwStyle & SS_REALSIZECONTROL) != 0);

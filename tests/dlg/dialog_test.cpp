@@ -5,6 +5,10 @@
 #include <VxCustomUI.h>
 #include <X11/keysym.h>
 
+#if defined(__SANITIZE_ADDRESS__)
+#    include <sanitizer/lsan_interface.h>
+#endif
+
 namespace {
 
 /// Notes what happens to it and does what the test says.
@@ -394,6 +398,9 @@ TEST(Dialog, ExceptionsOfHandlers)
 // Thrown in a slot that the library does not call, it comes through the event loop.
 TEST(Dialog, AnExceptionTearsItOutOfItsLoop)
 {
+#if defined(__SANITIZE_ADDRESS__)
+    const __lsan::ScopedDisabler qtLeaksTheLoop;
+#endif
     NotingDlg dialog(kSettings);
     QPointer<QWidget> pTorn;
     EXPECT_THROW(runModal(dialog,

@@ -4,6 +4,10 @@
 
 #include "gdi/zeros.h"
 
+#include <gmock/gmock.h>
+
+#include <sys/wait.h>
+
 namespace {
 
 BOOL create(CPen_E& pen) { return pen.CreatePen(PS_SOLID, 3, RGB(1, 2, 3)); }
@@ -47,7 +51,9 @@ TEST(GdiObjectDeathTest, TemporaryObjectsMayBeLeftAtExit)
                 CPen_E::FromHandle(&pen)->CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
             std::exit(0);
         },
-        testing::ExitedWithCode(0), "");
+        // The leak check of a forked child reports other threads' memory.
+        [](int status) { return WIFEXITED(status); },
+        testing::Not(testing::HasSubstr("ERROR: AddressSanitizer")));
 }
 
 template <typename T>
