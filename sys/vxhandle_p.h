@@ -65,7 +65,7 @@ struct VxHandle
 {
     /// The index of the object, at the place where other kinds of handles, a file's for one, have
     /// another value: it is looked at before anything else is. 0 without an object, and in the end.
-    std::uint32_t kind = 0;
+    std::atomic<std::uint32_t> kind{0};
     /// Its owner, until it is closed, and the threads that sleep on it: the last one frees it.
     std::atomic<int> nHolders{1};
     vx::detail::Object object;
@@ -86,7 +86,7 @@ Kind* objectOf(HANDLE hObject)
 {
     static_assert(std::is_same_v<std::variant_alternative_t<kindOf<Kind>, Object>, Kind>);
     VxHandle* const pHandle = recordOf(hObject);
-    if (!pHandle || pHandle->kind != kindOf<Kind>)
+    if (!pHandle || pHandle->kind.load(std::memory_order_relaxed) != kindOf<Kind>)
         return nullptr;
     if (pHandle->object.index() != kindOf<Kind>)
         __builtin_unreachable(); // the kind is the index: no need to test both

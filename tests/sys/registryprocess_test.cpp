@@ -8,6 +8,10 @@
 
 namespace {
 
+// Killed between making its lock and writing its name into it, a writer holds up the next one for
+// the 30 seconds after which Qt takes a nameless lock for stale.
+constexpr int kStaleLockMs = 60000;
+
 class RegistryProcess : public testing::Test
 {
 protected:
@@ -27,7 +31,7 @@ protected:
     {
         QProcess process;
         Start(process, commands, isLinked);
-        const bool isDone = process.waitForFinished() && process.exitCode() == 0 &&
+        const bool isDone = process.waitForFinished(kStaleLockMs) && process.exitCode() == 0 &&
                             process.exitStatus() == QProcess::NormalExit;
         return isDone ? process.readAllStandardOutput().toStdString() : "failed";
     }
@@ -71,7 +75,7 @@ TEST_F(RegistryProcess, AKilledWriterLeavesAReadableFile)
         QProcess writer;
         Start(writer, "churn - -");
         for (int round = 0; round <= kill; ++round)
-            ASSERT_TRUE(writer.canReadLine() || writer.waitForReadyRead());
+            ASSERT_TRUE(writer.canReadLine() || writer.waitForReadyRead(kStaleLockMs));
         writer.kill();
         ASSERT_TRUE(writer.waitForFinished());
         EXPECT_EQ(Stored("kept"), QStringLiteral("old"));
