@@ -29,6 +29,11 @@ void fillRegion(QPainter& painter, const QRegion& region, const QBrush& brush)
 {
     if (!painter.isActive() || brush.style() == Qt::NoBrush)
         return;
+    // One rectangle is the same either way.
+    if (region.rectCount() == 1) {
+        painter.fillRect(region.boundingRect(), brush);
+        return;
+    }
     if (canFillByRectangles(painter, brush)) {
         for (const QRect& rect : region)
             painter.fillRect(rect, brush);
