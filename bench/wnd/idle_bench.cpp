@@ -125,4 +125,31 @@ void TemporaryWrapper_raw(benchmark::State& state)
 }
 BENCHMARK(TemporaryWrapper_raw)->Unit(benchmark::kMicrosecond);
 
+// What a wrapper owes its widget, by hand: it sees the events, hears of the end and can be found.
+void TemporaryBinding(benchmark::State& state) { TemporaryWrapper(state); }
+BENCHMARK(TemporaryBinding)->Unit(benchmark::kMicrosecond);
+
+void TemporaryBinding_raw(benchmark::State& state)
+{
+    QWidget top;
+    std::vector<QWidget*> widgets;
+    for (int i = 0; i < kWrappers; ++i)
+        widgets.push_back(new QWidget(&top));
+    std::vector<QObject*> objects(kWrappers);
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < kWrappers; ++i) {
+            auto* const object = objects[i] = new QObject;
+            widgets[i]->installEventFilter(object);
+            QObject::connect(widgets[i], &QObject::destroyed, object, &QObject::deleteLater);
+            widgets[i]->setProperty("owner", QVariant::fromValue(object));
+        }
+        for (std::size_t i = 0; i < kWrappers; ++i) {
+            widgets[i]->setProperty("owner", QVariant());
+            delete objects[i];
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * kWrappers);
+}
+BENCHMARK(TemporaryBinding_raw)->Unit(benchmark::kMicrosecond);
+
 } // namespace
