@@ -1,5 +1,6 @@
 vxmfc_sources(FOLDER coll
   HEADERS
+    coll/archive.h
     coll/array.h
     coll/arrays.h
     coll/elements.h
@@ -10,9 +11,14 @@ vxmfc_sources(FOLDER coll
     coll/map.h
     coll/maps.h
     coll/nodepool.h
+    coll/serial.h
     coll/typedptr.h
     coll/unserialized.h
   SOURCES
+    vxarchive.cpp
+    vxarchiveobjects.cpp
+    vxarchivetext.cpp
+    vxstackroom.cpp
     vxafxcollbase.cpp
     vxafxcoll.cpp
     vxfile.cpp

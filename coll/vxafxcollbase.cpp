@@ -26,6 +26,20 @@ UINT hashOf(const Char* psz) noexcept
 UINT hashText(const wchar_t* psz) noexcept { return hashOf(psz); }
 UINT hashText(const char* psz) noexcept { return hashOf(psz); }
 
+void serializeBytes(CArchive_E& ar, void* pElements, std::size_t nBytes)
+{
+    constexpr std::size_t nMost = 1U << 30;
+    for (auto* pBytes = static_cast<BYTE*>(pElements); nBytes != 0;) {
+        const auto nNow = static_cast<UINT>(std::min(nBytes, nMost));
+        if (ar.IsStoring())
+            ar.Write(pBytes, nNow);
+        else
+            ar.EnsureRead(pBytes, nNow);
+        pBytes += nNow;
+        nBytes -= nNow;
+    }
+}
+
 void* resizeBlock(void* p, INT_PTR nCount, std::size_t cbElement)
 {
     std::size_t size = 0;

@@ -93,6 +93,10 @@ public:
     /// Drops @p nCount elements, all of which must be there.
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1);
 
+    /// Writes or reads the number of elements and these, through SerializeElements(). More elements
+    /// than take 64 KiB are read in several calls of it: memory is taken only as the bytes come in.
+    /// After a failure the elements that were read are there.
+    void Serialize(CArchive_E& ar) override;
     /// Writes the number of elements, and the elements at a depth above 0.
     void Dump(CDumpContext_E& dc) const override;
 
@@ -104,6 +108,7 @@ private:
         return nIndex;
     }
     INT_PTR AddGrowing(ARG_TYPE newElement);
+    void Load(CArchive_E& ar, DWORD_PTR nCount);
     void OpenGap(INT_PTR nIndex, INT_PTR nCount);
     void MakeRoomFor(INT_PTR nNeeded);
     void Reallocate(INT_PTR nMaxSize);
@@ -222,6 +227,30 @@ void CArray_E<TYPE, ARG_TYPE>::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
         std::move(pFirst + nCount, pEnd, pFirst);
     DestructElements<TYPE>(pEnd - nCount, nCount);
     m_nSize -= nCount;
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray_E<TYPE, ARG_TYPE>::Serialize(CArchive_E& ar)
+{
+    if (ar.IsStoring()) {
+        ar.WriteCount(static_cast<DWORD_PTR>(m_nSize));
+        SerializeElements<TYPE>(ar, m_pData, m_nSize);
+    } else {
+        Load(ar, ar.ReadCount());
+    }
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray_E<TYPE, ARG_TYPE>::Load(CArchive_E& ar, DWORD_PTR nCount)
+{
+    constexpr DWORD_PTR nPiece = std::max<DWORD_PTR>(0x10000 / sizeof(TYPE), 1);
+    DWORD_PTR nDone = 0;
+    do {
+        const DWORD_PTR nNow = std::min(nCount - nDone, std::max(nPiece, nDone));
+        SetSize(static_cast<INT_PTR>(nDone + nNow));
+        SerializeElements<TYPE>(ar, m_pData + nDone, static_cast<INT_PTR>(nNow));
+        nDone += nNow;
+    } while (nDone < nCount);
 }
 
 template <class TYPE, class ARG_TYPE>

@@ -8,24 +8,25 @@
 #pragma once
 
 #include <VxMFCEmu/coll/array.h>
+#include <VxMFCEmu/coll/serial.h>
 #include <VxMFCEmu/coll/unserialized.h>
 
 class VXMFC_EXPORT CByteArray_E : public CArray_E<BYTE, BYTE>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CByteArray_E)
+    DECLARE_SERIAL_E(CByteArray_E)
 };
 
 class VXMFC_EXPORT CWordArray_E : public CArray_E<WORD, WORD>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CWordArray_E)
+    DECLARE_SERIAL_E(CWordArray_E)
 };
 
 class VXMFC_EXPORT CDWordArray_E : public CArray_E<DWORD, DWORD>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CDWordArray_E)
+    DECLARE_SERIAL_E(CDWordArray_E)
 };
 
 class VXMFC_EXPORT CUIntArray_E : public vx::detail::Unserialized<CArray_E<UINT, UINT>>
@@ -43,11 +44,11 @@ class VXMFC_EXPORT CPtrArray_E : public vx::detail::Unserialized<CArray_E<void*,
 class VXMFC_EXPORT CObArray_E : public CArray_E<CObject_E*, CObject_E*>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CObArray_E)
+    DECLARE_SERIAL_E(CObArray_E)
 };
 
 class VXMFC_EXPORT CStringArray_E : public CArray_E<CString_E, const CString_E&>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CStringArray_E)
+    DECLARE_SERIAL_E(CStringArray_E)
 };

@@ -6,12 +6,16 @@
 /// (const CKey& key)` is what a `CMap_E<CKey, const CKey&, ...>` hashes with. A specialisation must
 /// be declared before the collection is used.
 ///
-/// Differs from MFC: floating-point numbers and CString_E are hashed without a specialisation.
+/// Differs from MFC: floating-point numbers and CString_E are hashed without a specialisation, and
+/// pointers to CObject_E are archived as objects. Other elements that are no plain bytes are not
+/// archived without one: that throws the not-supported exception.
 ///
 /// Threads: as the elements themselves.
 #pragma once
 
+#include <VxMFCEmu/coll/archive.h>
 #include <VxMFCEmu/core/dumpcontext.h>
+#include <VxMFCEmu/core/exceptions.h>
 #include <VxMFCEmu/core/object.h>
 
 #include <functional>
@@ -27,6 +31,9 @@ constexpr UINT foldHash(std::uint64_t value) noexcept
 {
     return static_cast<UINT>(value) ^ static_cast<UINT>(value >> 32);
 }
+
+/// Writes or reads the bytes of elements, as the archive's direction is.
+VXMFC_EXPORT void serializeBytes(CArchive_E& ar, void* pElements, std::size_t nBytes);
 
 /// Makes an element at @p pPlace from an argument; one that only takes assignments is made first
 /// and then assigned to.
@@ -108,6 +115,24 @@ UINT HashKey(ARG_KEY key)
         return vx::detail::foldHash(std::hash<Key>()(key));
     else
         return vx::detail::foldHash(static_cast<DWORD_PTR>(key));
+}
+
+/// Writes or reads elements: strings and objects as the archive has them, others bit by bit.
+template <class TYPE>
+void SerializeElements(CArchive_E& ar, TYPE* pElements, INT_PTR nCount)
+{
+    if constexpr (std::is_same_v<TYPE, CString_E> || std::is_same_v<TYPE, CObject_E*>) {
+        for (TYPE* const pEnd = pElements + nCount; pElements != pEnd; ++pElements) {
+            if (ar.IsStoring())
+                ar << *pElements;
+            else
+                ar >> *pElements;
+        }
+    } else if constexpr (std::is_trivially_copyable_v<TYPE>) {
+        vx::detail::serializeBytes(ar, pElements, static_cast<std::size_t>(nCount) * sizeof(TYPE));
+    } else {
+        AfxThrowNotSupportedException_E();
+    }
 }
 
 /// Writes elements to a dump of more than depth 0; the general one writes nothing.

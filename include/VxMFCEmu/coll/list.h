@@ -131,6 +131,9 @@ public:
     /// The position of the element at an index from 0; null when there is none.
     POSITION FindIndex(INT_PTR nIndex) const { return ToPosition(m_chain.At(nIndex)); }
 
+    /// Writes or reads the number of elements and each one, through SerializeElements(). What is
+    /// read is added at the end.
+    void Serialize(CArchive_E& ar) override;
     /// Writes the number of elements, and the elements at a depth above 0.
     void Dump(CDumpContext_E& dc) const override;
 
@@ -187,6 +190,22 @@ POSITION CList_E<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter
     while (pLink && !CompareElements(&static_cast<Node*>(pLink)->data, &searchValue))
         pLink = pLink->pNext;
     return ToPosition(pLink);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CList_E<TYPE, ARG_TYPE>::Serialize(CArchive_E& ar)
+{
+    if (ar.IsStoring()) {
+        ar.WriteCount(static_cast<DWORD_PTR>(GetCount()));
+        for (POSITION position = GetHeadPosition(); position;)
+            SerializeElements<TYPE>(ar, &GetNext(position), 1);
+        return;
+    }
+    for (DWORD_PTR nLeft = ar.ReadCount(); nLeft > 0; --nLeft) {
+        TYPE element{};
+        SerializeElements<TYPE>(ar, &element, 1);
+        Insert(nullptr, std::move(element));
+    }
 }
 
 template <class TYPE, class ARG_TYPE>

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <VxMFCEmu/coll/list.h>
+#include <VxMFCEmu/coll/serial.h>
 #include <VxMFCEmu/coll/unserialized.h>
 
 class VXMFC_EXPORT CPtrList_E : public vx::detail::Unserialized<CList_E<void*, void*>>
@@ -20,13 +21,13 @@ class VXMFC_EXPORT CPtrList_E : public vx::detail::Unserialized<CList_E<void*, v
 class VXMFC_EXPORT CObList_E : public CList_E<CObject_E*, CObject_E*>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CObList_E)
+    DECLARE_SERIAL_E(CObList_E)
     using CList_E::CList_E;
 };
 
 class VXMFC_EXPORT CStringList_E : public CList_E<CString_E, const CString_E&>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CStringList_E)
+    DECLARE_SERIAL_E(CStringList_E)
     using CList_E::CList_E;
 };

@@ -149,6 +149,9 @@ public:
         m_table.SetSize(hashSize, bAllocNow != FALSE);
     }
 
+    /// Writes or reads the number of associations and each key and value, through
+    /// SerializeElements(). What is read is entered beside what is there.
+    void Serialize(CArchive_E& ar) override;
     /// Writes the number of associations, and these at a depth above 0.
     void Dump(CDumpContext_E& dc) const override;
 
@@ -233,6 +236,26 @@ void CMap_E<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetNextAssoc(POSITION& rNextPositio
     rKey = pAssoc->key;
     rValue = pAssoc->value;
     rNextPosition = ToPosition(After(pAssoc));
+}
+
+template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
+void CMap_E<KEY, ARG_KEY, VALUE, ARG_VALUE>::Serialize(CArchive_E& ar)
+{
+    if (ar.IsStoring()) {
+        ar.WriteCount(static_cast<DWORD_PTR>(GetCount()));
+        for (Assoc* pAssoc = First(); pAssoc; pAssoc = After(pAssoc)) {
+            SerializeElements<KEY>(ar, const_cast<KEY*>(&pAssoc->key), 1);
+            SerializeElements<VALUE>(ar, &pAssoc->value, 1);
+        }
+        return;
+    }
+    for (DWORD_PTR nLeft = ar.ReadCount(); nLeft > 0; --nLeft) {
+        KEY key{};
+        VALUE value{};
+        SerializeElements<KEY>(ar, &key, 1);
+        SerializeElements<VALUE>(ar, &value, 1);
+        (*this)[static_cast<ARG_KEY>(key)] = std::move(value);
+    }
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>

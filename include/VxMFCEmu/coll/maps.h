@@ -8,6 +8,7 @@
 #pragma once
 
 #include <VxMFCEmu/coll/map.h>
+#include <VxMFCEmu/coll/serial.h>
 #include <VxMFCEmu/coll/unserialized.h>
 #include <VxMFCEmu/core/mapptrtoptr.h>
 
@@ -61,7 +62,7 @@ class VXMFC_EXPORT CMapWordToPtr_E
 class VXMFC_EXPORT CMapWordToOb_E : public vx::detail::ReadyMap<WORD, WORD, CObject_E*, CObject_E*>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CMapWordToOb_E)
+    DECLARE_SERIAL_E(CMapWordToOb_E)
     using ReadyMap::ReadyMap;
 };
 
@@ -76,13 +77,13 @@ class VXMFC_EXPORT CMapStringToPtr_E
 class VXMFC_EXPORT CMapStringToOb_E : public vx::detail::StringMap<CObject_E*, CObject_E*>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CMapStringToOb_E)
+    DECLARE_SERIAL_E(CMapStringToOb_E)
     using StringMap::StringMap;
 };
 
 class VXMFC_EXPORT CMapStringToString_E : public vx::detail::StringMap<CString_E, LPCWSTR>
 {
     Q_OBJECT
-    DECLARE_DYNCREATE_E(CMapStringToString_E)
+    DECLARE_SERIAL_E(CMapStringToString_E)
     using StringMap::StringMap;
 };
