@@ -1,8 +1,26 @@
 vxmfc_sources(FOLDER coll
   HEADERS
+    coll/archive.h
+    coll/array.h
+    coll/arrays.h
+    coll/elements.h
     coll/file.h
     coll/filehandle.h
+    coll/list.h
+    coll/lists.h
+    coll/map.h
+    coll/maps.h
+    coll/nodepool.h
+    coll/serial.h
+    coll/typedptr.h
+    coll/unserialized.h
   SOURCES
+    vxarchive.cpp
+    vxarchiveobjects.cpp
+    vxarchivetext.cpp
+    vxstackroom.cpp
+    vxafxcollbase.cpp
+    vxafxcoll.cpp
     vxfile.cpp
     vxstdiofile.cpp
     vxmemfile.cpp

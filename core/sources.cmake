@@ -24,6 +24,7 @@ vxmfc_sources(FOLDER core
   SOURCES
     vxcreateregistry.cpp
     vxruntimeclass.cpp
+    vxserialclasses.cpp
     vxqtinternals.cpp
     vxdispatchguard.cpp
     vxobject.cpp

@@ -24,7 +24,11 @@
 
 #include <map>
 
+class CArchive_E;
 class CObject_E;
+
+/// The schema number of a class that cannot be read from an archive.
+inline constexpr UINT VX_NO_SCHEMA = 0xFFFF;
 
 /// Makes one object of a class; the result is owned by the caller.
 using VxCreateObjectFn = CObject_E* (*)();
@@ -59,6 +63,8 @@ public:
     int GetObjectSize() const { return m_nObjectSize; }
     /// Makes a new object, owned by the caller; null when the class has no factory.
     CObject_E* CreateObject() const;
+    /// The same of the class that is registered as @p lpszClassName, null also when none is.
+    static CObject_E* CreateObject(const char* lpszClassName);
     /// Whether this class is @p pClass or derives from it; false for null.
     bool IsDerivedFrom(const CRuntimeClass_E* pClass) const;
     /// Whether an object of Qt class @p pMeta can implement this class; false for null.
@@ -72,12 +78,44 @@ public:
     static bool RegisterCreateObjectMethod(const QMetaObject* pMeta,
                                            VxCreateObjectFn pfnCreateObject);
 
+    /// The class that is registered for archives by that name, the first of several; null for null
+    /// and when there is none. Any thread may ask.
+    static CRuntimeClass_E* FromName(const char* lpszClassName);
+    static CRuntimeClass_E* FromName(const wchar_t* lpszClassName);
+    /// Writes schema and name as an archive has them. Throws the not-supported exception for a
+    /// class without a name in archives.
+    void Store(CArchive_E& ar) const;
+    /// Reads what Store() wrote, the schema into @p pwSchemaNum; null when no class is registered
+    /// by that name.
+    static CRuntimeClass_E* Load(CArchive_E& ar, UINT* pwSchemaNum);
+
 private:
     const QMetaObject* m_pMetaObject;
     const QMetaObject* m_pImpMetaObject;
     QList<const QMetaObject*>* m_pImpMetaList;
     VxCreateObjectFn m_pfnCreateObject;
     int m_nObjectSize;
+
+public:
+    /// The number of the class's form in archives, perhaps with VERSIONABLE_SCHEMA; VX_NO_SCHEMA
+    /// for a class that is not serial.
+    UINT m_wSchema = VX_NO_SCHEMA;
+};
+
+/// Enters a class for archives: by its name in them, with its schema. Whoever was first has the
+/// name; the entry goes with this object, for the code of the class may be about to be unloaded.
+struct VXMFC_EXPORT AFX_CLASSINIT_E
+{
+    /// @p pfnIsInstance tells objects of the class, which the meta object of one without `Q_OBJECT`
+    /// cannot.
+    AFX_CLASSINIT_E(CRuntimeClass_E* pNewClass, const char* pszName, UINT wSchema,
+                    bool (*pfnIsInstance)(const CObject_E*));
+    ~AFX_CLASSINIT_E();
+    Q_DISABLE_COPY_MOVE(AFX_CLASSINIT_E)
+
+    CRuntimeClass_E* const m_pClass;
+    const char* const m_pszName;
+    bool (*const m_pfnIsInstance)(const CObject_E*);
 };
 
 /// The class record of a class.
@@ -96,9 +134,9 @@ public:                                                                         
     DECLARE_DYNAMIC_E(theClass)                                                                    \
     static CObject_E* CreateObject();
 
-#define VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, pBaseImp, qtClass, pfnCreate, pList)               \
+#define VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, pBaseImp, pImp, pfnCreate, pList)                  \
     CRuntimeClass_E* theClass::GetRuntimeClass() const { return &theClass::s_classInfo; }          \
-    const QMetaObject* theClass::GetImpMetaObject() { return &qtClass::staticMetaObject; }         \
+    const QMetaObject* theClass::GetImpMetaObject() { return pImp; }                               \
     QList<const QMetaObject*>* theClass::GetImpMetaList() { return pList; }                        \
     CRuntimeClass_E theClass::s_classInfo(                                                         \
         &theClass::staticMetaObject, theClass::GetImpMetaObject(), pBaseImp, pfnCreate,            \
@@ -109,19 +147,20 @@ public:                                                                         
 
 /// In a source file: the record of a class that cannot be made at run time.
 #define IMPLEMENT_DYNAMIC_E(theClass, baseClass, qtClass)                                          \
-    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(), qtClass, nullptr,       \
-                                  nullptr)
+    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(),                         \
+                                  &qtClass::staticMetaObject, nullptr, nullptr)
 
 /// In a source file: the record and the factory of a class over one Qt class.
 #define IMPLEMENT_DYNCREATE_E(theClass, baseClass, qtClass)                                        \
     VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                        \
-    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(), qtClass,                \
-                                  &theClass::CreateObject, nullptr)
+    VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(),                         \
+                                  &qtClass::staticMetaObject, &theClass::CreateObject, nullptr)
 
 /// As IMPLEMENT_DYNCREATE_E, for a class that several Qt classes can implement: the meta objects
 /// follow @p qtClass, which is the one that GetImpMetaObject() names.
 #define IMPLEMENT_DYNCREATE_LIST_E(theClass, baseClass, qtClass, ...)                              \
     VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                        \
     VXMFC_IMPLEMENT_RUNTIME_CLASS(                                                                 \
-        theClass, baseClass::GetImpMetaObject(), qtClass, &theClass::CreateObject,                 \
+        theClass, baseClass::GetImpMetaObject(), &qtClass::staticMetaObject,                       \
+        &theClass::CreateObject,                                                                   \
         CRuntimeClass_E::CreateMetaList(__VA_ARGS__, static_cast<const QMetaObject*>(nullptr)))
