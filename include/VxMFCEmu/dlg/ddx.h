@@ -96,6 +96,7 @@ class CWnd_E;
 VXMFC_DDX_TABLE(VXMFC_DDX_ROW, VXMFC_DDX_ROW2)
 // clang-format on
 
+/// @{
 /// The window text in a buffer of @p nMaxLen characters with the terminator; cut when it is longer.
 VXMFC_EXPORT void DDX_Text(CDataExchange_E* pDX, QWidget* pControl, LPTSTR pszValue, int nMaxLen);
 VXMFC_EXPORT void DDX_Text(CDataExchange_E* pDX, const char* pszName, LPTSTR pszValue, int nMaxLen);
@@ -104,3 +105,4 @@ VXMFC_EXPORT void DDX_Text(CDataExchange_E* pDX, const char* pszName, LPTSTR psz
 {
     DDX_Text(pDX, ToStringId(static_cast<UINT>(nIDC)).toUtf8().constData(), pszValue, nMaxLen);
 }
+/// @}
