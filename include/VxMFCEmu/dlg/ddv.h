@@ -21,6 +21,8 @@ VXMFC_EXPORT void DDV_MaxChars(CDataExchange_E* pDX, const CString_E& value, int
     VXMFC_EXPORT void name(CDataExchange_E* pDX, Type value, Type minVal, Type maxVal);
 
 // clang-format off
+/// @{
+/// Between two values, both included.
 VXMFC_DDV_MINMAX(DDV_MinMaxByte, BYTE)
 VXMFC_DDV_MINMAX(DDV_MinMaxShort, short)
 VXMFC_DDV_MINMAX(DDV_MinMaxInt, int)
@@ -31,9 +33,9 @@ VXMFC_DDV_MINMAX(DDV_MinMaxLongLong, LONGLONG)
 VXMFC_DDV_MINMAX(DDV_MinMaxULongLong, ULONGLONG)
 VXMFC_DDV_MINMAX(DDV_MinMaxFloat, float)
 // clang-format on
-/// Between two values, both included.
 VXMFC_EXPORT void DDV_MinMaxDouble(CDataExchange_E* pDX, const double& value, double minVal,
                                    double maxVal);
+/// @}
 
 /// Sets the range of the slider that was exchanged last, in both directions, and checks the value.
 VXMFC_EXPORT void DDV_MinMaxSlider(CDataExchange_E* pDX, DWORD value, DWORD minVal, DWORD maxVal);
