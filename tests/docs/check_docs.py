@@ -2,10 +2,10 @@
 """Checks that the pages say what is in the sources.
 
 check_docs.py ROOT           the checks; says what is wrong
-check_docs.py ROOT --write   puts the parts of the sources that docs/porting.md shows into it
+check_docs.py ROOT --write   puts the parts of the sources that the pages show into them
 
-- porting.md: each block of C++ is a part of a source of tests/porting. The line above it names the
-  source and the part; in the source, lines "//! [part]" stand before and after it.
+- porting.md, README.md: each block of C++ is a part of a source of tests/porting. The line above it
+  names the source and the part; in the source, lines "//! [part]" stand before and after it.
 - differences.md: each public header that tells of a difference has a row, and each row a header.
 - every page: what a link leads to is there.
 """
@@ -27,8 +27,7 @@ def part_of(path, part):
     return pieces[1]
 
 
-def check_porting(root, write):
-    page = root / "docs/porting.md"
+def check_snippets(root, page, write):
     wrong = []
 
     def source_of(block):
@@ -79,7 +78,9 @@ def main():
     parser.add_argument("root", type=Path)
     parser.add_argument("--write", action="store_true")
     arguments = parser.parse_args()
-    wrong = check_porting(arguments.root, arguments.write)
+    wrong = []
+    for page in ("docs/porting.md", "README.md"):
+        wrong += check_snippets(arguments.root, arguments.root / page, arguments.write)
     wrong += check_differences(arguments.root)
     wrong += check_links(arguments.root)
     print("\n".join(wrong), end="\n" if wrong else "")

@@ -4,6 +4,25 @@
 #include "support/test.h"
 
 // clang-format off
+//! [example]
+class CGauge : public CWnd_E
+{
+    Q_OBJECT
+    DECLARE_DYNCREATE_E(CGauge)
+    DECLARE_MESSAGE_MAP_E()
+
+    void OnLButtonDown(UINT, CPoint_E) { SetWindowText(_T("pressed")); }
+    LRESULT OnRefresh(WPARAM wParam, LPARAM) { return static_cast<LRESULT>(wParam); }
+};
+
+IMPLEMENT_DYNCREATE_E(CGauge, CWnd_E, QWidget)
+
+BEGIN_MESSAGE_MAP_E(CGauge, CWnd_E)
+    ON_WM_LBUTTONDOWN_E()
+    ON_MESSAGE_E(WM_APP + 1, &CGauge::OnRefresh)
+END_MESSAGE_MAP_E()
+//! [example]
+
 //! [default widget]
 class CLoadBar : public CWnd_E
 {
@@ -82,6 +101,18 @@ public Q_SLOTS:
 
 IMPLEMENT_DYNAMIC_E(CSizeDlg, CDialog_E, CSizeForm)
 // clang-format on
+
+TEST(PortingExtras, TheExampleAnswers)
+{
+    QWidget parent;
+    CGauge gauge;
+    ASSERT_TRUE(gauge.Create(&parent));
+    EXPECT_EQ(gauge.SendMessage(WM_APP + 1, 7), 7);
+    gauge.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON);
+    CString_E strText;
+    gauge.GetWindowText(strText);
+    EXPECT_EQ(strText, L"pressed");
+}
 
 TEST(PortingExtras, AClassMakesItsOwnWidget)
 {
