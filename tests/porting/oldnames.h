@@ -42,10 +42,10 @@ using OldQtClass = std::conditional_t<std::is_base_of_v<CDialog_E, Class>, QDial
 #define ON_WM_LBUTTONDOWN() ON_WM_LBUTTONDOWN_E()
 #define ON_WM_SIZE() ON_WM_SIZE_E()
 // A handler that takes a window has one form, which takes a CWnd.
-#define ON_WM_SETFOCUS()                                                                           \
+#define ON_WM_CONTEXTMENU()                                                                        \
     this->AddMsgMapEntry(                                                                          \
-        WM_SETFOCUS, 36, nullptr,                                                                  \
-        vx::detail::eraseHandler<ThisClass_E, void(CWnd*)>(&ThisClass_E::OnSetFocus));
+        WM_CONTEXTMENU, 39, nullptr,                                                               \
+        vx::detail::eraseHandler<ThisClass_E, void(CWnd*, CPoint)>(&ThisClass_E::OnContextMenu));
 // A control notifies its parent, through the message map.
 #define ON_CBN_SELCHANGE(nID, memberFn)                                                            \
     if (auto* const pCombo = qobject_cast<QComboBox*>(this->GetDlgItem(nID, nullptr)))             \

@@ -143,8 +143,9 @@ TEST(PortingExtras, CommandsReachTheWindow)
 
 TEST(PortingExtras, TheConnectionsOfAFormMoveToTheDialog)
 {
+    QWidget parent;
     CSizeDlg dialog;
-    ASSERT_TRUE(dialog.Create(nullptr));
+    ASSERT_TRUE(dialog.Create(&parent));
     dialog.GetSafeHwnd()->findChild<QComboBox*>()->setCurrentIndex(1);
     EXPECT_EQ(dialog.m_nChanges, 1);
     dialog.DestroyWindow();

@@ -7,7 +7,7 @@ IMPLEMENT_DYNAMIC_E(CGaugeWnd, CWnd_E, QWidget)
 BEGIN_MESSAGE_MAP_E(CGaugeWnd, CWnd_E)
     ON_WM_SIZE_E()
     ON_WM_LBUTTONDOWN_E()
-    ON_WM_SETFOCUS_E()
+    ON_WM_CONTEXTMENU_E()
     ON_MESSAGE_E(WM_GAUGE_SETLEVEL, &CGaugeWnd::OnSetLevel)
 END_MESSAGE_MAP_E()
 
@@ -22,10 +22,10 @@ void CGaugeWnd::OnLButtonDown(UINT, CPoint_E point)
     SendMessage(WM_GAUGE_SETLEVEL, static_cast<WPARAM>(100 * point.x / m_nWidth));
 }
 
-void CGaugeWnd::OnSetFocus_E(CWnd_E*)
+void CGaugeWnd::OnContextMenu_E(CWnd_E*, CPoint_E point)
 {
-    m_bFocused = TRUE;
-    Invalidate();
+    // The position is that in the window already.
+    SendMessage(WM_GAUGE_SETLEVEL, static_cast<WPARAM>(100 * point.x / m_nWidth));
 }
 
 LRESULT CGaugeWnd::OnSetLevel(WPARAM wParam, LPARAM)

@@ -11,16 +11,15 @@ class CGaugeWnd : public CWnd_E
     DECLARE_DYNAMIC_E(CGaugeWnd)
 
 public:
-    CGaugeWnd() : m_nLevel(0), m_nWidth(0), m_bFocused(FALSE) {}
+    CGaugeWnd() : m_nLevel(0), m_nWidth(0) {}
 
     int m_nLevel;
     int m_nWidth;
-    BOOL m_bFocused;
 
 protected:
     void OnSize(UINT nType, int cx, int cy);
     void OnLButtonDown(UINT nFlags, CPoint_E point);
-    void OnSetFocus_E(CWnd_E* pOldWnd);
+    void OnContextMenu_E(CWnd_E* pWnd, CPoint_E point);
     LRESULT OnSetLevel(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP_E()
 };

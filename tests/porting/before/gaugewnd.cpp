@@ -7,7 +7,7 @@ IMPLEMENT_DYNAMIC(CGaugeWnd, CWnd)
 BEGIN_MESSAGE_MAP(CGaugeWnd, CWnd)
     ON_WM_SIZE()
     ON_WM_LBUTTONDOWN()
-    ON_WM_SETFOCUS()
+    ON_WM_CONTEXTMENU()
     ON_MESSAGE(WM_GAUGE_SETLEVEL, &CGaugeWnd::OnSetLevel)
 END_MESSAGE_MAP()
 
@@ -22,10 +22,10 @@ void CGaugeWnd::OnLButtonDown(UINT, CPoint point)
     SendMessage(WM_GAUGE_SETLEVEL, (WPARAM)(100 * point.x / m_nWidth));
 }
 
-void CGaugeWnd::OnSetFocus(CWnd*)
+void CGaugeWnd::OnContextMenu(CWnd*, CPoint point)
 {
-    m_bFocused = TRUE;
-    Invalidate();
+    ScreenToClient(&point);
+    SendMessage(WM_GAUGE_SETLEVEL, (WPARAM)(100 * point.x / m_nWidth));
 }
 
 LRESULT CGaugeWnd::OnSetLevel(WPARAM wParam, LPARAM)

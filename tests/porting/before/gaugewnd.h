@@ -10,16 +10,15 @@ class CGaugeWnd : public CWnd
     DECLARE_DYNAMIC(CGaugeWnd)
 
 public:
-    CGaugeWnd() : m_nLevel(0), m_nWidth(0), m_bFocused(FALSE) {}
+    CGaugeWnd() : m_nLevel(0), m_nWidth(0) {}
 
     int m_nLevel;
     int m_nWidth;
-    BOOL m_bFocused;
 
 protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
     afx_msg LRESULT OnSetLevel(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 };
