@@ -3,6 +3,7 @@
 #   scripts/setup.sh           what building, testing and measuring need
 #   scripts/setup.sh --lint    what scripts/lint.sh needs as well
 #   scripts/setup.sh --fuzz    what scripts/fuzz.sh needs as well
+#   scripts/setup.sh --docs    what scripts/docs.sh needs, and no more
 set -euo pipefail
 
 packages=(
@@ -36,13 +37,17 @@ fuzz_packages=(
   clang
   libclang-rt-dev
 )
+docs_packages=(
+  doxygen
+)
 
 case "${1-}" in
   '') ;;
   --lint) packages+=("${lint_packages[@]}") ;;
   --fuzz) packages+=("${fuzz_packages[@]}") ;;
+  --docs) packages=("${docs_packages[@]}") ;;
   *)
-    echo "usage: scripts/setup.sh [--lint | --fuzz]" >&2
+    echo "usage: scripts/setup.sh [--lint | --fuzz | --docs]" >&2
     exit 2
     ;;
 esac

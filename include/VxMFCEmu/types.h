@@ -14,15 +14,17 @@ class QMenu;
 class QWidget;
 
 #ifndef TRUE
-#    define TRUE 1
+#    define TRUE 1 ///< a BOOL that holds
 #endif
 #ifndef FALSE
-#    define FALSE 0
+#    define FALSE 0 ///< a BOOL that does not hold
 #endif
 #ifndef NULL
-#    define NULL 0
+#    define NULL 0 ///< the null pointer
 #endif
 
+/// @{
+/// A type of numbers, as wide as on Win32.
 using BOOL = int;
 using INT = int;
 using LONG = int;
@@ -38,7 +40,10 @@ using LONGLONG = long long;
 using ULONGLONG = unsigned long long;
 using HRESULT = int;
 using SCODE = int;
+/// @}
 
+/// @{
+/// A type that holds a pointer, or a parameter of a message.
 using WPARAM = unsigned long;
 using LPARAM = long long;
 using LRESULT = long long;
@@ -48,7 +53,10 @@ using LONG_PTR = long;
 using DWORD_PTR = unsigned long;
 using ULONG_PTR = unsigned long;
 using SIZE_T = std::size_t;
+/// @}
 
+/// @{
+/// A type of characters, or a pointer to text.
 using CHAR = char;
 using WCHAR = wchar_t;
 using TCHAR = wchar_t;
@@ -58,14 +66,20 @@ using LPWSTR = wchar_t*;
 using LPCWSTR = const wchar_t*;
 using LPTSTR = wchar_t*;
 using LPCTSTR = const wchar_t*;
+/// @}
 
+/// @{
+/// A pointer type.
 using LPVOID = void*;
 using LPCVOID = const void*;
 using LPBYTE = BYTE*;
 using LPDWORD = DWORD*;
 using PLONG = LONG*;
 using LPBOOL = BOOL*;
+/// @}
 
+/// @{
+/// A handle type.
 using HWND = QWidget*;
 using HMENU = QMenu*;
 using HANDLE = void*;
@@ -86,55 +100,56 @@ using HCURSOR = void*;
 using HIMAGELIST = void*;
 using HDROP = void*;
 using HKEY = void*;
+/// @}
 
-#define VXMFC_WIDE(x) L##x
+#define VXMFC_WIDE(x) L##x ///< see _T
 /// Wide text literal, as Win32 sources write it; of a macro such as __FILE__ too.
 #ifndef _T
 #    define _T(x) VXMFC_WIDE(x)
 #endif
 #ifndef TEXT
-#    define TEXT(x) VXMFC_WIDE(x)
+#    define TEXT(x) VXMFC_WIDE(x) ///< a wide text literal
 #endif
 
 /// A point in pixels.
 struct tagPOINT
 {
-    LONG x;
-    LONG y;
+    LONG x; ///< from the left
+    LONG y; ///< from the top
 };
-using POINT = tagPOINT;
-using LPPOINT = tagPOINT*;
+using POINT = tagPOINT;    ///< its usual name
+using LPPOINT = tagPOINT*; ///< a pointer to one
 
 /// A size in pixels.
 struct tagSIZE
 {
-    LONG cx;
-    LONG cy;
+    LONG cx; ///< width
+    LONG cy; ///< height
 };
-using SIZE = tagSIZE;
-using LPSIZE = tagSIZE*;
+using SIZE = tagSIZE;    ///< its usual name
+using LPSIZE = tagSIZE*; ///< a pointer to one
 
 /// A rectangle in pixels; right and bottom are exclusive.
 struct tagRECT
 {
-    LONG left;
-    LONG top;
-    LONG right;
-    LONG bottom;
+    LONG left;   ///< included
+    LONG top;    ///< included
+    LONG right;  ///< excluded
+    LONG bottom; ///< excluded
 };
-using RECT = tagRECT;
-using LPRECT = tagRECT*;
-using LPCRECT = const tagRECT*;
+using RECT = tagRECT;           ///< its usual name
+using LPRECT = tagRECT*;        ///< a pointer to one
+using LPCRECT = const tagRECT*; ///< a pointer to a constant one
 
 /// A time in units of 100 nanoseconds since 1601.
 struct _FILETIME
 {
-    DWORD dwLowDateTime;
-    DWORD dwHighDateTime;
+    DWORD dwLowDateTime;  ///< the lower 32 bits
+    DWORD dwHighDateTime; ///< the upper 32 bits
 };
-using FILETIME = _FILETIME;
-using PFILETIME = _FILETIME*;
-using LPFILETIME = _FILETIME*;
+using FILETIME = _FILETIME;    ///< its usual name
+using PFILETIME = _FILETIME*;  ///< a pointer to one
+using LPFILETIME = _FILETIME*; ///< a pointer to one
 
 /// One window message, as message functions and `PreTranslateMessage` see it.
 struct tagMSG
@@ -146,29 +161,31 @@ struct tagMSG
     DWORD time;    ///< seconds since 1970 (differs from Win32, which counts milliseconds)
     tagPOINT pt;   ///< cursor position in screen coordinates
 };
-using MSG = tagMSG;
-using LPMSG = tagMSG*;
+using MSG = tagMSG;    ///< its usual name
+using LPMSG = tagMSG*; ///< a pointer to one
 
-/// What `OnCreate` is told of the window being made.
+/// What `OnCreate` is told of the window being made: its style; the rest is 0.
 struct tagCREATESTRUCTW
 {
-    LPVOID lpCreateParams;
-    HINSTANCE hInstance;
-    HMENU hMenu;
-    HWND hwndParent;
-    int cy;
-    int cx;
-    int y;
-    int x;
-    UINT style;
-    LPCWSTR lpszName;
-    LPCWSTR lpszClass;
-    DWORD dwExStyle;
+    LPVOID lpCreateParams; ///< 0
+    HINSTANCE hInstance;   ///< 0
+    HMENU hMenu;           ///< 0
+    HWND hwndParent;       ///< 0
+    int cy;                ///< 0
+    int cx;                ///< 0
+    int y;                 ///< 0
+    int x;                 ///< 0
+    UINT style;            ///< WS_* that the window was created with
+    LPCWSTR lpszName;      ///< 0
+    LPCWSTR lpszClass;     ///< 0
+    DWORD dwExStyle;       ///< 0
 };
-using CREATESTRUCT = tagCREATESTRUCTW;
-using CREATESTRUCTW = tagCREATESTRUCTW;
-using LPCREATESTRUCT = tagCREATESTRUCTW*;
+using CREATESTRUCT = tagCREATESTRUCTW;    ///< its usual name
+using CREATESTRUCTW = tagCREATESTRUCTW;   ///< its usual name
+using LPCREATESTRUCT = tagCREATESTRUCTW*; ///< a pointer to one
 
+/// @{
+/// The lower or upper half of the lowest bits.
 constexpr WORD LOWORD(std::uint64_t value) noexcept { return static_cast<WORD>(value & 0xFFFFU); }
 constexpr WORD HIWORD(std::uint64_t value) noexcept
 {
@@ -179,7 +196,9 @@ constexpr BYTE HIBYTE(std::uint64_t value) noexcept
 {
     return static_cast<BYTE>((value >> 8) & 0xFFU);
 }
+/// @}
 
+/// @{
 /// Packs two 16-bit halves into 32 bits, @p low in the low half.
 template <typename Low, typename High>
 constexpr DWORD MAKELONG(Low low, High high) noexcept
@@ -202,7 +221,9 @@ constexpr LRESULT MAKELRESULT(Low low, High high) noexcept
 {
     return MAKELONG(low, high);
 }
+/// @}
 
+/// @{
 /// Signed coordinates packed in an `LPARAM`.
 constexpr int GET_X_LPARAM(LPARAM value) noexcept
 {
@@ -212,3 +233,4 @@ constexpr int GET_Y_LPARAM(LPARAM value) noexcept
 {
     return static_cast<short>(HIWORD(static_cast<std::uint64_t>(value)));
 }
+/// @}

@@ -9,6 +9,7 @@
 
 #include <VxMFCEmu/types.h>
 
+/// Terminated wide text with its length in bytes in front.
 using BSTR = wchar_t*;
 
 /// A copy of @p pszText, owned by the caller (SysFreeString_E()); null for null and when memory is

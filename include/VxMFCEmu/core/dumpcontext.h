@@ -13,6 +13,7 @@
 class CFile_E;
 class CObject_E;
 
+/// Diagnostic output into a file.
 class VXMFC_EXPORT CDumpContext_E
 {
 public:
@@ -20,8 +21,11 @@ public:
     explicit CDumpContext_E(CFile_E* pFile = nullptr) : m_pFile(pFile) {}
     Q_DISABLE_COPY_MOVE(CDumpContext_E)
 
+    /// @{
+    /// How deep objects are dumped; only kept.
     int GetDepth() const { return m_nDepth; }
     void SetDepth(int nDepth) { m_nDepth = nDepth; }
+    /// @}
 
     /// Flushes the file.
     void Flush();
@@ -37,9 +41,12 @@ public:
     /// Written as wide text, at most 512 characters, converted by libc's current locale; null is
     /// written as "(NULL)".
     CDumpContext_E& operator<<(const char* lpsz);
+    /// Written as the text is.
     CDumpContext_E& operator<<(const CString_E& str) { return *this << str.GetString(); }
     /// Null is written as "NULL", any object as one fixed text.
     CDumpContext_E& operator<<(const CObject_E* pOb);
+    /// @{
+    /// Written in text form.
     CDumpContext_E& operator<<(const void* p);
     CDumpContext_E& operator<<(unsigned char value);
     CDumpContext_E& operator<<(unsigned short value);
@@ -47,6 +54,8 @@ public:
     CDumpContext_E& operator<<(int value);
     CDumpContext_E& operator<<(long long value);
     CDumpContext_E& operator<<(unsigned long long value);
+    /// @}
+    /// @{
     /// Counts and sizes (`INT_PTR`, `UINT_PTR`), which would fit every number above.
     CDumpContext_E& operator<<(long value) { return *this << static_cast<long long>(value); }
     CDumpContext_E& operator<<(unsigned long value)
@@ -55,7 +64,9 @@ public:
     }
     CDumpContext_E& operator<<(float value);
     CDumpContext_E& operator<<(double value);
+    /// @}
 
+    /// @{
     /// Writes "0x" and all hexadecimal digits of the type.
     CDumpContext_E& DumpAsHex(unsigned char value);
     CDumpContext_E& DumpAsHex(unsigned short value);
@@ -68,6 +79,7 @@ public:
     {
         return DumpAsHex(static_cast<unsigned long long>(value));
     }
+    /// @}
 
 private:
     template <typename Value>

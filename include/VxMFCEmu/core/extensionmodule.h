@@ -14,11 +14,11 @@ class COleObjectFactory_E;
 /// What an extension module keeps about itself, usually in a static object of all zeros.
 struct AFX_EXTENSION_MODULE_E
 {
-    BOOL bInitialized;
-    HMODULE hModule;
-    HMODULE hResource;
-    CRuntimeClass_E* pFirstSharedClass;
-    COleObjectFactory_E* pFirstSharedFactory;
+    BOOL bInitialized;                        ///< not 0 once it is filled in
+    HMODULE hModule;                          ///< the module
+    HMODULE hResource;                        ///< the module
+    CRuntimeClass_E* pFirstSharedClass;       ///< head of the list of class records
+    COleObjectFactory_E* pFirstSharedFactory; ///< not used
 };
 
 /// Fills @p state for the module @p hModule; when that has been done already, gives the
@@ -32,12 +32,13 @@ class VXMFC_EXPORT CDynLinkLibrary_E : public CCmdTarget_E
 {
     DECLARE_DYNAMIC_E(CDynLinkLibrary_E)
 
+    /// Keeps what @p state says.
     explicit CDynLinkLibrary_E(const AFX_EXTENSION_MODULE_E& state, BOOL bSystem = FALSE);
     /// Keeps @p hModule only.
     CDynLinkLibrary_E(HINSTANCE hModule, HINSTANCE hResource);
 
-    HMODULE m_hModule;
-    HMODULE m_hResource = nullptr;
-    CDynLinkLibrary_E* m_pNextDLL = nullptr;
-    BOOL m_bSystem = FALSE;
+    HMODULE m_hModule;                       ///< the module
+    HMODULE m_hResource = nullptr;           ///< kept only
+    CDynLinkLibrary_E* m_pNextDLL = nullptr; ///< not used
+    BOOL m_bSystem = FALSE;                  ///< kept only
 };

@@ -37,6 +37,7 @@ struct ConstructDestruct_E
 class VXMFC_EXPORT CHandleMap_E
 {
 public:
+    /// A step of the life of an object in memory of the map.
     using ObjectFn = void (*)(CObject_E*);
 
     /// Temporary objects are made by @p pfnConstruct and destroyed by @p pfnDestruct; their

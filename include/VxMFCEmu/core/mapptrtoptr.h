@@ -21,9 +21,12 @@ class VXMFC_EXPORT CMapPtrToPtr_E : public CObject_E
     explicit CMapPtrToPtr_E(INT_PTR nBlockSize = 10);
     ~CMapPtrToPtr_E() override;
 
+    /// @{
+    /// The number of associations, or whether there are none.
     INT_PTR GetCount() const { return m_nCount; }
     INT_PTR GetSize() const { return m_nCount; }
     BOOL IsEmpty() const { return m_nCount == 0; }
+    /// @}
 
     /// Finds @p key; FALSE, leaving @p rValue alone, when it is not there.
     BOOL Lookup(void* key, void*& rValue) const;

@@ -27,25 +27,31 @@ public:
 protected:
     VxToolTip() = default;
     ~VxToolTip() = default;
+    /// @{
+    /// For derived classes.
     VxToolTip(const VxToolTip&) = default;
     VxToolTip& operator=(const VxToolTip&) = default;
+    /// @}
 };
 
+/// What the library keeps about the module.
 class VXMFC_EXPORT AFX_MODULE_STATE_E : public CNoTrackObject_E
 {
 public:
+    /// The state of a library, or with FALSE of a program.
     explicit AFX_MODULE_STATE_E(BOOL bDLL);
 
-    BOOL m_bDLL;
-    BOOL m_bSystem = FALSE;
-    CSimpleList_E m_classList; ///< class records; empty, as records are not linked here
-    UINT m_nState = 1;         ///< this and the fields below are only kept
-    CString_E m_strName;
-    CThreadLocalObject_E m_thread;
-    UINT m_nReserved1 = 0;
-    UINT m_nReserved2 = 0;
+    BOOL m_bDLL;                   ///< whether this is a library
+    BOOL m_bSystem = FALSE;        ///< only kept
+    CSimpleList_E m_classList;     ///< class records; empty, as records are not linked here
+    UINT m_nState = 1;             ///< this and the fields below are only kept
+    CString_E m_strName;           ///< only kept
+    CThreadLocalObject_E m_thread; ///< only kept
+    UINT m_nReserved1 = 0;         ///< not used
+    UINT m_nReserved2 = 0;         ///< not used
 };
 
+/// What the library keeps about the GUI thread.
 class VXMFC_EXPORT AFX_MODULE_THREAD_STATE_E : public CNoTrackObject_E
 {
 public:
@@ -66,11 +72,14 @@ public:
     CWnd_E* m_pLastHit = nullptr;        ///< window last asked for a tool tip, not owned
     int m_nLastHit = -1;                 ///< what was hit in it
     tagTOOLINFOW* m_pLastInfo = nullptr; ///< owned, made with LocalAlloc_E()
-    int m_nLastStatus = -1;
+    int m_nLastStatus = -1;              ///< not used by the library
 };
 
+/// @{
+/// One of the two objects that the functions below give.
 extern VXMFC_EXPORT AFX_MODULE_STATE_E afxModuleState;
 extern VXMFC_EXPORT AFX_MODULE_THREAD_STATE_E gdiThreadState;
+/// @}
 
 /// The module state.
 VXMFC_EXPORT AFX_MODULE_STATE_E* AfxGetModuleState_E();

@@ -12,8 +12,11 @@ class VXMFC_EXPORT CNoTrackObject_E
 public:
     CNoTrackObject_E() = default;
     virtual ~CNoTrackObject_E();
+    /// @{
+    /// For derived classes.
     CNoTrackObject_E(const CNoTrackObject_E&) = default;
     CNoTrackObject_E& operator=(const CNoTrackObject_E&) = default;
+    /// @}
 
     /// Zero-filled memory from LocalAlloc_E(); throws the memory exception when there is none.
     static void* operator new(std::size_t nSize);

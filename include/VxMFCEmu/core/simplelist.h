@@ -10,11 +10,13 @@
 class VXMFC_EXPORT CSimpleList_E
 {
 public:
+    /// An empty list of elements whose link field lies at this offset.
     explicit CSimpleList_E(std::size_t nNextOffset = 0) : m_nNextOffset(nNextOffset) {}
 
     /// Sets the offset of the link field; only while the list is empty.
     void Construct(std::size_t nNextOffset) { m_nNextOffset = nNextOffset; }
 
+    /// Whether there is no element.
     BOOL IsEmpty() const { return m_pHead == nullptr; }
     /// The first element; null when the list is empty.
     void* GetHead() const { return m_pHead; }

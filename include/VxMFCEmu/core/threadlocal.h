@@ -55,11 +55,15 @@ template <typename T>
 class CThreadLocal_E : public CThreadLocalObject_E
 {
 public:
+    /// @{
+    /// The object; made on first use, but by GetDataNA(), which gives null until then.
     T* GetData() { return static_cast<T*>(CThreadLocalObject_E::GetData(&CreateObject)); }
     T* GetDataNA() const { return static_cast<T*>(CThreadLocalObject_E::GetDataNA()); }
     operator T*() { return GetData(); }
     T* operator->() { return GetData(); }
+    /// @}
 
+    /// A new object.
     static CNoTrackObject_E* CreateObject() { return new T; }
 };
 
@@ -68,9 +72,13 @@ template <typename T>
 class CProcessLocal_E : public CProcessLocalObject_E
 {
 public:
+    /// @{
+    /// The object, made on first use.
     T* GetData() { return static_cast<T*>(CProcessLocalObject_E::GetData(&CreateObject)); }
     operator T*() { return GetData(); }
     T* operator->() { return GetData(); }
+    /// @}
 
+    /// A new object.
     static CNoTrackObject_E* CreateObject() { return new T; }
 };

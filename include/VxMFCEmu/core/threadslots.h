@@ -24,6 +24,7 @@ struct CThreadData_E : CNoTrackObject_E
     void** pData = nullptr;         ///< one value a slot, `CNoTrackObject_E*` each
 };
 
+/// The table of thread-local slots.
 class VXMFC_EXPORT CThreadSlotData_E
 {
 public:

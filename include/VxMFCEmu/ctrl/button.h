@@ -20,6 +20,7 @@ class QIcon;
 class QPixmap;
 QT_END_NAMESPACE
 
+/// A push button, check box, radio button or group box.
 class VXMFC_EXPORT CButton_E : public CWnd_E
 {
     Q_OBJECT
@@ -30,10 +31,12 @@ class VXMFC_EXPORT CButton_E : public CWnd_E
     /// Gives the style the type of the widget.
     BOOL OnAttach() override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the button below @p pParent, at @p rect in its coordinates, with a text; null is
     /// empty.
     BOOL Create(LPCWSTR lpszCaption, DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(LPCWSTR lpszCaption, DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
     /// BST_UNCHECKED, BST_CHECKED or, of a button with three states, BST_INDETERMINATE.
     int GetCheck() const;
@@ -55,6 +58,7 @@ class VXMFC_EXPORT CButton_E : public CWnd_E
 
     /// Sets the icon and returns the previous one.
     QIcon SetIcon(const QIcon& icon);
+    /// The icon; empty when there is none.
     QIcon GetIcon() const;
     /// Shows @p bitmap in its own size as the icon and returns what was shown.
     QPixmap SetBitmap(const QPixmap& bitmap);

@@ -11,6 +11,7 @@
 
 #include <VxMFCEmu/ctrl/listbox.h>
 
+/// A list box whose items have check marks.
 class VXMFC_EXPORT CCheckListBox_E : public CListBox_E
 {
     Q_OBJECT
@@ -27,6 +28,7 @@ class VXMFC_EXPORT CCheckListBox_E : public CListBox_E
     int GetCheck(int nIndex) const;
     /// Lets the user select and check an item, or not.
     void Enable(int nIndex, BOOL bEnabled = TRUE);
+    /// Whether the user can select and check an item.
     BOOL IsEnabled(int nIndex) const;
 
 protected:

@@ -24,19 +24,21 @@ QT_END_NAMESPACE
 /// The parts of a combo box.
 struct tagCOMBOBOXINFO
 {
-    DWORD cbSize;
+    DWORD cbSize;      ///< size of this record
     tagRECT rcItem;    ///< of the text, in the box's coordinates
     tagRECT rcButton;  ///< of the button that drops the list
     DWORD stateButton; ///< STATE_SYSTEM_PRESSED while the list is dropped, else 0
-    HWND hwndCombo;
-    HWND hwndItem; ///< the line edit; null for a box without
-    HWND hwndList;
+    HWND hwndCombo;    ///< the box
+    HWND hwndItem;     ///< the line edit; null for a box without
+    HWND hwndList;     ///< the list that drops down
 };
-using COMBOBOXINFO = tagCOMBOBOXINFO;
-using PCOMBOBOXINFO = tagCOMBOBOXINFO*;
+using COMBOBOXINFO = tagCOMBOBOXINFO;   ///< its usual name
+using PCOMBOBOXINFO = tagCOMBOBOXINFO*; ///< a pointer to one
 
+/// The state of a pressed button.
 inline constexpr DWORD STATE_SYSTEM_PRESSED = 0x00000008;
 
+/// A combo box.
 class VXMFC_EXPORT CComboBox_E : public CWnd_E
 {
     Q_OBJECT
@@ -44,13 +46,16 @@ class VXMFC_EXPORT CComboBox_E : public CWnd_E
 
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the box below @p pParent, at @p rect in its coordinates; it can be typed into unless
     /// the style is CBS_DROPDOWNLIST. WS_VSCROLL is dropped: the list scrolls by itself.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
     // Items
 
+    /// The number of items; CB_ERR without a widget.
     int GetCount() const;
     /// Index of the selected item; -1 for none.
     int GetCurSel() const;
@@ -64,6 +69,7 @@ class VXMFC_EXPORT CComboBox_E : public CWnd_E
     /// Returns the number of items left; CB_ERR without that item. No item is selected once the
     /// selected one is gone.
     int DeleteString(UINT nIndex);
+    /// Deletes all items, without a signal.
     void ResetContent();
     /// Drops the items as ResetContent() does, with the widget's signals.
     void Clear();
@@ -75,18 +81,22 @@ class VXMFC_EXPORT CComboBox_E : public CWnd_E
     /// Selects the first item of all that equals the text in any case or, when both are numbers, is
     /// less than 1 away from it, and returns its index; CB_ERR when there is none.
     int SelectString(int nStartAfter, const wchar_t* lpszString);
+    /// @{
     /// Length of an item's text, which goes to a buffer that must hold it; CB_ERR without that
     /// item.
     int GetLBText(int nIndex, wchar_t* lpszText) const;
     int GetLBText(int nIndex, CString_E& rString) const;
     int GetLBTextLen(int nIndex) const;
+    /// @}
     /// Gives an item a number; CB_ERR without that item.
     int SetItemData(int nIndex, DWORD_PTR dwItemData);
     /// An item's number, 0 when it was given none; -1 without that item.
     DWORD_PTR GetItemData(int nIndex) const;
+    /// @{
     /// The same for a pointer, which takes the number's place; null without one.
     int SetItemDataPtr(int nIndex, void* pData);
     void* GetItemDataPtr(int nIndex) const;
+    /// @}
     /// Nothing to prepare: returns @p nItems.
     int InitStorage(int nItems, UINT nBytes);
 
@@ -103,21 +113,29 @@ class VXMFC_EXPORT CComboBox_E : public CWnd_E
     BOOL SetEditSel(int nStartChar, int nEndChar);
     /// Limits what can be typed, to no limit for 0; CB_ERR without a line edit.
     BOOL LimitText(int nMaxChars);
+    /// @{
+    /// Copies, cuts or pastes text in the line edit.
     void Copy();
     void Cut();
     void Paste();
+    /// @}
     /// Shows a text while the box is empty; FALSE without a widget.
     BOOL SetCueBanner(const wchar_t* lpszText);
+    /// @{
+    /// The text shown while the box is empty.
     BOOL GetCueBanner(wchar_t* lpszText, int cchText) const;
     CString_E GetCueBanner() const;
+    /// @}
 
     // The list that drops down
 
     /// Does nothing: the user drops the list.
     void ShowDropDown(BOOL bShowIt = TRUE);
+    /// Whether the list is dropped.
     BOOL GetDroppedState() const;
     /// Fixes the width of the list and returns it.
     int SetDroppedWidth(UINT nWidth);
+    /// The width of the list.
     int GetDroppedWidth() const;
     /// The box with its list dropped, in screen coordinates.
     void GetDroppedControlRect(tagRECT* pRect) const;
@@ -131,6 +149,7 @@ class VXMFC_EXPORT CComboBox_E : public CWnd_E
     int SetTopIndex(int nIndex);
     /// How many items the list shows at once; FALSE for less than one.
     BOOL SetMinVisibleItems(int nMinVisibleItems);
+    /// How many items the list shows at once.
     int GetMinVisible() const;
     /// FALSE without a combo box and for null.
     BOOL GetComboBoxInfo(COMBOBOXINFO* pInfo) const;

@@ -26,17 +26,22 @@ struct tagCOMBOBOXEXITEMW
     int iIndent;        ///< kept only
     LPARAM lParam;      ///< the same as the item's data
 };
-using COMBOBOXEXITEM = tagCOMBOBOXEXITEMW;
-using COMBOBOXEXITEMW = tagCOMBOBOXEXITEMW;
-using PCOMBOBOXEXITEM = tagCOMBOBOXEXITEMW*;
+using COMBOBOXEXITEM = tagCOMBOBOXEXITEMW;   ///< its usual name
+using COMBOBOXEXITEMW = tagCOMBOBOXEXITEMW;  ///< its usual name
+using PCOMBOBOXEXITEM = tagCOMBOBOXEXITEMW*; ///< a pointer to one
 
+/// @{
+/// A member of an item that counts.
 inline constexpr UINT CBEIF_TEXT = 0x0001;
 inline constexpr UINT CBEIF_IMAGE = 0x0002;
 inline constexpr UINT CBEIF_SELECTEDIMAGE = 0x0004;
 inline constexpr UINT CBEIF_OVERLAY = 0x0008;
 inline constexpr UINT CBEIF_INDENT = 0x0010;
 inline constexpr UINT CBEIF_LPARAM = 0x0020;
+/// @}
 
+/// @{
+/// A message to a combo box with images.
 inline constexpr UINT CBEM_SETIMAGELIST = 0x0402;
 inline constexpr UINT CBEM_GETIMAGELIST = 0x0403;
 inline constexpr UINT CBEM_DELETEITEM = CB_DELETESTRING;
@@ -46,7 +51,9 @@ inline constexpr UINT CBEM_HASEDITCHANGED = 0x040A;
 inline constexpr UINT CBEM_INSERTITEM = 0x040B;
 inline constexpr UINT CBEM_SETITEM = 0x040C;
 inline constexpr UINT CBEM_GETITEM = 0x040D;
+/// @}
 
+/// A combo box with images.
 class VXMFC_EXPORT CComboBoxEx_E : public CComboBox_E
 {
     Q_OBJECT

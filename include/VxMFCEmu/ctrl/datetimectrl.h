@@ -16,6 +16,7 @@ QT_BEGIN_NAMESPACE
 class QCalendarWidget;
 QT_END_NAMESPACE
 
+/// A control for a date.
 class VXMFC_EXPORT CDateTimeCtrl_E : public CWnd_E
 {
     Q_OBJECT
@@ -25,11 +26,13 @@ class VXMFC_EXPORT CDateTimeCtrl_E : public CWnd_E
     /// Turns the calendar on.
     BOOL OnAttach() override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the field below @p pParent, at @p rect in its coordinates, showing the present date or
     /// time as DTS_SHORTDATEFORMAT, DTS_LONGDATEFORMAT or DTS_TIMEFORMAT tells. DTS_UPDOWN leaves
     /// the calendar out.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
     /// Sets the date; one that does not exist changes nothing. FALSE for null.
     BOOL SetTime(const _SYSTEMTIME* pTime = nullptr);
@@ -47,6 +50,7 @@ class VXMFC_EXPORT CDateTimeCtrl_E : public CWnd_E
     DWORD GetRange(_SYSTEMTIME* pMin, _SYSTEMTIME* pMax) const;
     /// The calendar that drops down, owned by the field; null when it shows no date or no calendar.
     QCalendarWidget* GetMonthCal() const;
+    /// Closes the calendar.
     void CloseMonthCal() const;
     /// The size that shows everything; FALSE on failure.
     BOOL GetIdealSize(tagSIZE* pSize) const;

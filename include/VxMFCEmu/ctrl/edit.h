@@ -19,14 +19,15 @@
 /// A balloon tip, as EM_SHOWBALLOONTIP brings it.
 struct tagEDITBALLOONTIP
 {
-    DWORD cbStruct; ///< not looked at
-    LPCWSTR pszTitle;
-    LPCWSTR pszText;
-    INT ttiIcon; ///< TTI_*, not shown
+    DWORD cbStruct;   ///< not looked at
+    LPCWSTR pszTitle; ///< first line of the tip
+    LPCWSTR pszText;  ///< the other lines
+    INT ttiIcon;      ///< TTI_*, not shown
 };
-using EDITBALLOONTIP = tagEDITBALLOONTIP;
-using PEDITBALLOONTIP = tagEDITBALLOONTIP*;
+using EDITBALLOONTIP = tagEDITBALLOONTIP;   ///< its usual name
+using PEDITBALLOONTIP = tagEDITBALLOONTIP*; ///< a pointer to one
 
+/// An edit control of one line or of many.
 class VXMFC_EXPORT CEdit_E : public CWnd_E
 {
     Q_OBJECT
@@ -40,10 +41,12 @@ class VXMFC_EXPORT CEdit_E : public CWnd_E
     /// that are made here.
     int OnCreate(tagCREATESTRUCTW* pCreate) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the edit below @p pParent, at @p rect in its coordinates. WS_VSCROLL and WS_HSCROLL
     /// give many lines scroll bars.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
     // Text
 
@@ -55,10 +58,14 @@ class VXMFC_EXPORT CEdit_E : public CWnd_E
     BOOL SetCueBanner(LPCWSTR lpszText, BOOL bDrawWhenFocused = FALSE);
     /// Copies the hint, cut to @p cchText characters with the terminator. FALSE without room.
     BOOL GetCueBanner(LPWSTR lpszText, int cchText) const;
+    /// The hint.
     CString_E GetCueBanner() const;
+    /// @{
     /// The longest text that the user can enter; 0 is as long as can be.
     void SetLimitText(UINT nMax);
     void LimitText(int nChars = 0) { SetLimitText(nChars > 0 ? static_cast<UINT>(nChars) : 0); }
+    /// @}
+    /// The longest text that the user can enter.
     UINT GetLimitText() const;
     /// Hides what is entered into a single line, 0 shows it; the widget's style draws the
     /// character.
@@ -77,23 +84,32 @@ class VXMFC_EXPORT CEdit_E : public CWnd_E
     /// line: start -1 puts the cursor after the text, (0, -1) selects all, else `end - start`
     /// characters from the start are selected, backwards for a negative number.
     void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
+    /// The same with the start in the low and the end in the high word.
     void SetSel(DWORD dwSelection, BOOL bNoScroll = FALSE);
 
     // State
 
+    /// @{
+    /// Whether the text counts as changed.
     BOOL GetModify() const;
     void SetModify(BOOL bModified = TRUE);
+    /// @}
     /// TRUE with a widget.
     BOOL SetReadOnly(BOOL bReadOnly = TRUE);
+    /// Whether there is a change to undo.
     BOOL CanUndo() const;
     /// Undoes the last change; FALSE for many lines without one, TRUE always for a single line.
     BOOL Undo();
+    /// Makes the changes so far final.
     void EmptyUndoBuffer();
     /// Clears the whole text (intended).
     void Clear();
+    /// @{
+    /// Copies, cuts or pastes at the selection.
     void Copy();
     void Cut();
     void Paste();
+    /// @}
 
     // Lines
 
@@ -129,6 +145,7 @@ class VXMFC_EXPORT CEdit_E : public CWnd_E
     void GetRect(tagRECT* pRect) const;
     /// Moves the window (intended).
     void SetRect(const tagRECT* pRect);
+    /// The same.
     void SetRectNP(const tagRECT* pRect) { SetRect(pRect); }
     /// Margins in pixels; EC_USEFONTINFO is the average width of a character.
     void SetMargins(UINT nLeft, UINT nRight);
@@ -136,12 +153,18 @@ class VXMFC_EXPORT CEdit_E : public CWnd_E
     DWORD GetMargins() const;
     /// Tab stops of many lines, each 32 dialog units; FALSE for a single line.
     void SetTabStops();
+    /// @{
+    /// The same at these distances, in dialog units.
     BOOL SetTabStops(const int& cxEachStop);
     BOOL SetTabStops(int nTabStops, const int* rgTabStops);
+    /// @}
 
+    /// @{
     /// Shows a tip below the edit. FALSE without a widget and for null.
     BOOL ShowBalloonTip(const tagEDITBALLOONTIP* pTip);
     BOOL ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon = 0);
+    /// @}
+    /// Hides the tip.
     BOOL HideBalloonTip();
 
     BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;

@@ -21,6 +21,7 @@ QT_BEGIN_NAMESPACE
 class QListWidgetItem;
 QT_END_NAMESPACE
 
+/// A list box.
 class VXMFC_EXPORT CListBox_E : public CWnd_E
 {
     Q_OBJECT
@@ -28,14 +29,17 @@ class VXMFC_EXPORT CListBox_E : public CWnd_E
 
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the list below @p pParent, at @p rect in its coordinates; LBS_MULTIPLESEL lets each
     /// item be selected on its own. WS_VSCROLL and WS_HSCROLL add nothing: the list has its own
     /// scroll bars.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
     // Items
 
+    /// The number of items; LB_ERR without a widget.
     int GetCount() const;
     /// Appends an item and returns its index, which is another one in a list that its form sorts.
     int AddString(const wchar_t* lpszItem);
@@ -44,19 +48,24 @@ class VXMFC_EXPORT CListBox_E : public CWnd_E
     /// Deletes an item with the widget that is shown in it, and returns the number of items left;
     /// LB_ERR without that item. No item is current once the current one is gone.
     int DeleteString(UINT nIndex);
+    /// Deletes all items.
     void ResetContent();
+    /// @{
     /// Length of an item's text, which goes to a buffer that must hold it; LB_ERR without that
     /// item.
     int GetText(int nIndex, wchar_t* lpszBuffer) const;
     int GetText(int nIndex, CString_E& rString) const;
     int GetTextLen(int nIndex) const;
+    /// @}
     /// Gives an item a number; LB_ERR without that item.
     int SetItemData(int nIndex, DWORD_PTR dwItemData);
     /// An item's number; -1 when it was given none and without that item.
     DWORD_PTR GetItemData(int nIndex) const;
+    /// @{
     /// The same for a pointer, which takes the number's place; null without one.
     int SetItemDataPtr(int nIndex, void* pData);
     void* GetItemDataPtr(int nIndex) const;
+    /// @}
     /// Nothing to prepare: returns @p nItems.
     int InitStorage(int nItems, UINT nBytes);
     /// The next item after @p nStartAfter, from the top again behind the last one, that begins with
@@ -102,14 +111,17 @@ class VXMFC_EXPORT CListBox_E : public CWnd_E
     int GetTopIndex() const;
     /// Scrolls the list; 0, or LB_ERR without that item.
     int SetTopIndex(int nIndex);
+    /// The height of an item in pixels; LB_ERR without that item.
     int GetItemHeight(int nIndex) const;
     /// 0, or LB_ERR without that item.
     int SetItemHeight(int nIndex, UINT cyItemHeight);
+    /// @{
     /// Do nothing: the list measures its items.
     void SetHorizontalExtent(int cxExtent);
     void SetTabStops();
     BOOL SetTabStops(int cxEachStop);
     BOOL SetTabStops(int nTabStops, int* rgTabStops);
+    /// @}
     /// The width of what the list can be scrolled over.
     int GetHorizontalExtent() const;
     /// Does nothing and returns 0.

@@ -14,6 +14,7 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
+/// A scroll bar control.
 class VXMFC_EXPORT CScrollBar_E : public CWnd_E
 {
     Q_OBJECT
@@ -21,14 +22,18 @@ class VXMFC_EXPORT CScrollBar_E : public CWnd_E
 
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the bar below @p pParent, at @p rect in its coordinates; SBS_VERT makes it stand.
     /// WS_VSCROLL is left out of the style.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
+    /// The position.
     int GetScrollPos() const;
     /// Moves the bar, which the widget keeps within its range, and returns the previous position.
     int SetScrollPos(int nPos, BOOL bRedraw = TRUE);
+    /// Shows or hides the bar.
     void ShowScrollBar(BOOL bShow = TRUE);
     /// TRUE with a widget, whatever the flags; changes nothing.
     BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH);

@@ -13,6 +13,7 @@
 
 #include <VxMFCEmu/wnd/window.h>
 
+/// A slider.
 class VXMFC_EXPORT CSliderCtrl_E : public CWnd_E
 {
     Q_OBJECT
@@ -20,25 +21,33 @@ class VXMFC_EXPORT CSliderCtrl_E : public CWnd_E
 
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the slider below @p pParent, at @p rect in its coordinates. TBS_VERT makes it stand,
     /// TBS_AUTOTICKS shows tics at the side that TBS_TOP and TBS_BOTH name.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
+    /// @{
+    /// The lowest and the highest position.
     void SetRange(int nMin, int nMax, BOOL bRedraw = FALSE);
     void SetRangeMin(int nMin, BOOL bRedraw = FALSE);
     void SetRangeMax(int nMax, BOOL bRedraw = FALSE);
     void GetRange(int& nMin, int& nMax) const;
     int GetRangeMin() const;
     int GetRangeMax() const;
+    /// @}
     /// Sets the step of the arrow keys and returns the previous one.
     int SetLineSize(int nSize);
+    /// The step of the arrow keys.
     int GetLineSize() const;
     /// Sets the step of the page keys and returns the previous one.
     int SetPageSize(int nSize);
+    /// The step of the page keys.
     int GetPageSize() const;
     /// Moves the slider; the widget keeps it within the range.
     void SetPos(int nPos);
+    /// The position.
     int GetPos() const;
 
     /// Sets a tic; the first and the last position have theirs anyway. FALSE outside of the range.
@@ -56,12 +65,15 @@ class VXMFC_EXPORT CSliderCtrl_E : public CWnd_E
     void SetSelection(int nMin, int nMax);
     /// 0 and 0 while there is none.
     void GetSelection(int& nMin, int& nMax) const;
+    /// Ends the selection.
     void ClearSel(BOOL bRedraw = FALSE);
 
+    /// @{
     /// The rectangles of the thumb and of the groove, in the slider's coordinates; empty on
     /// failure. Null is allowed.
     void GetThumbRect(tagRECT* pRect) const;
     void GetChannelRect(tagRECT* pRect) const;
+    /// @}
 
     BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 };

@@ -20,6 +20,7 @@ QT_END_NAMESPACE
 /// In the style word, makes a spin box of decimal numbers.
 inline constexpr DWORD VXUDS_DOUBLE = 0x00000200;
 
+/// A spin box.
 class VXMFC_EXPORT CSpinButtonCtrl_E : public CWnd_E
 {
     Q_OBJECT
@@ -27,21 +28,31 @@ class VXMFC_EXPORT CSpinButtonCtrl_E : public CWnd_E
 
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the spin box below @p pParent, at @p rect in its coordinates; UDS_WRAP makes it wrap
     /// around.
     BOOL Create(DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
 
+    /// @{
+    /// Sets the range.
     void SetRange(short nLower, short nUpper);
     void SetRange32(int nLower, int nUpper);
+    /// @}
     /// The upper limit in the low word, the lower one in the high word; 0 on failure.
     DWORD GetRange() const;
+    /// @{
+    /// Gives the limits.
     void GetRange(int& nLower, int& nUpper) const;
     void GetRange32(int& nLower, int& nUpper) const;
+    /// @}
+    /// @{
     /// Sets a position within the range and returns the previous one; -1, changing nothing, for one
     /// outside of it.
     int SetPos(int nPos);
     int SetPos32(int nPos);
+    /// @}
     /// -1 on failure.
     int GetPos() const;
     /// The same; @p pbError, which may be null, tells whether it failed.
@@ -57,14 +68,18 @@ class VXMFC_EXPORT CSpinButtonCtrl_E : public CWnd_E
     void SetBuddy(QLineEdit* pBuddy);
     /// The same with the line edit of a window; null, since the previous buddy is gone.
     CWnd_E* SetBuddy(CWnd_E* pWndBuddy);
+    /// Does nothing.
     void SetBuddy(std::nullptr_t);
+    /// The line edit of the spin box.
     QLineEdit* GetBuddy() const;
     /// Shows whole numbers to this base and returns the previous one; -1 for a decimal spin box, 0
     /// for a base below 2 or above 36.
     int SetBase(int nBase);
+    /// The base of the numbers shown.
     int GetBase() const;
     /// Nothing for a spin box of whole numbers, of which GetDecimals() is 0.
     void SetDecimals(int nDecimals);
+    /// The number of decimals.
     int GetDecimals() const;
 
     /// The selection of the line edit; the cursor position twice when nothing is selected.

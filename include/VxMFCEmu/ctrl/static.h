@@ -18,6 +18,7 @@ class QIcon;
 class QPixmap;
 QT_END_NAMESPACE
 
+/// A label.
 class VXMFC_EXPORT CStatic_E : public CWnd_E
 {
     Q_OBJECT
@@ -25,9 +26,11 @@ class VXMFC_EXPORT CStatic_E : public CWnd_E
 
     BOOL AttachDefault(QWidget* pParent) override;
     using CWnd_E::Create;
+    /// @{
     /// Makes the label below @p pParent, at @p rect in its coordinates, with a text; null is empty.
     BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, QWidget* pParent);
     BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID);
+    /// @}
     /// The same for a label without an id of its own. A null parent is taken for a widget.
     template <typename Window, std::enable_if_t<std::is_base_of_v<CWnd_E, Window>, int> = 0>
     BOOL Create(LPCWSTR lpszText, DWORD dwStyle, const tagRECT& rect, Window* pParent)
@@ -37,9 +40,11 @@ class VXMFC_EXPORT CStatic_E : public CWnd_E
 
     /// Shows @p bitmap instead of the text and returns the previous one.
     QPixmap SetBitmap(const QPixmap& bitmap);
+    /// The image that is shown; empty when there is none.
     QPixmap GetBitmap() const;
     /// Sets the window icon of the widget and returns the previous one.
     QIcon SetIcon(const QIcon& icon);
+    /// The window icon of the widget.
     QIcon GetIcon() const;
 
     BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;

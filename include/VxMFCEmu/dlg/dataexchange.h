@@ -13,9 +13,11 @@
 
 class CWnd_E;
 
+/// One run of data exchange.
 class VXMFC_EXPORT CDataExchange_E
 {
 public:
+    /// A run of @p pDlgWnd, from controls to variables for TRUE.
     CDataExchange_E(CWnd_E* pDlgWnd, BOOL bSaveAndValidate)
         : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd)
     {
@@ -27,11 +29,13 @@ public:
     QWidget* GetDlgQWidget() const;
     /// Makes @p pCtrl the control that a failure is about.
     void PrepareCtrl(QWidget* pCtrl) { m_pLastControl = pCtrl; }
+    /// @{
     /// Ends the exchange by throwing the QString "DataExchange Error", which UpdateData() catches.
     /// When saving, the current control gets the focus and its text is selected, and the dialog
     /// will show @p pszMessage unless it is null or empty, or another one is still to be shown.
     [[noreturn]] void Fail(const wchar_t* pszMessage = nullptr);
     [[noreturn]] void Fail(const QString& strMessage);
+    /// @}
 
     BOOL m_bSaveAndValidate; ///< controls to variables when not 0
     CWnd_E* m_pDlgWnd;       ///< may be null; then no control is found

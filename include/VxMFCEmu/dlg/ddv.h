@@ -21,6 +21,8 @@ VXMFC_EXPORT void DDV_MaxChars(CDataExchange_E* pDX, const CString_E& value, int
     VXMFC_EXPORT void name(CDataExchange_E* pDX, Type value, Type minVal, Type maxVal);
 
 // clang-format off
+/// @{
+/// Between two values, both included.
 VXMFC_DDV_MINMAX(DDV_MinMaxByte, BYTE)
 VXMFC_DDV_MINMAX(DDV_MinMaxShort, short)
 VXMFC_DDV_MINMAX(DDV_MinMaxInt, int)
@@ -33,12 +35,15 @@ VXMFC_DDV_MINMAX(DDV_MinMaxFloat, float)
 // clang-format on
 VXMFC_EXPORT void DDV_MinMaxDouble(CDataExchange_E* pDX, const double& value, double minVal,
                                    double maxVal);
+/// @}
 
 /// Sets the range of the slider that was exchanged last, in both directions, and checks the value.
 VXMFC_EXPORT void DDV_MinMaxSlider(CDataExchange_E* pDX, DWORD value, DWORD minVal, DWORD maxVal);
 
+/// @{
 /// Between two moments or days; a null limit is none. Both directions set the range of the control.
 VXMFC_EXPORT void DDV_MinMaxDateTime(CDataExchange_E* pDX, const QDateTime& value,
                                      const QDateTime* pMin, const QDateTime* pMax);
 VXMFC_EXPORT void DDV_MinMaxMonth(CDataExchange_E* pDX, const QDate& value, const QDate* pMin,
                                   const QDate* pMax);
+/// @}

@@ -31,10 +31,11 @@ class ModalLoop;
 /// The handler that OnCmdMsg() found, for whoever asked only for it.
 struct AFX_CMDHANDLERINFO_E
 {
-    CCmdTarget_E* pTarget;
-    AFX_PMSG_E pmf;
+    CCmdTarget_E* pTarget; ///< whose handler it is
+    AFX_PMSG_E pmf;        ///< the handler
 };
 
+/// A dialog.
 class VXMFC_EXPORT CDialog_E : public CWnd_E
 {
     Q_OBJECT
@@ -42,8 +43,12 @@ class VXMFC_EXPORT CDialog_E : public CWnd_E
 
     /// @p pParent is the parent of a modal dialog; the host's main frame when null.
     explicit CDialog_E(QWidget* pParent = nullptr);
+    /// @{
+    /// A dialog after the template with this name or id, which are kept; @p pParent is the parent
+    /// of a modal one.
     explicit CDialog_E(const wchar_t* lpszTemplateName, CWnd_E* pParent = nullptr);
     explicit CDialog_E(UINT nIDTemplate, CWnd_E* pParent = nullptr);
+    /// @}
     ~CDialog_E() override;
 
     /// Builds the template's form, or an empty QDialog, below @p pParent and attaches it as owned.
@@ -52,9 +57,11 @@ class VXMFC_EXPORT CDialog_E : public CWnd_E
     using CWnd_E::AttachDefault;
     // CWnd_E's forms with a style stay hidden: `Create(IDD_GAUGE, NULL)` would fit two functions.
     BOOL Create(QWidget* pParent) override { return CWnd_E::Create(pParent); }
+    /// @{
     /// Makes a modeless dialog, which is shown only if the form's style has WS_VISIBLE.
     virtual BOOL Create(UINT nIDTemplate, CWnd_E* pParent = nullptr);
     virtual BOOL Create(const wchar_t* lpszTemplateName, CWnd_E* pParent = nullptr);
+    /// @}
     /// Makes the dialog, runs it until it is ended and destroys it. Returns what EndDialog() was
     /// called with (IDCANCEL for 0, and when the widget is deleted meanwhile), or IDABORT when the
     /// dialog could not be made.
@@ -63,6 +70,7 @@ class VXMFC_EXPORT CDialog_E : public CWnd_E
     virtual BOOL OnInitDialog();
     /// Saves the controls with UpdateData() and ends the dialog when they are valid.
     virtual void OnOK();
+    /// Ends the dialog with IDCANCEL.
     virtual void OnCancel();
     /// FALSE here.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO_E* pHandlerInfo);
@@ -71,15 +79,19 @@ class VXMFC_EXPORT CDialog_E : public CWnd_E
     void EndDialog(int nResult);
 
     BOOL PreTranslateMessage(tagMSG* pMsg) override;
+    /// Keys and the close button of the dialog, besides what CWnd_E does.
     bool eventFilter(QObject* watched, QEvent* e) override;
     void ConnectSlotsFrom(QObject* pFrom, bool bKeepOld) override;
 
 public Q_SLOTS:
+    /// @{
+    /// What `QDialog` does when it is closed: as OnOK() and OnCancel().
     void accept();
     void reject();
+    /// @}
 
 protected:
-    QPointer<QWidget> m_pParentWidget;
+    QPointer<QWidget> m_pParentWidget;           ///< of a modal dialog
     const wchar_t* m_lpszTemplateName = nullptr; ///< null without a template
 
 private:

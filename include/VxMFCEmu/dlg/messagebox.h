@@ -15,6 +15,8 @@
 
 #include <VxMFCEmu/types.h>
 
+/// @{
+/// The buttons of a box.
 inline constexpr UINT MB_OK = 0x00000000;
 inline constexpr UINT MB_OKCANCEL = 0x00000001;
 inline constexpr UINT MB_ABORTRETRYIGNORE = 0x00000002;
@@ -22,7 +24,10 @@ inline constexpr UINT MB_YESNOCANCEL = 0x00000003;
 inline constexpr UINT MB_YESNO = 0x00000004;
 inline constexpr UINT MB_RETRYCANCEL = 0x00000005;
 inline constexpr UINT MB_CANCELTRYCONTINUE = 0x00000006;
+/// @}
 
+/// @{
+/// The icon of a box.
 inline constexpr UINT MB_ICONHAND = 0x00000010;
 inline constexpr UINT MB_ICONQUESTION = 0x00000020;
 inline constexpr UINT MB_ICONEXCLAMATION = 0x00000030;
@@ -32,12 +37,18 @@ inline constexpr UINT MB_ICONWARNING = MB_ICONEXCLAMATION;
 inline constexpr UINT MB_ICONERROR = MB_ICONHAND;
 inline constexpr UINT MB_ICONINFORMATION = MB_ICONASTERISK;
 inline constexpr UINT MB_ICONSTOP = MB_ICONHAND;
+/// @}
 
+/// @{
+/// The default button of a box.
 inline constexpr UINT MB_DEFBUTTON1 = 0x00000000;
 inline constexpr UINT MB_DEFBUTTON2 = 0x00000100;
 inline constexpr UINT MB_DEFBUTTON3 = 0x00000200;
 inline constexpr UINT MB_DEFBUTTON4 = 0x00000300;
+/// @}
 
+/// @{
+/// How a box behaves; mostly ignored, see the page above.
 inline constexpr UINT MB_APPLMODAL = 0x00000000;
 inline constexpr UINT MB_SYSTEMMODAL = 0x00001000;
 inline constexpr UINT MB_TASKMODAL = 0x00002000;
@@ -49,13 +60,19 @@ inline constexpr UINT MB_TOPMOST = 0x00040000;
 inline constexpr UINT MB_RIGHT = 0x00080000;
 inline constexpr UINT MB_RTLREADING = 0x00100000;
 inline constexpr UINT MB_SERVICE_NOTIFICATION = 0x00200000;
+/// @}
 
+/// @{
+/// A part of the type word.
 inline constexpr UINT MB_TYPEMASK = 0x0000000F;
 inline constexpr UINT MB_ICONMASK = 0x000000F0;
 inline constexpr UINT MB_DEFMASK = 0x00000F00;
 inline constexpr UINT MB_MODEMASK = 0x00003000;
 inline constexpr UINT MB_MISCMASK = 0x0000C000;
+/// @}
 
+/// @{
+/// The id of a button.
 inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
 inline constexpr int IDABORT = 3;
@@ -67,6 +84,7 @@ inline constexpr int IDCLOSE = 8;
 inline constexpr int IDHELP = 9;
 inline constexpr int IDTRYAGAIN = 10;
 inline constexpr int IDCONTINUE = 11;
+/// @}
 
 /// Shows @p lpText (null is empty) under the title @p lpCaption (null is "Error") over @p hWnd,
 /// which may be null. Returns the id of the button; 0 for an unknown button set and when the owner

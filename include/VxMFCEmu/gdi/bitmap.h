@@ -18,16 +18,16 @@ class CDC_E;
 /// The form of a bitmap.
 struct tagBITMAP
 {
-    LONG bmType; ///< 0
-    LONG bmWidth;
-    LONG bmHeight;
+    LONG bmType;       ///< 0
+    LONG bmWidth;      ///< pixels
+    LONG bmHeight;     ///< pixels
     LONG bmWidthBytes; ///< bytes from one row to the next
     WORD bmPlanes;     ///< 1
-    WORD bmBitsPixel;
-    LPVOID bmBits; ///< the pixels, the bitmap's or those handed to SetBitmapBits()
+    WORD bmBitsPixel;  ///< the depth
+    LPVOID bmBits;     ///< the pixels, the bitmap's or those handed to SetBitmapBits()
 };
-using BITMAP = tagBITMAP;
-using LPBITMAP = tagBITMAP*;
+using BITMAP = tagBITMAP;    ///< its usual name
+using LPBITMAP = tagBITMAP*; ///< a pointer to one
 
 /// Sets the image format of a depth; false, leaving @p format alone, for any depth but 1, 4, 8, 16
 /// and 32.
@@ -42,6 +42,7 @@ class VXMFC_EXPORT CBitmap_E : public CGdiObject_E
     /// An empty object.
     CBitmap_E() = default;
 
+    /// FromHandle() of the base, as an object of this class.
     static CBitmap_E* FromHandle(HBITMAP hBitmap);
 
     /// Loads an image file of any format that Qt knows; FALSE, keeping the old bitmap, if it fails.
@@ -54,6 +55,7 @@ class VXMFC_EXPORT CBitmap_E : public CGdiObject_E
     BOOL CreateBitmapIndirect(const tagBITMAP* pBitmap);
     /// A bitmap of 32 bits with undefined pixels; the device context is ignored.
     BOOL CreateCompatibleBitmap(CDC_E* pDC, int nWidth, int nHeight);
+    /// The same.
     BOOL CreateDiscardableBitmap(CDC_E* pDC, int nWidth, int nHeight);
 
     /// Describes the bitmap; 0 for an empty object and for null, else 1.

@@ -8,6 +8,8 @@
 
 #include <utility>
 
+/// @{
+/// A brush style.
 inline constexpr UINT BS_SOLID = 0;
 inline constexpr UINT BS_NULL = 1;
 inline constexpr UINT BS_HOLLOW = 1;
@@ -19,25 +21,29 @@ inline constexpr UINT BS_DIBPATTERNPT = 6;
 inline constexpr UINT BS_PATTERN8X8 = 7;
 inline constexpr UINT BS_DIBPATTERN8X8 = 8;
 inline constexpr UINT BS_MONOPATTERN = 9;
+/// @}
 
+/// @{
+/// A hatch style.
 inline constexpr int HS_HORIZONTAL = 0;
 inline constexpr int HS_VERTICAL = 1;
 inline constexpr int HS_FDIAGONAL = 2;
 inline constexpr int HS_BDIAGONAL = 3;
 inline constexpr int HS_CROSS = 4;
 inline constexpr int HS_DIAGCROSS = 5;
+/// @}
 
 class CBitmap_E;
 
 /// What a brush is made from.
 struct tagLOGBRUSH
 {
-    UINT lbStyle; ///< BS_SOLID, BS_HATCHED, ...
-    COLORREF lbColor;
+    UINT lbStyle;      ///< BS_SOLID, BS_HATCHED, ...
+    COLORREF lbColor;  ///< of a solid or hatched brush
     ULONG_PTR lbHatch; ///< HS_HORIZONTAL, ... of a hatched brush
 };
-using LOGBRUSH = tagLOGBRUSH;
-using LPLOGBRUSH = tagLOGBRUSH*;
+using LOGBRUSH = tagLOGBRUSH;    ///< its usual name
+using LPLOGBRUSH = tagLOGBRUSH*; ///< a pointer to one
 
 /// A brush; its handle is a `QBrush`.
 class VXMFC_EXPORT CBrush_E : public CGdiObject_E
@@ -54,8 +60,10 @@ class VXMFC_EXPORT CBrush_E : public CGdiObject_E
     /// As CreatePatternBrush().
     explicit CBrush_E(CBitmap_E* pBitmap);
 
+    /// FromHandle() of the base, as an object of this class.
     static CBrush_E* FromHandle(HBRUSH hBrush);
 
+    /// Makes a brush of one colour.
     BOOL CreateSolidBrush(COLORREF crColor);
     /// A brush that draws nothing for an unknown hatch.
     BOOL CreateHatchBrush(int nHatch, COLORREF crColor);

@@ -6,13 +6,19 @@
 
 #include <QtGui/QColor>
 
+/// @{
+/// No colour, or the default one.
 inline constexpr COLORREF CLR_NONE = 0xFFFFFFFF;
 inline constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
 inline constexpr COLORREF CLR_DEFAULT = 0xFF000000;
+/// @}
 
+/// @{
+/// One part of a colour.
 constexpr BYTE GetRValue(COLORREF color) noexcept { return static_cast<BYTE>(color & 0xFFU); }
 constexpr BYTE GetGValue(COLORREF color) noexcept { return static_cast<BYTE>(color >> 8 & 0xFFU); }
 constexpr BYTE GetBValue(COLORREF color) noexcept { return static_cast<BYTE>(color >> 16 & 0xFFU); }
+/// @}
 
 /// The colour of three parts, of each of which the low byte counts.
 constexpr COLORREF RGB(int red, int green, int blue) noexcept

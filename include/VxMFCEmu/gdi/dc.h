@@ -85,6 +85,7 @@ public:
     /// Takes the attributes put there last; the argument is ignored. Always 1.
     virtual BOOL RestoreDC(int nSavedDC);
 
+    /// GetSafeHdc().
     operator HDC() const { return GetSafeHdc(); }
     /// The handle; null when there is none, also for a null object pointer.
     HDC GetSafeHdc() const;
@@ -105,10 +106,12 @@ public:
 
     /// Sets the font and returns the previous one; null changes nothing.
     QFont SelectObject(CFont_E* pFont);
+    /// @{
     /// By value: sets it and returns the previous one.
     QFont SelectObject(const QFont& font);
     QPen SelectObject(const QPen& pen);
     QBrush SelectObject(const QBrush& brush);
+    /// @}
     /// Sets the pen, unless it is null or empty, and returns an object that holds the previous one:
     /// the one selected then, if it still holds it, or else a temporary one that lives until the
     /// next idle time. Never null.
@@ -134,29 +137,36 @@ public:
     /// Nothing.
     void RealizePalette();
 
+    /// The colour of the background brush.
     VxColorResult GetBkColor() const;
     /// Makes the background brush a solid one and returns the previous colour.
     VxColorResult SetBkColor(COLORREF crColor);
     /// The same with a colour-table entry; an index outside 0 to 255 changes nothing.
     VxColorResult SetBkColor(int nIndex);
+    /// @{
+    /// The same with any colour.
     VxColorResult SetBkColor(const QColor& color);
     VxColorResult SetBkColor(Qt::GlobalColor color) { return SetBkColor(QColor(color)); }
     VxColorResult SetBkColor(unsigned long crColor)
     {
         return SetBkColor(static_cast<COLORREF>(crColor));
     }
+    /// @}
     /// The text colour, or the pen's colour while none is set.
     VxColorResult GetTextColor() const;
     /// Sets the text colour and returns the previous one; 0xFFFFFFFF sets none.
     VxColorResult SetTextColor(COLORREF crColor);
     /// The same with a colour-table entry; an index outside 0 to 255 changes nothing.
     VxColorResult SetTextColor(int nIndex);
+    /// @{
+    /// The same with any colour.
     VxColorResult SetTextColor(const QColor& color);
     VxColorResult SetTextColor(Qt::GlobalColor color) { return SetTextColor(QColor(color)); }
     VxColorResult SetTextColor(unsigned long crColor)
     {
         return SetTextColor(static_cast<COLORREF>(crColor));
     }
+    /// @}
     /// The `Qt::BGMode`: 0 transparent, 1 opaque.
     int GetBkMode() const;
     /// Sets the mode, TRANSPARENT or with any other value opaque. Differs from Win32: the result is
@@ -167,26 +177,35 @@ public:
     /// Sets how colours mix with what is there; an unknown mode changes nothing. Returns the
     /// previous mode.
     int SetROP2(int nDrawMode);
+    /// The mode that SetPolyFillMode() has set, at first ALTERNATE.
     int GetPolyFillMode() const { return m_modes.polyFill; }
     /// ALTERNATE or WINDING; returns the previous mode, 0 for an unknown one.
     int SetPolyFillMode(int nPolyFillMode);
+    /// The mode that SetStretchBltMode() has set, at first BLACKONWHITE.
     int GetStretchBltMode() const { return m_modes.stretch; }
     /// HALFTONE smooths stretched images, the other modes do not. Returns the previous mode, 0 for
     /// an unknown one.
     int SetStretchBltMode(int nStretchMode);
+    /// What SetArcDirection() has set, at first AD_COUNTERCLOCKWISE.
     int GetArcDirection() const { return m_modes.arc; }
     /// AD_COUNTERCLOCKWISE or AD_CLOCKWISE; returns the previous one, 0 for an unknown one.
     int SetArcDirection(int nArcDirection);
+    /// The flags that SetTextAlign() has set, at first TA_LEFT.
     UINT GetTextAlign() const { return m_modes.textAlign; }
     /// TA_* flags for TextOut(); returns the previous ones.
     UINT SetTextAlign(UINT nFlags);
+    /// @{
+    /// Where the brush's pattern begins; setting it gives the previous place.
     CPoint_E GetBrushOrg() const;
     CPoint_E SetBrushOrg(int x, int y);
+    /// @}
 
     // Lines and shapes. 1 means drawn. FALSE for a null rectangle, too few or null points, and,
     // except where it is always 1, without a device; Rectangle() and Ellipse() give 1 then.
 
+    /// Where LineTo() and its kin begin.
     CPoint_E GetCurrentPosition() const { return {m_x, m_y}; }
+    /// @{
     /// Sets the current position. Always 1.
     BOOL MoveTo(int x, int y)
     {
@@ -195,6 +214,8 @@ public:
         return 1;
     }
     BOOL MoveTo(tagPOINT point) { return MoveTo(point.x, point.y); }
+    /// @}
+    /// @{
     /// Draws a line to a point, which it includes, and moves there. Always 1.
     BOOL LineTo(int x, int y)
     {
@@ -202,54 +223,74 @@ public:
         return MoveTo(x, y);
     }
     BOOL LineTo(tagPOINT point) { return LineTo(point.x, point.y); }
+    /// @}
+    /// Lines from point to point.
     BOOL Polyline(const tagPOINT* pPoints, int nCount);
     /// From the current position, which moves to the last point.
     BOOL PolylineTo(const tagPOINT* pPoints, int nCount);
     /// Curves through points 0, 3, 6, ...; the others are control points.
     BOOL PolyBezier(const tagPOINT* pPoints, int nCount);
+    /// The same from the current position, which moves to the last point.
     BOOL PolyBezierTo(const tagPOINT* pPoints, int nCount);
     /// Closed, and filled as SetPolyFillMode() says.
     BOOL Polygon(const tagPOINT* pPoints, int nCount);
+    /// Outlined with the pen and filled with the brush.
     BOOL Rectangle(int l, int t, int r, int b);
     /// FALSE for null.
     BOOL Rectangle(const tagRECT* pRect);
+    /// The ellipse in a rectangle.
     BOOL Ellipse(const tagRECT* pRect);
     /// Differs from Win32 and from Rectangle(): the third and fourth arguments are the width and
     /// the height.
     BOOL Ellipse(int x, int y, int cx, int cy);
+    /// @{
     /// The corners are ellipses of @p cx by @p cy.
     BOOL RoundRect(int l, int t, int r, int b, int cx, int cy);
     BOOL RoundRect(const tagRECT* pRect, tagPOINT point);
+    /// @}
+    /// @{
     /// Part of the ellipse in the rectangle, between the rays from its centre through two points,
     /// all of it when the rays are one. FALSE when the rectangle is empty.
     BOOL Arc(int l, int t, int r, int b, int xStart, int yStart, int xEnd, int yEnd);
     BOOL Arc(const tagRECT* pRect, tagPOINT start, tagPOINT end);
+    /// @}
+    /// @{
+    /// The same with the rays, or with a line between their ends, and filled.
     BOOL Pie(int l, int t, int r, int b, int xStart, int yStart, int xEnd, int yEnd);
     BOOL Pie(const tagRECT* pRect, tagPOINT start, tagPOINT end);
     BOOL Chord(int l, int t, int r, int b, int xStart, int yStart, int xEnd, int yEnd);
     BOOL Chord(const tagRECT* pRect, tagPOINT start, tagPOINT end);
+    /// @}
+    /// @{
     /// Draws one point and leaves a plain pen of the previous pen's colour. Returns @p color.
     VxColorResult SetPixel(int x, int y, const VxColor& color);
     VxColorResult SetPixel(tagPOINT point, const VxColor& color)
     {
         return SetPixel(point.x, point.y, color);
     }
+    /// @}
+    /// @{
     /// The colour of a pixel of an image or a widget; 0xFFFFFFFF outside of the clip and on other
     /// devices.
     COLORREF GetPixel(int x, int y) const;
     COLORREF GetPixel(tagPOINT point) const { return GetPixel(point.x, point.y); }
+    /// @}
 
     // Fills
 
+    /// @{
     /// Without an outline.
     void FillSolidRect(int x, int y, int cx, int cy, const VxColor& color);
     void FillSolidRect(const tagRECT* pRect, const VxColor& color);
+    /// @}
     /// Nothing for an empty brush.
     void FillRect(const tagRECT* pRect, CBrush_E* pBrush);
+    /// @{
     /// A frame one pixel wide, whose left and top sides have one colour and whose others another.
     void Draw3dRect(int x, int y, int cx, int cy, const VxColor& topLeft,
                     const VxColor& bottomRight);
     void Draw3dRect(const tagRECT* pRect, const VxColor& topLeft, const VxColor& bottomRight);
+    /// @}
     /// See DrawEdge_E().
     BOOL DrawEdge(tagRECT* pRect, UINT nEdge, UINT nFlags);
     /// Inverts a dotted frame: drawn twice, it is gone.
@@ -276,6 +317,7 @@ public:
 
     // Text
 
+    /// @{
     /// The advance and the height of one line, in pixels.
     CSize_E GetOutputTextExtent(const CString_E& str) const;
     CSize_E GetOutputTextExtent(const wchar_t* lpszString, int nCount) const;
@@ -284,24 +326,31 @@ public:
     {
         return GetOutputTextExtent(lpszString, nCount);
     }
+    /// @}
+    /// @{
     /// FALSE for null.
     BOOL GetTextMetrics(tagTEXTMETRICW* pMetrics) const;
     BOOL GetOutputTextMetrics(tagTEXTMETRICW* pMetrics) const { return GetTextMetrics(pMetrics); }
+    /// @}
     /// Draws text in a rectangle and returns the height of one line. Differs from Win32: @p nFormat
     /// holds Qt flags (see ToQtTextFlag()), the rectangle never changes, and the pen is a plain one
     /// of its colour afterwards.
     int DrawText(const CString_E& str, tagRECT* pRect, int nFormat);
     /// The same with the first @p nCount characters; all of them when negative.
     int DrawText(const wchar_t* lpszString, int nCount, tagRECT* pRect, int nFormat);
+    /// @{
     /// Draws text at a point as SetTextAlign() says, in the text colour.
     BOOL TextOut(int x, int y, const CString_E& str);
     BOOL TextOut(int x, int y, const wchar_t* lpszString, int nCount);
+    /// @}
+    /// @{
     /// The same, with the rectangle filled in the background colour (ETO_OPAQUE) or as a clip
     /// (ETO_CLIPPED); @p pDxWidths are distances from character to character.
     BOOL ExtTextOut(int x, int y, UINT nOptions, const tagRECT* pRect, const wchar_t* lpszString,
                     UINT nCount, const int* pDxWidths);
     BOOL ExtTextOut(int x, int y, UINT nOptions, const tagRECT* pRect, const CString_E& str,
                     const int* pDxWidths);
+    /// @}
 
     // Clip
 
@@ -310,25 +359,33 @@ public:
     /// Sets the clip as the `Qt::ClipOperation` @p nMode says: 0 none, 1 replace, 2 intersect.
     /// 0; 0xFFFFFFFF when the region is null or empty.
     UINT SelectClipRgn(CRgn_E* pRgn, int nMode);
+    /// @{
     /// Differs from Win32: the clip is intersected with the rectangle. Always 0.
     int ExcludeClipRect(int l, int t, int r, int b);
     int ExcludeClipRect(const tagRECT* pRect);
+    /// @}
+    /// @{
     /// Intersects the clip with the rectangle. Always 0.
     int IntersectClipRect(int l, int t, int r, int b);
     int IntersectClipRect(const tagRECT* pRect);
+    /// @}
+    /// @{
     /// Differs from Win32: moves all drawing that follows, not only the clip. Always 0.
     int OffsetClipRgn(int x, int y);
     int OffsetClipRgn(tagSIZE size) { return OffsetClipRgn(size.cx, size.cy); }
+    /// @}
     /// Takes the rectangle of a window's widget, in its parent's coordinates, out of the clip, or
     /// out of the whole device without one. Always 0.
     int ExcludeUpdateRgn(CWnd_E* pWnd);
     /// The bounds of the clip, of the device without one. 1 when it is empty, 2 for a rectangle, 3
     /// for more; 0 for null and without a device.
     int GetClipBox(tagRECT* pRect) const;
+    /// @{
     /// Whether a point, or part of a rectangle, is inside of the clip.
     BOOL PtVisible(int x, int y) const;
     BOOL PtVisible(tagPOINT point) const { return PtVisible(point.x, point.y); }
     BOOL RectVisible(const tagRECT* pRect) const;
+    /// @}
 
     // Coordinates. Origins and extents end at 2^27 in either direction. Where an axis runs against
     // that of the device (MM_LOMETRIC and kin, extents of different sign), text and icons stand
@@ -336,32 +393,50 @@ public:
     // of source and target say. The extents count in the modes MM_ISOTROPIC and MM_ANISOTROPIC
     // only, and begin as the size of the device.
 
+    /// The MM_* mode, at first MM_TEXT.
     int GetMapMode() const { return m_modes.map; }
     /// Returns the previous mode, 0 for an unknown one.
     int SetMapMode(int nMapMode);
+    /// Where the origin lies on the device.
     CPoint_E GetViewportOrg() const;
+    /// @{
     /// Moves the viewport and returns where it was.
     CPoint_E SetViewportOrg(int x, int y);
     CPoint_E SetViewportOrg(tagPOINT point) { return SetViewportOrg(point.x, point.y); }
     CPoint_E OffsetViewportOrg(int x, int y);
+    /// @}
+    /// @{
+    /// The extent of the viewport; setting it gives the previous one.
     CSize_E GetViewportExt() const;
     CSize_E SetViewportExt(int cx, int cy);
     CSize_E SetViewportExt(tagSIZE size) { return SetViewportExt(size.cx, size.cy); }
+    /// @}
+    /// @{
+    /// Which point lies at the origin of the viewport; setting and moving it give the previous one.
     CPoint_E GetWindowOrg() const;
     CPoint_E SetWindowOrg(int x, int y);
     CPoint_E SetWindowOrg(tagPOINT point) { return SetWindowOrg(point.x, point.y); }
     CPoint_E OffsetWindowOrg(int x, int y);
+    /// @}
+    /// @{
+    /// The extent of the window; setting it gives the previous one.
     CSize_E GetWindowExt() const;
     CSize_E SetWindowExt(int cx, int cy);
     CSize_E SetWindowExt(tagSIZE size) { return SetWindowExt(size.cx, size.cy); }
+    /// @}
+    /// @{
     /// Each point mapped by the painter's device transform; nothing for null.
     void LPtoDP(tagPOINT* pPoints, int nCount = 1) const;
     void LPtoDP(tagRECT* pRect) const;
+    /// @}
     /// The size is mapped as if it were a point.
     void LPtoDP(tagSIZE* pSize) const;
+    /// @{
+    /// LPtoDP() the other way round.
     void DPtoLP(tagPOINT* pPoints, int nCount = 1) const;
     void DPtoLP(tagRECT* pRect) const;
     void DPtoLP(tagSIZE* pSize) const;
+    /// @}
     /// Some of the capabilities of the device (sizes, resolution, depth); 0 for others.
     int GetDeviceCaps(int nIndex) const;
 
@@ -377,9 +452,11 @@ public:
     /// The same for those pixels that have not the colour @p crTransparent.
     BOOL TransparentBlt(int x, int y, int cx, int cy, CDC_E* pSrcDC, int xSrc, int ySrc, int cxSrc,
                         int cySrc, COLORREF crTransparent);
+    /// @{
     /// Draws an icon, a `QIcon*`, in 32 x 32 pixels; FALSE for null.
     BOOL DrawIcon(int x, int y, HICON hIcon);
     BOOL DrawIcon(tagPOINT point, HICON hIcon) { return DrawIcon(point.x, point.y, hIcon); }
+    /// @}
 
 private:
     struct Modes
@@ -412,9 +489,9 @@ private:
     int m_y = 0;
 
 public:
-    HDC m_hDC = nullptr;
-    HDC m_hAttribDC = nullptr;
-    CPalette_E m_palette;
+    HDC m_hDC = nullptr;       ///< the handle
+    HDC m_hAttribDC = nullptr; ///< the attribute handle
+    CPalette_E m_palette;      ///< the colours by index
 
 private:
     QVector<tagPALETTEENTRY> m_colorTable;

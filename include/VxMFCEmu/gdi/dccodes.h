@@ -6,11 +6,14 @@
 
 #include <VxMFCEmu/types.h>
 
-// Background modes
+/// @{
+/// A background mode.
 inline constexpr int TRANSPARENT = 1;
 inline constexpr int OPAQUE = 2;
+/// @}
 
-// Stock objects
+/// @{
+/// An object of the stock.
 inline constexpr int WHITE_BRUSH = 0;
 inline constexpr int LTGRAY_BRUSH = 1;
 inline constexpr int GRAY_BRUSH = 2;
@@ -29,8 +32,10 @@ inline constexpr int DEVICE_DEFAULT_FONT = 14;
 inline constexpr int DEFAULT_PALETTE = 15;
 inline constexpr int SYSTEM_FIXED_FONT = 16;
 inline constexpr int DEFAULT_GUI_FONT = 17;
+/// @}
 
-// Ternary raster operations
+/// @{
+/// A ternary raster operation, for BitBlt() and PatBlt().
 inline constexpr DWORD SRCCOPY = 0x00CC0020;
 inline constexpr DWORD SRCPAINT = 0x00EE0086;
 inline constexpr DWORD SRCAND = 0x008800C6;
@@ -46,8 +51,10 @@ inline constexpr DWORD PATINVERT = 0x005A0049;
 inline constexpr DWORD DSTINVERT = 0x00550009;
 inline constexpr DWORD BLACKNESS = 0x00000042;
 inline constexpr DWORD WHITENESS = 0x00FF0062;
+/// @}
 
-// Binary raster operations, for SetROP2()
+/// @{
+/// A binary raster operation, for SetROP2().
 inline constexpr int R2_BLACK = 1;
 inline constexpr int R2_NOTMERGEPEN = 2;
 inline constexpr int R2_MASKNOTPEN = 3;
@@ -64,8 +71,10 @@ inline constexpr int R2_COPYPEN = 13;
 inline constexpr int R2_MERGEPENNOT = 14;
 inline constexpr int R2_MERGEPEN = 15;
 inline constexpr int R2_WHITE = 16;
+/// @}
 
-// Mapping modes
+/// @{
+/// A mapping mode.
 inline constexpr int MM_TEXT = 1;
 inline constexpr int MM_LOMETRIC = 2;
 inline constexpr int MM_HIMETRIC = 3;
@@ -74,16 +83,20 @@ inline constexpr int MM_HIENGLISH = 5;
 inline constexpr int MM_TWIPS = 6;
 inline constexpr int MM_ISOTROPIC = 7;
 inline constexpr int MM_ANISOTROPIC = 8;
+/// @}
 
-// Stretching, direction of arcs
+/// @{
+/// A stretching mode, or a direction of arcs.
 inline constexpr int BLACKONWHITE = 1;
 inline constexpr int WHITEONBLACK = 2;
 inline constexpr int COLORONCOLOR = 3;
 inline constexpr int HALFTONE = 4;
 inline constexpr int AD_COUNTERCLOCKWISE = 1;
 inline constexpr int AD_CLOCKWISE = 2;
+/// @}
 
-// Text formats, for ToQtTextFlag()
+/// @{
+/// A text format, for ToQtTextFlag().
 inline constexpr UINT DT_TOP = 0x0;
 inline constexpr UINT DT_LEFT = 0x0;
 inline constexpr UINT DT_CENTER = 0x1;
@@ -106,8 +119,10 @@ inline constexpr UINT DT_MODIFYSTRING = 0x10000;
 inline constexpr UINT DT_RTLREADING = 0x20000;
 inline constexpr UINT DT_WORD_ELLIPSIS = 0x40000;
 inline constexpr UINT DT_HIDEPREFIX = 0x100000;
+/// @}
 
-// Text alignment and output options
+/// @{
+/// A text alignment or an output option.
 inline constexpr UINT TA_NOUPDATECP = 0;
 inline constexpr UINT TA_UPDATECP = 1;
 inline constexpr UINT TA_LEFT = 0;
@@ -118,8 +133,10 @@ inline constexpr UINT TA_BOTTOM = 8;
 inline constexpr UINT TA_BASELINE = 24;
 inline constexpr UINT ETO_OPAQUE = 0x2;
 inline constexpr UINT ETO_CLIPPED = 0x4;
+/// @}
 
-// Edges
+/// @{
+/// A border or an edge of a rectangle, or how it is drawn.
 inline constexpr UINT BDR_RAISEDOUTER = 0x1;
 inline constexpr UINT BDR_SUNKENOUTER = 0x2;
 inline constexpr UINT BDR_RAISEDINNER = 0x4;
@@ -142,8 +159,10 @@ inline constexpr UINT BF_SOFT = 0x1000;
 inline constexpr UINT BF_ADJUST = 0x2000;
 inline constexpr UINT BF_FLAT = 0x4000;
 inline constexpr UINT BF_MONO = 0x8000;
+/// @}
 
-// Device capabilities
+/// @{
+/// A device capability, or a value of one.
 inline constexpr int TECHNOLOGY = 2;
 inline constexpr int HORZSIZE = 4;
 inline constexpr int VERTSIZE = 6;
@@ -154,3 +173,4 @@ inline constexpr int PLANES = 14;
 inline constexpr int LOGPIXELSX = 88;
 inline constexpr int LOGPIXELSY = 90;
 inline constexpr int DT_RASDISPLAY = 1;
+/// @}

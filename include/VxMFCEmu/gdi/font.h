@@ -10,8 +10,11 @@
 
 #include <QtGui/QFont>
 
+/// Size of a face name, with the terminator.
 inline constexpr int LF_FACESIZE = 32;
 
+/// @{
+/// A weight of a font.
 inline constexpr int FW_DONTCARE = 0;
 inline constexpr int FW_THIN = 100;
 inline constexpr int FW_EXTRALIGHT = 200;
@@ -27,7 +30,10 @@ inline constexpr int FW_EXTRABOLD = 800;
 inline constexpr int FW_ULTRABOLD = 800;
 inline constexpr int FW_HEAVY = 900;
 inline constexpr int FW_BLACK = 900;
+/// @}
 
+/// @{
+/// A character set.
 inline constexpr BYTE ANSI_CHARSET = 0;
 inline constexpr BYTE DEFAULT_CHARSET = 1;
 inline constexpr BYTE SYMBOL_CHARSET = 2;
@@ -44,7 +50,10 @@ inline constexpr BYTE RUSSIAN_CHARSET = 204;
 inline constexpr BYTE THAI_CHARSET = 222;
 inline constexpr BYTE EASTEUROPE_CHARSET = 238;
 inline constexpr BYTE OEM_CHARSET = 255;
+/// @}
 
+/// @{
+/// An output precision.
 inline constexpr BYTE OUT_DEFAULT_PRECIS = 0;
 inline constexpr BYTE OUT_STRING_PRECIS = 1;
 inline constexpr BYTE OUT_CHARACTER_PRECIS = 2;
@@ -54,21 +63,30 @@ inline constexpr BYTE OUT_DEVICE_PRECIS = 5;
 inline constexpr BYTE OUT_RASTER_PRECIS = 6;
 inline constexpr BYTE OUT_TT_ONLY_PRECIS = 7;
 inline constexpr BYTE OUT_OUTLINE_PRECIS = 8;
+/// @}
 
+/// @{
+/// A clip precision.
 inline constexpr BYTE CLIP_DEFAULT_PRECIS = 0;
 inline constexpr BYTE CLIP_CHARACTER_PRECIS = 1;
 inline constexpr BYTE CLIP_STROKE_PRECIS = 2;
 inline constexpr BYTE CLIP_LH_ANGLES = 0x10;
 inline constexpr BYTE CLIP_TT_ALWAYS = 0x20;
 inline constexpr BYTE CLIP_EMBEDDED = 0x80;
+/// @}
 
+/// @{
+/// A quality of a font.
 inline constexpr BYTE DEFAULT_QUALITY = 0;
 inline constexpr BYTE DRAFT_QUALITY = 1;
 inline constexpr BYTE PROOF_QUALITY = 2;
 inline constexpr BYTE NONANTIALIASED_QUALITY = 3;
 inline constexpr BYTE ANTIALIASED_QUALITY = 4;
 inline constexpr BYTE CLEARTYPE_QUALITY = 5;
+/// @}
 
+/// @{
+/// A pitch or a family of fonts.
 inline constexpr BYTE DEFAULT_PITCH = 0;
 inline constexpr BYTE FIXED_PITCH = 1;
 inline constexpr BYTE VARIABLE_PITCH = 2;
@@ -78,30 +96,31 @@ inline constexpr BYTE FF_SWISS = 0x20;
 inline constexpr BYTE FF_MODERN = 0x30;
 inline constexpr BYTE FF_SCRIPT = 0x40;
 inline constexpr BYTE FF_DECORATIVE = 0x50;
+/// @}
 
 class CDC_E;
 
 /// What a font is made from.
 struct tagLOGFONT
 {
-    LONG lfHeight;      ///< pixels: > 0 of a line, < 0 of the characters alone, 0 the default
-    LONG lfWidth;       ///< average width of a character in pixels, 0 as the font has it
-    LONG lfEscapement;  ///< tenths of a degree; kept, not drawn
-    LONG lfOrientation; ///< kept only
-    LONG lfWeight;      ///< FW_THIN to FW_BLACK
-    BYTE lfItalic;
-    BYTE lfUnderline;
-    BYTE lfStrikeOut;
-    BYTE lfCharSet; ///< kept only, as are the two precisions
-    BYTE lfOutPrecision;
-    BYTE lfClipPrecision;
-    BYTE lfQuality;
+    LONG lfHeight;         ///< pixels: > 0 of a line, < 0 of the characters alone, 0 the default
+    LONG lfWidth;          ///< average width of a character in pixels, 0 as the font has it
+    LONG lfEscapement;     ///< tenths of a degree; kept, not drawn
+    LONG lfOrientation;    ///< kept only
+    LONG lfWeight;         ///< FW_THIN to FW_BLACK
+    BYTE lfItalic;         ///< not 0 for italic
+    BYTE lfUnderline;      ///< not 0 for underlined
+    BYTE lfStrikeOut;      ///< not 0 for struck out
+    BYTE lfCharSet;        ///< kept only, as are the two precisions
+    BYTE lfOutPrecision;   ///< OUT_*
+    BYTE lfClipPrecision;  ///< CLIP_*
+    BYTE lfQuality;        ///< *_QUALITY
     BYTE lfPitchAndFamily; ///< chooses the font when there is none of that name
-    WCHAR lfFaceName[LF_FACESIZE];
+    WCHAR lfFaceName[LF_FACESIZE]; ///< name of the family
 };
-using LOGFONT = tagLOGFONT;
-using LOGFONTW = tagLOGFONT;
-using LPLOGFONT = tagLOGFONT*;
+using LOGFONT = tagLOGFONT;    ///< its usual name
+using LOGFONTW = tagLOGFONT;   ///< its usual name
+using LPLOGFONT = tagLOGFONT*; ///< a pointer to one
 
 /// A font. Its handle is a `QFont` of its own; the object itself is that font too, and the one that
 /// is drawn with.
@@ -113,6 +132,7 @@ class VXMFC_EXPORT CFont_E : public CGdiObject_E, public QFont
     /// An empty object, as `QFont` the default font.
     CFont_E() = default;
 
+    /// FromHandle() of the base, as an object of this class.
     static CFont_E* FromHandle(HFONT hFont);
     /// Binds @p hFont and becomes equal to it; FALSE for null.
     BOOL Attach(HFONT hFont);

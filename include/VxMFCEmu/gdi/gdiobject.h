@@ -25,6 +25,7 @@ class VXMFC_EXPORT CGdiObject_E : public CObject_E
     /// Deletes the handle.
     ~CGdiObject_E() override;
 
+    /// GetSafeHandle().
     operator HGDIOBJ() const { return GetSafeHandle(); }
     /// The handle; null when there is none, also for a null object pointer.
     HGDIOBJ GetSafeHandle() const;
@@ -44,9 +45,11 @@ class VXMFC_EXPORT CGdiObject_E : public CObject_E
     /// Destroys the temporary objects.
     static void DeleteTempMap();
 
+    /// The handle.
     HGDIOBJ m_hObject = nullptr;
 
 protected:
+    /// Frees a value of one type of Qt.
     using FreeHandleFn = void (*)(HGDIOBJ);
     /// What frees a handle of this class; null when the class does not tell the type of the value.
     virtual FreeHandleFn HandleDeleter() const;

@@ -15,6 +15,8 @@
 #include <memory>
 #include <vector>
 
+/// @{
+/// A kind of image list.
 inline constexpr UINT ILC_MASK = 0x0001;
 inline constexpr UINT ILC_COLOR = 0x0000;
 inline constexpr UINT ILC_COLORDDB = 0x00FE;
@@ -23,16 +25,23 @@ inline constexpr UINT ILC_COLOR8 = 0x0008;
 inline constexpr UINT ILC_COLOR16 = 0x0010;
 inline constexpr UINT ILC_COLOR24 = 0x0018;
 inline constexpr UINT ILC_COLOR32 = 0x0020;
+/// @}
 
+/// @{
+/// Whether images move or trade places.
 inline constexpr UINT ILCF_MOVE = 0;
 inline constexpr UINT ILCF_SWAP = 1;
+/// @}
 
+/// @{
+/// A style of drawing an image.
 inline constexpr UINT ILD_NORMAL = 0x0000;
 inline constexpr UINT ILD_TRANSPARENT = 0x0001;
 inline constexpr UINT ILD_BLEND25 = 0x0002;
 inline constexpr UINT ILD_BLEND50 = 0x0004;
 inline constexpr UINT ILD_MASK = 0x0010;
 inline constexpr UINT ILD_IMAGE = 0x0020;
+/// @}
 
 class CArchive_E;
 class CBitmap_E;
@@ -46,11 +55,11 @@ struct tagIMAGEINFO
 {
     HBITMAP hbmImage; ///< the image's bitmap, owned by its object
     HBITMAP hbmMask;  ///< the mask's, null when it was added without
-    int Unused1;
-    int Unused2;
-    tagRECT rcImage; ///< the whole bitmap
+    int Unused1;      ///< not used
+    int Unused2;      ///< not used
+    tagRECT rcImage;  ///< the whole bitmap
 };
-using IMAGEINFO = tagIMAGEINFO;
+using IMAGEINFO = tagIMAGEINFO; ///< its usual name
 
 /// An ordered list of bitmaps. A list that has been created is its own handle.
 class VXMFC_EXPORT CImageList_E : public CObject_E
@@ -62,10 +71,12 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
     CImageList_E();
     /// A list of copies of the images of @p other.
     CImageList_E(const CImageList_E& other);
+    /// Becomes a list of copies of the images.
     CImageList_E& operator=(const CImageList_E& other);
     /// Detaches the handle; the bitmaps that Create() and copying made go with the list.
     ~CImageList_E() override;
 
+    /// GetSafeHandle().
     operator HIMAGELIST() const { return GetSafeHandle(); }
     /// The handle; null when there is none, also for a null object pointer.
     HIMAGELIST GetSafeHandle() const;
@@ -89,6 +100,7 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
     BOOL Create(CImageList_E* pImageList);
     /// Always FALSE, as are all members that say so below.
     BOOL Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask);
+    /// Always FALSE.
     BOOL Create(LPCWSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask);
 
     /// Appends @p pbmImage itself, which the caller keeps alive, after making every pixel in the
@@ -113,6 +125,7 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
     /// The same from another list; FALSE for null, and for ILCF_SWAP between two lists.
     BOOL Copy(int iDst, CImageList_E* pSrc, int iSrc, UINT uFlags = ILCF_MOVE);
 
+    /// The number of images.
     int GetImageCount() const;
     /// Makes room for @p uNewCount images without changing their number (intended); FALSE for 0.
     BOOL SetImageCount(UINT uNewCount);
@@ -125,6 +138,8 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
     COLORREF GetBkColor() const;
 
     // Not done: FALSE, 0 or null.
+    /// @{
+    /// Not done: FALSE, 0 or null.
     HICON ExtractIcon(int nImage);
     BOOL SetOverlayImage(int nImage, int nOverlay);
     BOOL Draw(CDC_E* pDC, int nImage, tagPOINT pt, UINT nStyle);
@@ -141,7 +156,9 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
     static BOOL DragShowNolock(BOOL bShow);
     BOOL SetDragCursorImage(int nDrag, tagPOINT ptHotSpot);
     static CImageList_E* GetDragImage(tagPOINT* lpPoint, tagPOINT* lpPointHotSpot);
+    /// @}
 
+    /// The handle.
     HIMAGELIST m_hImageList = nullptr;
 
 private:

@@ -13,15 +13,15 @@
 /// What is to be painted.
 struct tagPAINTSTRUCT
 {
-    HDC hdc;         ///< the CDC_E
-    BOOL fErase;     ///< FALSE: the background has been erased
-    tagRECT rcPaint; ///< the bounding rectangle of what needs painting
-    BOOL fRestore;
-    BOOL fIncUpdate;
-    BYTE rgbReserved[32];
+    HDC hdc;              ///< the CDC_E
+    BOOL fErase;          ///< FALSE: the background has been erased
+    tagRECT rcPaint;      ///< the bounding rectangle of what needs painting
+    BOOL fRestore;        ///< not used
+    BOOL fIncUpdate;      ///< not used
+    BYTE rgbReserved[32]; ///< not used
 };
-using PAINTSTRUCT = tagPAINTSTRUCT;
-using LPPAINTSTRUCT = tagPAINTSTRUCT*;
+using PAINTSTRUCT = tagPAINTSTRUCT;    ///< its usual name
+using LPPAINTSTRUCT = tagPAINTSTRUCT*; ///< a pointer to one
 
 /// Draws in the client area of a window: at once inside of a paint message, else when it is
 /// destroyed.
@@ -30,6 +30,7 @@ class VXMFC_EXPORT CClientDC_E : public CDC_E
 public:
     /// Null and unbound windows give an inactive painter.
     explicit CClientDC_E(CWnd_E* pWnd);
+    /// The same of a widget.
     explicit CClientDC_E(QWidget* pWidget) : CDC_E(pWidget) {}
 };
 

@@ -9,6 +9,8 @@
 
 #include <VxMFCEmu/gdi/gdiobject.h>
 
+/// @{
+/// A part of the style of a pen.
 inline constexpr int PS_SOLID = 0;
 inline constexpr int PS_DASH = 1;
 inline constexpr int PS_DOT = 2;
@@ -30,6 +32,7 @@ inline constexpr int PS_JOIN_MASK = 0x0000F000;
 inline constexpr int PS_COSMETIC = 0x00000000;
 inline constexpr int PS_GEOMETRIC = 0x00010000;
 inline constexpr int PS_TYPE_MASK = 0x000F0000;
+/// @}
 
 struct tagLOGBRUSH;
 struct tagEXTLOGPEN;
@@ -39,10 +42,10 @@ struct tagLOGPEN
 {
     UINT lopnStyle;     ///< PS_SOLID to PS_NULL
     tagPOINT lopnWidth; ///< x is the width in pixels, y is not used
-    COLORREF lopnColor;
+    COLORREF lopnColor; ///< the colour
 };
-using LOGPEN = tagLOGPEN;
-using LPLOGPEN = tagLOGPEN*;
+using LOGPEN = tagLOGPEN;    ///< its usual name
+using LPLOGPEN = tagLOGPEN*; ///< a pointer to one
 
 /// A pen; its handle is a `QPen`.
 class VXMFC_EXPORT CPen_E : public CGdiObject_E
@@ -54,9 +57,11 @@ class VXMFC_EXPORT CPen_E : public CGdiObject_E
     CPen_E() = default;
     /// As CreatePen() of the same arguments.
     CPen_E(int nPenStyle, int nWidth, COLORREF crColor);
+    /// As CreatePen() of the same arguments.
     CPen_E(int nPenStyle, int nWidth, const tagLOGBRUSH* pLogBrush, int nStyleCount = 0,
            const UINT* lpStyle = nullptr);
 
+    /// FromHandle() of the base, as an object of this class.
     static CPen_E* FromHandle(HPEN hPen);
 
     /// Makes a pen of @p nWidth pixels.

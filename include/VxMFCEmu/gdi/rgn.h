@@ -9,6 +9,8 @@
 
 #include <VxMFCEmu/gdi/gdiobject.h>
 
+/// @{
+/// How two regions are combined.
 inline constexpr int RGN_AND = 1;
 inline constexpr int RGN_OR = 2;
 inline constexpr int RGN_XOR = 3;
@@ -16,14 +18,22 @@ inline constexpr int RGN_DIFF = 4;
 inline constexpr int RGN_COPY = 5;
 inline constexpr int RGN_MIN = RGN_AND;
 inline constexpr int RGN_MAX = RGN_COPY;
+/// @}
 
+/// @{
+/// A kind of region.
 inline constexpr int NULLREGION = 1;
 inline constexpr int SIMPLEREGION = 2;
 inline constexpr int COMPLEXREGION = 3;
+/// @}
 
+/// @{
+/// A way of filling polygons.
 inline constexpr int ALTERNATE = 1;
 inline constexpr int WINDING = 2;
+/// @}
 
+/// A failure.
 inline constexpr DWORD GDI_ERROR = 0xFFFFFFFF;
 
 class CDC_E;
@@ -40,14 +50,17 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     /// An empty object.
     CRgn_E() = default;
 
+    /// FromHandle() of the base, as an object of this class.
     static CRgn_E* FromHandle(HRGN hRgn);
 
     /// The pixels from (@p x1, @p y1) to (@p x2, @p y2), both included (intended).
     BOOL CreateRectRgn(int x1, int y1, int x2, int y2);
+    /// The same of the coordinates of a rectangle; FALSE for null.
     BOOL CreateRectRgnIndirect(const tagRECT* lpRect);
     /// The ellipse within those pixels. FALSE beyond 2^20 in any direction, as for the two shapes
     /// that follow: a region is made of rows.
     BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2);
+    /// The same of the coordinates of a rectangle; FALSE for null.
     BOOL CreateEllipticRgnIndirect(const tagRECT* lpRect);
     /// The rectangle with corners of radii @p x3 and @p y3.
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3);
@@ -62,9 +75,11 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     /// Returns 0 and makes no region.
     BOOL CreateFromData(const tagXFORM* lpXForm, int nCount, const tagRGNDATA* pRgnData);
 
+    /// @{
     /// Replaces the region by a rectangle as of CreateRectRgn(). FALSE for null.
     BOOL SetRectRgn(int x1, int y1, int x2, int y2);
     BOOL SetRectRgn(const tagRECT* lpRect);
+    /// @}
     /// Replaces the region by the combination of two, either of which may be this one. RGN_COPY
     /// gives their union (intended), an unknown mode the empty region.
     BOOL CombineRgn(const CRgn_E* pRgn1, const CRgn_E* pRgn2, int nCombineMode);
@@ -73,13 +88,18 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     BOOL CopyRgn(const CRgn_E* pRgnSrc);
     /// Whether both objects have the same handle, or none.
     BOOL EqualRgn(const CRgn_E* pRgn) const;
+    /// @{
     /// Moves the region; returns 0, or 0xFFFFFFFF without a handle.
     UINT OffsetRgn(int x, int y);
     UINT OffsetRgn(tagPOINT point);
+    /// @}
     /// The bounding rectangle. Returns SIMPLEREGION; 0 for an empty object and for null.
     int GetRgnBox(tagRECT* lpRect) const;
+    /// @{
+    /// Whether a pixel belongs to the region.
     BOOL PtInRegion(int x, int y) const;
     BOOL PtInRegion(tagPOINT point) const;
+    /// @}
     /// Whether any pixel of the rectangle is in the region.
     BOOL RectInRegion(const tagRECT* lpRect) const;
     /// Always 0xFFFFFFFF.

@@ -6,6 +6,8 @@
 
 #include <VxMFCEmu/types.h>
 
+/// @{
+/// The index of a system colour.
 inline constexpr int COLOR_SCROLLBAR = 0;
 inline constexpr int COLOR_BACKGROUND = 1;
 inline constexpr int COLOR_DESKTOP = 1;
@@ -42,6 +44,7 @@ inline constexpr int COLOR_GRADIENTACTIVECAPTION = 27;
 inline constexpr int COLOR_GRADIENTINACTIVECAPTION = 28;
 inline constexpr int COLOR_MENUHILIGHT = 29;
 inline constexpr int COLOR_MENUBAR = 30;
+/// @}
 
 /// The system colour of @p nIndex; 0 for an index that has none.
 VXMFC_EXPORT COLORREF GetSysColor_E(int nIndex);

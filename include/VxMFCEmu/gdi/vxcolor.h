@@ -13,8 +13,10 @@
 class VxColor : public QColor
 {
 public:
+    /// Any type of integer.
     template <typename T>
     using IfNumber = std::enable_if_t<std::is_integral_v<T>, bool>;
+    /// Whether a type can stand for a colour.
     template <typename T>
     static constexpr bool isColor()
     {
@@ -29,16 +31,22 @@ public:
                                           bool>;
 
     VxColor() = default;
+    /// @{
+    /// The same colour.
     VxColor(const QColor& color) : QColor(color) {}
     VxColor(Qt::GlobalColor color) : QColor(color) {}
+    /// @}
     /// A COLORREF, 0x00BBGGRR. Not a `QRgb`: wrap that one in a `QColor`.
     template <typename T, IfNumber<T> = true>
     VxColor(T value) : QColor(vx::detail::toQColor(static_cast<COLORREF>(value)))
     {
     }
 
+    /// The colour as 0x00BBGGRR, without its alpha.
     operator COLORREF() const { return vx::detail::toColorRef(*this); }
 
+    /// @{
+    /// Compares with a number as COLORREF, with other colours as `QColor`.
     template <typename A, typename B, IfComparable<A, B> = true>
     friend bool operator==(const A& a, const B& b)
     {
@@ -52,6 +60,7 @@ public:
     {
         return !(a == b);
     }
+    /// @}
 };
 
 /// A colour as a member gives it. No number becomes one by itself, so that
@@ -60,6 +69,8 @@ class VxColorResult : public VxColor
 {
 public:
     VxColorResult() = default;
+    /// @{
+    /// The same colour.
     VxColorResult(const VxColor& color) : VxColor(color) {}
     VxColorResult(const QColor& color) : VxColor(color) {}
     VxColorResult(Qt::GlobalColor color) : VxColor(color) {}
@@ -67,7 +78,9 @@ public:
     explicit VxColorResult(T value) : VxColor(value)
     {
     }
+    /// @}
 
+    /// A COLORREF.
     template <typename T, IfNumber<T> = true>
     VxColorResult& operator=(T value)
     {

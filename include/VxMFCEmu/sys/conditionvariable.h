@@ -12,14 +12,19 @@
 #include <VxMFCEmu/sys/srwlock.h>
 #include <VxMFCEmu/sys/wait.h>
 
+/// @{
+/// A condition variable of the system.
 using CONDITION_VARIABLE = pthread_cond_t;
 using PCONDITION_VARIABLE = CONDITION_VARIABLE*;
+/// @}
 
 /// A condition variable that needs no InitializeConditionVariable().
 inline constexpr CONDITION_VARIABLE CONDITION_VARIABLE_INIT = PTHREAD_COND_INITIALIZER;
 
+/// The lock is held shared.
 inline constexpr ULONG CONDITION_VARIABLE_LOCKMODE_SHARED = 0x1;
 
+/// Makes a condition variable usable; EINVAL for null.
 VXMFC_EXPORT int InitializeConditionVariable(PCONDITION_VARIABLE pCondition);
 /// Wakes one sleeper.
 VXMFC_EXPORT int WakeConditionVariable(PCONDITION_VARIABLE pCondition);

@@ -16,9 +16,13 @@
 
 #include <cerrno>
 
+/// @{
+/// A mutex of the system.
 using CRITICAL_SECTION = pthread_mutex_t;
 using LPCRITICAL_SECTION = CRITICAL_SECTION*;
+/// @}
 
+/// Makes a critical section usable.
 VXMFC_EXPORT inline int InitializeCriticalSection_E(LPCRITICAL_SECTION pSection)
 {
     return pSection ? pthread_mutex_init(pSection, nullptr) : EINVAL;
@@ -28,6 +32,7 @@ VXMFC_EXPORT inline int EnterCriticalSection_E(LPCRITICAL_SECTION pSection)
 {
     return pSection ? pthread_mutex_lock(pSection) : EINVAL;
 }
+/// Lets the next thread in.
 VXMFC_EXPORT inline int LeaveCriticalSection_E(LPCRITICAL_SECTION pSection)
 {
     return pSection ? pthread_mutex_unlock(pSection) : EINVAL;

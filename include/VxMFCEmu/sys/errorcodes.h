@@ -4,6 +4,8 @@
 
 #include <VxMFCEmu/types.h>
 
+/// @{
+/// An error number.
 inline constexpr LONG ERROR_SUCCESS = 0;
 inline constexpr LONG NO_ERROR = 0;
 inline constexpr LONG ERROR_INVALID_FUNCTION = 1;
@@ -44,3 +46,4 @@ inline constexpr LONG ERROR_CANTWRITE = 1013;
 inline constexpr LONG ERROR_KEY_DELETED = 1018;
 inline constexpr LONG ERROR_CANCELLED = 1223;
 inline constexpr LONG ERROR_TIMEOUT = 1460;
+/// @}

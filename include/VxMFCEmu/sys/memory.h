@@ -9,6 +9,8 @@
 
 #include <VxMFCEmu/types.h>
 
+/// @{
+/// A flag of global memory; ignored.
 inline constexpr UINT GMEM_FIXED = 0x0000;
 inline constexpr UINT GMEM_MOVEABLE = 0x0002;
 inline constexpr UINT GMEM_NOCOMPACT = 0x0010;
@@ -22,7 +24,10 @@ inline constexpr UINT GMEM_DDESHARE = 0x2000;
 inline constexpr UINT GMEM_NOTIFY = 0x4000;
 inline constexpr UINT GHND = GMEM_MOVEABLE | GMEM_ZEROINIT;
 inline constexpr UINT GPTR = GMEM_FIXED | GMEM_ZEROINIT;
+/// @}
 
+/// @{
+/// A flag of local memory; ignored.
 inline constexpr UINT LMEM_FIXED = 0x0000;
 inline constexpr UINT LMEM_MOVEABLE = 0x0002;
 inline constexpr UINT LMEM_NOCOMPACT = 0x0010;
@@ -32,6 +37,7 @@ inline constexpr UINT LMEM_MODIFY = 0x0080;
 inline constexpr UINT LMEM_DISCARDABLE = 0x0F00;
 inline constexpr UINT LHND = LMEM_MOVEABLE | LMEM_ZEROINIT;
 inline constexpr UINT LPTR = LMEM_FIXED | LMEM_ZEROINIT;
+/// @}
 
 /// A new block of @p nBytes zero bytes, owned by the caller; null when there is no memory. The
 /// flags are ignored.

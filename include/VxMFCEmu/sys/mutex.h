@@ -10,6 +10,7 @@
 #include <VxMFCEmu/sys/handle.h>
 #include <VxMFCEmu/sys/securityattributes.h>
 
+/// The mutex is made locked.
 inline constexpr DWORD CREATE_MUTEX_INITIAL_OWNER = 0x00000001;
 
 /// The mutex of that name, or a new one, owned by the calling thread when @p bInitialOwner is not

@@ -9,12 +9,10 @@
 ///
 /// Differs from Win32:
 /// - Nothing is shared with other programs, but for what `QSettings` falls back on: the files of
-/// the
-///   organization and of the system are read too.
+///   the organization and of the system are read too.
 /// - Keys and values are case-sensitive.
 /// - A value is the setting at key, "/" and name: a "/" in a name leads into a key, a value and a
-/// key
-///   of one name are deleted together, and an empty name is not that of the default value.
+///   key of one name are deleted together, and an empty name is not that of the default value.
 /// - Sub-keys can be opened below predefined roots only. Elsewhere a root stands for its key.
 /// - A key exists as long as there is a value in it or below: opening one that is not there
 ///   succeeds, and creating one stores nothing.

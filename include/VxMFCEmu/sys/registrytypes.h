@@ -6,11 +6,15 @@
 #include <VxMFCEmu/sys/errorcodes.h>
 #include <VxMFCEmu/types.h>
 
+/// @{
+/// A type of the registry functions.
 using PHKEY = HKEY*;
 using REGSAM = DWORD;
 using LSTATUS = LONG;
+/// @}
 
-// Predefined roots: always open, and not to be closed
+/// @{
+/// A predefined root: always open, and not to be closed.
 inline const HKEY HKEY_CLASSES_ROOT = reinterpret_cast<HKEY>(0xFFFFFFFF80000000UL);
 inline const HKEY HKEY_CURRENT_USER = reinterpret_cast<HKEY>(0xFFFFFFFF80000001UL);
 inline const HKEY HKEY_LOCAL_MACHINE = reinterpret_cast<HKEY>(0xFFFFFFFF80000002UL);
@@ -21,8 +25,10 @@ inline const HKEY HKEY_PERFORMANCE_NLSTEXT = reinterpret_cast<HKEY>(0xFFFFFFFF80
 inline const HKEY HKEY_CURRENT_CONFIG = reinterpret_cast<HKEY>(0xFFFFFFFF80000005UL);
 inline const HKEY HKEY_DYN_DATA = reinterpret_cast<HKEY>(0xFFFFFFFF80000006UL);
 inline const HKEY HKEY_CURRENT_USER_LOCAL_SETTINGS = reinterpret_cast<HKEY>(0xFFFFFFFF80000007UL);
+/// @}
 
-// Access rights
+/// @{
+/// An access right.
 inline constexpr REGSAM KEY_QUERY_VALUE = 0x0001;
 inline constexpr REGSAM KEY_SET_VALUE = 0x0002;
 inline constexpr REGSAM KEY_CREATE_SUB_KEY = 0x0004;
@@ -36,8 +42,10 @@ inline constexpr REGSAM KEY_READ = 0x20019;
 inline constexpr REGSAM KEY_WRITE = 0x20006;
 inline constexpr REGSAM KEY_EXECUTE = 0x20019;
 inline constexpr REGSAM KEY_ALL_ACCESS = 0xF003F;
+/// @}
 
-// Types of values
+/// @{
+/// A type of value.
 inline constexpr DWORD REG_NONE = 0;
 inline constexpr DWORD REG_SZ = 1;
 inline constexpr DWORD REG_EXPAND_SZ = 2;
@@ -52,20 +60,26 @@ inline constexpr DWORD REG_FULL_RESOURCE_DESCRIPTOR = 9;
 inline constexpr DWORD REG_RESOURCE_REQUIREMENTS_LIST = 10;
 inline constexpr DWORD REG_QWORD = 11;
 inline constexpr DWORD REG_QWORD_LITTLE_ENDIAN = 11;
+/// @}
 
-// Options of a key
+/// @{
+/// An option of a key.
 inline constexpr DWORD REG_OPTION_RESERVED = 0;
 inline constexpr DWORD REG_OPTION_NON_VOLATILE = 0;
 inline constexpr DWORD REG_OPTION_VOLATILE = 1;
 inline constexpr DWORD REG_OPTION_CREATE_LINK = 2;
 inline constexpr DWORD REG_OPTION_BACKUP_RESTORE = 4;
 inline constexpr DWORD REG_OPTION_OPEN_LINK = 8;
+/// @}
 
-// Dispositions of RegCreateKeyExW_E(), which writes neither
+/// @{
+/// A disposition of RegCreateKeyExW_E(), which writes neither.
 inline constexpr DWORD REG_CREATED_NEW_KEY = 1;
 inline constexpr DWORD REG_OPENED_EXISTING_KEY = 2;
+/// @}
 
-// Flags of RegGetValue_E(), which looks at none
+/// @{
+/// A flag of RegGetValue_E(), which looks at none.
 inline constexpr DWORD RRF_RT_REG_NONE = 0x00000001;
 inline constexpr DWORD RRF_RT_REG_SZ = 0x00000002;
 inline constexpr DWORD RRF_RT_REG_EXPAND_SZ = 0x00000004;
@@ -78,6 +92,7 @@ inline constexpr DWORD RRF_RT_QWORD = RRF_RT_REG_BINARY | RRF_RT_REG_QWORD;
 inline constexpr DWORD RRF_RT_ANY = 0x0000FFFF;
 inline constexpr DWORD RRF_NOEXPAND = 0x10000000;
 inline constexpr DWORD RRF_ZEROONFAILURE = 0x20000000;
+/// @}
 
 /// One value that RegQueryMultipleValues_E() looks up.
 struct value_entW
@@ -87,7 +102,7 @@ struct value_entW
     DWORD_PTR ve_valueptr; ///< out: address of its data in the caller's buffer
     DWORD ve_type;         ///< out: its type
 };
-using VALENTW = value_entW;
-using PVALENTW = value_entW*;
-using VALENT = value_entW;
-using PVALENT = value_entW*;
+using VALENTW = value_entW;   ///< its usual name
+using PVALENTW = value_entW*; ///< a pointer to one
+using VALENT = value_entW;    ///< its usual name
+using PVALENT = value_entW*;  ///< a pointer to one

@@ -6,12 +6,13 @@
 
 #include <VxMFCEmu/types.h>
 
+/// Ignored wherever it is taken.
 struct _SECURITY_ATTRIBUTES
 {
-    DWORD nLength;
-    LPVOID lpSecurityDescriptor;
-    BOOL bInheritHandle;
+    DWORD nLength;               ///< ignored
+    LPVOID lpSecurityDescriptor; ///< ignored
+    BOOL bInheritHandle;         ///< ignored
 };
-using SECURITY_ATTRIBUTES = _SECURITY_ATTRIBUTES;
-using PSECURITY_ATTRIBUTES = _SECURITY_ATTRIBUTES*;
-using LPSECURITY_ATTRIBUTES = _SECURITY_ATTRIBUTES*;
+using SECURITY_ATTRIBUTES = _SECURITY_ATTRIBUTES;    ///< its usual name
+using PSECURITY_ATTRIBUTES = _SECURITY_ATTRIBUTES*;  ///< a pointer to one
+using LPSECURITY_ATTRIBUTES = _SECURITY_ATTRIBUTES*; ///< a pointer to one

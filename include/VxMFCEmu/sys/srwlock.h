@@ -13,12 +13,16 @@
 
 #include <pthread.h>
 
+/// @{
+/// A read-write lock of the system.
 using SRWLOCK = pthread_rwlock_t;
 using PSRWLOCK = SRWLOCK*;
+/// @}
 
 /// A lock that needs no InitializeSRWLock().
 inline constexpr SRWLOCK SRWLOCK_INIT = PTHREAD_RWLOCK_INITIALIZER;
 
+/// Makes a lock usable; EINVAL for null.
 VXMFC_EXPORT int InitializeSRWLock(PSRWLOCK pLock);
 /// Waits until nobody holds the lock; EDEADLK when the calling thread itself holds it exclusively.
 VXMFC_EXPORT int AcquireSRWLockExclusive(PSRWLOCK pLock);

@@ -17,4 +17,5 @@ VXMFC_EXPORT void Sleep_E(DWORD dwMilliseconds);
 VXMFC_EXPORT ULONGLONG GetTickCount();
 /// Differs from Win32: the calling thread's `pthread_t`, which does not fit into a DWORD.
 VXMFC_EXPORT pthread_t GetCurrentThreadId();
+/// The number of this process.
 VXMFC_EXPORT DWORD GetCurrentProcessId();

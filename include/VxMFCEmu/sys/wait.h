@@ -12,10 +12,13 @@
 /// Time-out of a wait that has none.
 inline constexpr DWORD INFINITE = 0xFFFFFFFF;
 
+/// @{
+/// A result of waiting.
 inline constexpr DWORD WAIT_OBJECT_0 = 0x00000000;
 inline constexpr DWORD WAIT_ABANDONED = 0x00000080;
 inline constexpr DWORD WAIT_TIMEOUT = 0x00000102;
 inline constexpr DWORD WAIT_FAILED = 0xFFFFFFFF;
+/// @}
 
 /// Waits until the event is signalled, the mutex is free or the semaphore has a unit, and takes it:
 /// WAIT_OBJECT_0. WAIT_TIMEOUT after @p dwMilliseconds, counted on the wall clock, so that setting

@@ -30,10 +30,12 @@ inline constexpr wchar_t kEmptyText[1] = {};
 constexpr const wchar_t* orEmpty(const wchar_t* p) noexcept { return p ? p : kEmptyText; }
 } // namespace vx::detail
 
+/// A text of wide characters.
 class VXMFC_EXPORT CString_E
 {
 public:
     CString_E() noexcept = default;
+    /// A copy; empty for null.
     CString_E(const wchar_t* p) : m_text(vx::detail::orEmpty(p)) {}
     /// The first @p n characters of @p p, which must hold as many; empty for null and for negative
     /// n.
@@ -44,17 +46,25 @@ public:
     CString_E(const QString& str);
     /// Decodes UTF-8; throws `std::range_error` ("wstring_convert::from_bytes") when it is invalid.
     CString_E(const char* p);
+    /// @{
+    /// The same text, without its conversion to UTF-8.
     CString_E(const CString_E& other) : m_text(other.m_text) {}
     CString_E(CString_E&& other) noexcept : m_text(std::move(other.m_text)) {}
+    /// @}
     ~CString_E()
     {
         if (m_pUtf8) // most strings are never converted
             FreeUtf8();
     }
 
+    /// @{
+    /// Takes over a text; null is empty.
     CString_E& operator=(wchar_t ch) { return m_text.assign(1, ch), *this; }
     CString_E& operator=(const wchar_t* p) { return m_text.assign(vx::detail::orEmpty(p)), *this; }
     CString_E& operator=(const QString& str);
+    /// @}
+    /// @{
+    /// Takes over the text, not its conversion to UTF-8.
     // The cache stays as it is: it belongs to this string, and is replaced by the next conversion.
     // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the text looks after it
     CString_E& operator=(const CString_E& other) { return m_text = other.m_text, *this; }
@@ -62,31 +72,44 @@ public:
     {
         return m_text = std::move(other.m_text), *this;
     }
+    /// @}
+    /// @{
     /// Decodes UTF-8; throws as the constructor does, leaving the text alone.
     CString_E& operator=(const char* p);
     CString_E& operator=(const unsigned char* p)
     {
         return *this = reinterpret_cast<const char*>(p);
     }
+    /// @}
 
+    /// @{
+    /// Appends a text; null is empty.
     CString_E& operator+=(wchar_t ch) { return m_text.push_back(ch), *this; }
     CString_E& operator+=(const wchar_t* p) { return m_text.append(vx::detail::orEmpty(p)), *this; }
     CString_E& operator+=(const QString& str);
     CString_E& operator+=(const CString_E& other) { return m_text.append(other.m_text), *this; }
+    /// @}
     /// Decodes UTF-8; throws as the constructor does.
     CString_E& operator+=(const char* p) { return *this += CString_E(p); }
+    /// Appends a character.
     void AppendChar(wchar_t ch) { m_text.push_back(ch); }
 
     /// Number of code points.
     int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
+    /// Whether there is no character.
     bool IsEmpty() const noexcept { return m_text.empty(); }
+    /// Takes the text away.
     void Empty() noexcept { m_text.clear(); }
+    /// @{
     /// The terminated text; valid until the next change, owned by the string.
     const wchar_t* GetString() const noexcept { return m_text.c_str(); }
     operator const wchar_t*() const noexcept { return m_text.c_str(); }
+    /// @}
+    /// @{
     /// The character at @p i; throws `std::out_of_range` outside 0..length-1.
     wchar_t GetAt(int i) const { return m_text.at(static_cast<std::size_t>(i)); }
     wchar_t operator[](int i) const { return GetAt(i); }
+    /// @}
     /// The same for every other type of index, which the conversions to pointers would make
     /// ambiguous.
     template <typename Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
@@ -102,11 +125,13 @@ public:
             m_text.data()[i] = ch;
     }
 
+    /// @{
     /// The text in UTF-8; valid until the next conversion or change, owned by the string. Each call
     /// converts anew. Throws `std::range_error` ("wstring_convert::to_bytes") for what is no code
     /// point, leaving the earlier conversion alone.
     const char* Utf8Ptr() const;
     operator const char*() const { return Utf8Ptr(); }
+    /// @}
     /// Frees the last conversion.
     void CleanUtf8Mem() noexcept { delete[] std::exchange(m_pUtf8, nullptr); }
 
@@ -164,9 +189,12 @@ public:
         return position(m_text.find_first_of(vx::detail::orEmpty(set)));
     }
 
+    /// @{
     /// Change the case by `towupper` and `towlower`, in libc's current classification.
     CString_E& MakeUpper();
     CString_E& MakeLower();
+    /// @}
+    /// Reverses the order of the characters.
     CString_E& MakeReverse();
     /// Each returns the number of places replaced.
     int Replace(wchar_t chOld, wchar_t chNew);
@@ -174,25 +202,33 @@ public:
     int Replace(const wchar_t* old, const wchar_t* replacement);
     /// Removes every @p ch and returns their number.
     int Remove(wchar_t ch);
+    /// @{
     /// Insert before @p nIndex and return the new length; an index that is negative or beyond the
     /// length throws `std::out_of_range`.
     int Insert(int nIndex, wchar_t ch);
     int Insert(int nIndex, const wchar_t* p);
+    /// @}
     /// Removes up to @p nCount characters (none when negative) and returns the new length; an index
     /// that is negative or beyond the length throws `std::out_of_range`.
     int Delete(int nIndex, int nCount = 1);
+    /// @{
     /// Remove space, carriage return, line feed and tab. Intended: no other white space.
     CString_E& TrimLeft() { return TrimLeft(L" \r\n\t"); }
     CString_E& TrimRight() { return TrimRight(L" \r\n\t"); }
     CString_E& Trim() { return Trim(L" \r\n\t"); }
+    /// @}
+    /// @{
     /// Remove @p ch.
     CString_E& TrimLeft(wchar_t ch) { return TrimLeftOf({&ch, 1}); }
     CString_E& TrimRight(wchar_t ch) { return TrimRightOf({&ch, 1}); }
     CString_E& Trim(wchar_t ch) { return TrimRight(ch).TrimLeft(ch); }
+    /// @}
+    /// @{
     /// Remove every character that is in @p set.
     CString_E& TrimLeft(const wchar_t* set) { return TrimLeftOf(vx::detail::orEmpty(set)); }
     CString_E& TrimRight(const wchar_t* set) { return TrimRightOf(vx::detail::orEmpty(set)); }
     CString_E& Trim(const wchar_t* set) { return TrimRight(set).TrimLeft(set); }
+    /// @}
 
     /// Copy with each "\n" as "\r\n". Intended: the "\n" of an "\r\n" too.
     CString_E ToWinReturn() const;
@@ -217,9 +253,11 @@ public:
     /// and empty when table or id are missing. A text with commas that is not quoted in the file is
     /// read back with ", " between its parts.
     BOOL LoadString(UINT nID);
+    /// @{
     /// The same. Differs from Win32: instance and language choose nothing.
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguage);
+    /// @}
 
     /// Replaces the text by formatted arguments, which may point into it. Conversions, C locale
     /// always: d i u o x X (of short with h, long with l, 64 bits with ll and I64, 32 with I32, the
@@ -231,11 +269,14 @@ public:
     void Format(const wchar_t* lpszFormat, ...);
     /// The same with a format from the calling plug-in's string table; empty when it is missing.
     void Format(UINT nFormatID, ...);
+    /// Format() with the arguments in a list.
     void FormatV(const wchar_t* lpszFormat, va_list args);
+    /// @{
     /// Append formatted arguments, which may point into the text.
     void AppendFormat(const wchar_t* lpszFormat, ...);
     void AppendFormat(UINT nFormatID, ...);
     void AppendFormatV(const wchar_t* lpszFormat, va_list args);
+    /// @}
 
 private:
     friend void vx::detail::concatenate(CString_E&, std::wstring_view, std::wstring_view);

@@ -79,6 +79,7 @@ bool equalText(const L& left, const R& right)
 
 } // namespace vx::detail
 
+/// Joins two texts of which one is a CString_E.
 template <typename L, typename R>
 vx::detail::ForTextOperands<L, R, CString_E> operator+(const L& left, const R& right)
 {
@@ -97,6 +98,8 @@ vx::detail::ForTextOperands<CString_E, R, CString_E> operator+(CString_E&& left,
     return std::move(left);
 }
 
+/// @{
+/// Compares two texts of which one is a CString_E, code point by code point.
 template <typename L, typename R>
 vx::detail::ForTextOperands<L, R, bool> operator==(const L& left, const R& right)
 {
@@ -127,3 +130,4 @@ vx::detail::ForTextOperands<L, R, bool> operator>=(const L& left, const R& right
 {
     return vx::detail::compareText(left, right) >= 0;
 }
+/// @}

@@ -39,18 +39,24 @@ enum class VxCommandEntry_E
     this->AddCmdMapEntry(ToStringId(static_cast<UINT>(nID)), VxCommandEntry_E::entry,              \
                          vx::detail::eraseHandler<ThisClass_E, __VA_ARGS__>(memberFn));
 
+/// @{
+/// One entry of a message map: a command or a click to `void OnApply()`, an update to
+/// `void OnUpdateApply(CCmdUI_E*)`.
 #define ON_COMMAND_E(nID, memberFn) VXMFC_ON_COMMAND(nID, Command, memberFn, void())
 #define ON_BN_CLICKED_E(nID, memberFn) VXMFC_ON_COMMAND(nID, Click, memberFn, void())
 #define ON_UPDATE_COMMAND_UI_E(nID, memberFn)                                                      \
     VXMFC_ON_COMMAND(nID, Update, memberFn, void(CCmdUI_E*))
+/// @}
 
-/// One handler for all ids of a range, both ends included: `void OnPick(UINT nID)` and
-/// `void OnUpdatePick(CCmdUI_E*)`.
 #define VXMFC_ON_RANGE(nFirst, nLast, entry, memberFn, ...)                                        \
     this->AddCmdMapRange(static_cast<UINT>(nFirst), static_cast<UINT>(nLast),                      \
                          VxCommandEntry_E::entry,                                                  \
                          vx::detail::eraseHandler<ThisClass_E, __VA_ARGS__>(memberFn));
+/// @{
+/// One handler for all ids of a range, both ends included: `void OnPick(UINT nID)` and
+/// `void OnUpdatePick(CCmdUI_E*)`.
 #define ON_COMMAND_RANGE_E(nFirst, nLast, memberFn)                                                \
     VXMFC_ON_RANGE(nFirst, nLast, RangeCommand, memberFn, void(UINT))
 #define ON_UPDATE_COMMAND_UI_RANGE_E(nFirst, nLast, memberFn)                                      \
     VXMFC_ON_RANGE(nFirst, nLast, Update, memberFn, void(CCmdUI_E*))
+/// @}

@@ -5,7 +5,8 @@
 
 #include <VxMFCEmu/types.h>
 
-// Edit controls
+/// @{
+/// A message to an edit control.
 inline constexpr UINT EM_GETSEL = 0x00B0;
 inline constexpr UINT EM_SETSEL = 0x00B1;
 inline constexpr UINT EM_GETRECT = 0x00B2;
@@ -49,19 +50,25 @@ inline constexpr UINT EM_SETCUEBANNER = 0x1501;
 inline constexpr UINT EM_GETCUEBANNER = 0x1502;
 inline constexpr UINT EM_SHOWBALLOONTIP = 0x1503;
 inline constexpr UINT EM_HIDEBALLOONTIP = 0x1504;
+/// @}
 
-// Margins of an edit control
+/// @{
+/// A margin of an edit control.
 inline constexpr UINT EC_LEFTMARGIN = 0x0001;
 inline constexpr UINT EC_RIGHTMARGIN = 0x0002;
 inline constexpr UINT EC_USEFONTINFO = 0xFFFF;
+/// @}
 
-// Icons of a balloon tip
+/// @{
+/// An icon of a balloon tip.
 inline constexpr int TTI_NONE = 0;
 inline constexpr int TTI_INFO = 1;
 inline constexpr int TTI_WARNING = 2;
 inline constexpr int TTI_ERROR = 3;
+/// @}
 
-// Buttons
+/// @{
+/// A message to a button.
 inline constexpr UINT BM_GETCHECK = 0x00F0;
 inline constexpr UINT BM_SETCHECK = 0x00F1;
 inline constexpr UINT BM_GETSTATE = 0x00F2;
@@ -71,28 +78,36 @@ inline constexpr UINT BM_CLICK = 0x00F5;
 inline constexpr UINT BM_GETIMAGE = 0x00F6;
 inline constexpr UINT BM_SETIMAGE = 0x00F7;
 inline constexpr UINT BM_SETDONTCLICK = 0x00F8;
+/// @}
 
-// States of a button
+/// @{
+/// A state of a button.
 inline constexpr int BST_UNCHECKED = 0x0000;
 inline constexpr int BST_CHECKED = 0x0001;
 inline constexpr int BST_INDETERMINATE = 0x0002;
 inline constexpr int BST_PUSHED = 0x0004;
 inline constexpr int BST_FOCUS = 0x0008;
 inline constexpr int BST_HOT = 0x0200;
+/// @}
 
-// Static controls
+/// @{
+/// A message to a static control.
 inline constexpr UINT STM_SETICON = 0x0170;
 inline constexpr UINT STM_GETICON = 0x0171;
 inline constexpr UINT STM_SETIMAGE = 0x0172;
 inline constexpr UINT STM_GETIMAGE = 0x0173;
+/// @}
 
-// Kinds of images of buttons and static controls
+/// @{
+/// A kind of image of buttons and static controls.
 inline constexpr UINT IMAGE_BITMAP = 0;
 inline constexpr UINT IMAGE_ICON = 1;
 inline constexpr UINT IMAGE_CURSOR = 2;
 inline constexpr UINT IMAGE_ENHMETAFILE = 3;
+/// @}
 
-// Scroll bars
+/// @{
+/// A message to a scroll bar control.
 inline constexpr UINT SBM_SETPOS = 0x00E0;
 inline constexpr UINT SBM_GETPOS = 0x00E1;
 inline constexpr UINT SBM_SETRANGE = 0x00E2;
@@ -102,13 +117,17 @@ inline constexpr UINT SBM_SETRANGEREDRAW = 0x00E6;
 inline constexpr UINT SBM_SETSCROLLINFO = 0x00E9;
 inline constexpr UINT SBM_GETSCROLLINFO = 0x00EA;
 inline constexpr UINT SBM_GETSCROLLBARINFO = 0x00EB;
+/// @}
 
-// Dialogs
+/// @{
+/// A message to a dialog.
 inline constexpr UINT DM_GETDEFID = 0x0400;
 inline constexpr UINT DM_SETDEFID = 0x0401;
 inline constexpr UINT DM_REPOSITION = 0x0402;
+/// @}
 
-// Combo boxes
+/// @{
+/// A message to a combo box.
 inline constexpr UINT CB_GETEDITSEL = 0x0140;
 inline constexpr UINT CB_LIMITTEXT = 0x0141;
 inline constexpr UINT CB_SETEDITSEL = 0x0142;
@@ -148,13 +167,17 @@ inline constexpr UINT CB_SETMINVISIBLE = 0x1701;
 inline constexpr UINT CB_GETMINVISIBLE = 0x1702;
 inline constexpr UINT CB_SETCUEBANNER = 0x1703;
 inline constexpr UINT CB_GETCUEBANNER = 0x1704;
+/// @}
 
-// Results of combo boxes
+/// @{
+/// A result of a combo box.
 inline constexpr int CB_OKAY = 0;
 inline constexpr int CB_ERR = -1;
 inline constexpr int CB_ERRSPACE = -2;
+/// @}
 
-// List boxes
+/// @{
+/// A message to a list box.
 inline constexpr UINT LB_ADDSTRING = 0x0180;
 inline constexpr UINT LB_INSERTSTRING = 0x0181;
 inline constexpr UINT LB_DELETESTRING = 0x0182;
@@ -196,13 +219,17 @@ inline constexpr UINT LB_SETCOUNT = 0x01A7;
 inline constexpr UINT LB_INITSTORAGE = 0x01A8;
 inline constexpr UINT LB_ITEMFROMPOINT = 0x01A9;
 inline constexpr UINT LB_GETLISTBOXINFO = 0x01B2;
+/// @}
 
-// Results of list boxes
+/// @{
+/// A result of a list box.
 inline constexpr int LB_OKAY = 0;
 inline constexpr int LB_ERR = -1;
 inline constexpr int LB_ERRSPACE = -2;
+/// @}
 
-// Progress bars
+/// @{
+/// A message to a progress bar.
 inline constexpr UINT PBM_SETRANGE = 0x0401;
 inline constexpr UINT PBM_SETPOS = 0x0402;
 inline constexpr UINT PBM_DELTAPOS = 0x0403;
@@ -219,8 +246,10 @@ inline constexpr UINT PBM_GETBARCOLOR = 0x040F;
 inline constexpr UINT PBM_SETSTATE = 0x0410;
 inline constexpr UINT PBM_GETSTATE = 0x0411;
 inline constexpr UINT PBM_SETBKCOLOR = 0x2001;
+/// @}
 
-// Sliders
+/// @{
+/// A message to a slider.
 inline constexpr UINT TBM_GETPOS = 0x0400;
 inline constexpr UINT TBM_GETRANGEMIN = 0x0401;
 inline constexpr UINT TBM_GETRANGEMAX = 0x0402;
@@ -255,8 +284,10 @@ inline constexpr UINT TBM_SETTIPSIDE = 0x041F;
 inline constexpr UINT TBM_SETBUDDY = 0x0420;
 inline constexpr UINT TBM_GETBUDDY = 0x0421;
 inline constexpr UINT TBM_SETPOSNOTIFY = 0x0422;
+/// @}
 
-// Spin buttons
+/// @{
+/// A message to a spin button.
 inline constexpr UINT UDM_SETRANGE = 0x0465;
 inline constexpr UINT UDM_GETRANGE = 0x0466;
 inline constexpr UINT UDM_SETPOS = 0x0467;
@@ -271,8 +302,10 @@ inline constexpr UINT UDM_SETRANGE32 = 0x046F;
 inline constexpr UINT UDM_GETRANGE32 = 0x0470;
 inline constexpr UINT UDM_SETPOS32 = 0x0471;
 inline constexpr UINT UDM_GETPOS32 = 0x0472;
+/// @}
 
-// Date and time controls
+/// @{
+/// A message to a date and time control.
 inline constexpr UINT DTM_GETSYSTEMTIME = 0x1001;
 inline constexpr UINT DTM_SETSYSTEMTIME = 0x1002;
 inline constexpr UINT DTM_GETRANGE = 0x1003;
@@ -288,17 +321,23 @@ inline constexpr UINT DTM_CLOSEMONTHCAL = 0x100D;
 inline constexpr UINT DTM_GETDATETIMEPICKERINFO = 0x100E;
 inline constexpr UINT DTM_GETIDEALSIZE = 0x100F;
 inline constexpr UINT DTM_SETFORMAT = 0x1032;
+/// @}
 
-// Results of date and time controls
+/// @{
+/// A result of a date and time control.
 inline constexpr int GDT_ERROR = -1;
 inline constexpr int GDT_VALID = 0;
 inline constexpr int GDT_NONE = 1;
+/// @}
 
-// Limits that DTM_GETRANGE and DTM_SETRANGE carry
+/// @{
+/// A limit that DTM_GETRANGE and DTM_SETRANGE carry.
 inline constexpr DWORD GDTR_MIN = 1;
 inline constexpr DWORD GDTR_MAX = 2;
+/// @}
 
-// Notification codes of buttons
+/// @{
+/// A notification code of a button.
 inline constexpr UINT BN_CLICKED = 0;
 inline constexpr UINT BN_PAINT = 1;
 inline constexpr UINT BN_HILITE = 2;
@@ -310,8 +349,10 @@ inline constexpr UINT BN_UNPUSHED = 3;
 inline constexpr UINT BN_DBLCLK = 5;
 inline constexpr UINT BN_SETFOCUS = 6;
 inline constexpr UINT BN_KILLFOCUS = 7;
+/// @}
 
-// Notification codes of edit controls
+/// @{
+/// A notification code of an edit control.
 inline constexpr UINT EN_SETFOCUS = 0x0100;
 inline constexpr UINT EN_KILLFOCUS = 0x0200;
 inline constexpr UINT EN_CHANGE = 0x0300;
@@ -322,14 +363,18 @@ inline constexpr UINT EN_HSCROLL = 0x0601;
 inline constexpr UINT EN_VSCROLL = 0x0602;
 inline constexpr UINT EN_ALIGN_LTR_EC = 0x0700;
 inline constexpr UINT EN_ALIGN_RTL_EC = 0x0701;
+/// @}
 
-// Notification codes of static controls
+/// @{
+/// A notification code of a static control.
 inline constexpr UINT STN_CLICKED = 0;
 inline constexpr UINT STN_DBLCLK = 1;
 inline constexpr UINT STN_ENABLE = 2;
 inline constexpr UINT STN_DISABLE = 3;
+/// @}
 
-// Notification codes of combo boxes
+/// @{
+/// A notification code of a combo box.
 inline constexpr UINT CBN_SELCHANGE = 1;
 inline constexpr UINT CBN_DBLCLK = 2;
 inline constexpr UINT CBN_SETFOCUS = 3;
@@ -340,19 +385,25 @@ inline constexpr UINT CBN_DROPDOWN = 7;
 inline constexpr UINT CBN_CLOSEUP = 8;
 inline constexpr UINT CBN_SELENDOK = 9;
 inline constexpr UINT CBN_SELENDCANCEL = 10;
+/// @}
 
-// Notification codes of list boxes
+/// @{
+/// A notification code of a list box.
 inline constexpr UINT LBN_SELCHANGE = 1;
 inline constexpr UINT LBN_DBLCLK = 2;
 inline constexpr UINT LBN_SELCANCEL = 3;
 inline constexpr UINT LBN_SETFOCUS = 4;
 inline constexpr UINT LBN_KILLFOCUS = 5;
+/// @}
 
-// Errors that combo and list boxes notify
+/// @{
+/// An error that a combo or list box notifies of.
 inline constexpr int CBN_ERRSPACE = -1;
 inline constexpr int LBN_ERRSPACE = -2;
+/// @}
 
-// Codes of a slider in WM_HSCROLL and WM_VSCROLL
+/// @{
+/// What happened to a slider, in WM_HSCROLL and WM_VSCROLL.
 inline constexpr int TB_LINEUP = 0;
 inline constexpr int TB_LINEDOWN = 1;
 inline constexpr int TB_PAGEUP = 2;
@@ -362,3 +413,4 @@ inline constexpr int TB_THUMBTRACK = 5;
 inline constexpr int TB_TOP = 6;
 inline constexpr int TB_BOTTOM = 7;
 inline constexpr int TB_ENDTRACK = 8;
+/// @}

@@ -18,21 +18,25 @@ class CWnd_E;
 class VXMFC_EXPORT VxWinMsgEvent : public QEvent
 {
 public:
+    /// The type of these events.
     static constexpr QEvent::Type EventType = static_cast<QEvent::Type>(QEvent::User + 128);
 
+    /// A message that is still to be sent.
     VxWinMsgEvent(UINT nMessage, WPARAM nWParam, LPARAM nLParam)
         : QEvent(EventType), message(nMessage), wParam(nWParam), lParam(nLParam)
     {
     }
     ~VxWinMsgEvent() override;
 
+    /// @{
     /// Blocks of messages that are over serve for the next ones, without a trip to the heap.
     static void* operator new(std::size_t size);
     static void operator delete(void* pBlock, std::size_t size);
+    /// @}
 
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
+    UINT message;       ///< its number
+    WPARAM wParam;      ///< depends on the message
+    LPARAM lParam;      ///< depends on the message
     LRESULT result = 0; ///< written by the window that handles the message
 };
 
@@ -40,13 +44,15 @@ public:
 class VXMFC_EXPORT VxMsgBoxEvent : public QEvent
 {
 public:
+    /// The type of these events.
     static constexpr QEvent::Type EventType = static_cast<QEvent::Type>(QEvent::User + 129);
 
+    /// The text and the title of the box.
     VxMsgBoxEvent(const CString_E& strText, const CString_E& strCaption);
     ~VxMsgBoxEvent() override;
 
-    CString_E text;
-    CString_E caption;
+    CString_E text;    ///< what the box says
+    CString_E caption; ///< its title
 
 private:
     friend class CWnd_E;

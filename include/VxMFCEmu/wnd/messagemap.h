@@ -122,7 +122,8 @@ protected:                                                                      
 
 // clang-format off
 
-// Life of the window
+/// @{
+/// A message map's entry for a message of the window's life; the handler is the member it names.
 #define ON_WM_CREATE_E() VXMFC_ON_WM(WM_CREATE, 13, OnCreate, int(CREATESTRUCT*))
 #define ON_WM_DESTROY_E() VXMFC_ON_WM(WM_DESTROY, 19, OnDestroy, void())
 #define ON_WM_NCDESTROY_E() VXMFC_ON_WM(WM_NCDESTROY, 19, OnNcDestroy, void())
@@ -133,8 +134,10 @@ protected:                                                                      
 #define ON_WM_QUERYOPEN_E() VXMFC_ON_WM(WM_QUERYOPEN, 30, OnQueryOpen, BOOL())
 #define ON_WM_PARENTNOTIFY_E() VXMFC_ON_WM(WM_PARENTNOTIFY, 46, OnParentNotify, void(UINT, LPARAM))
 #define ON_WM_COPYDATA_E() VXMFC_ON_WM_PAIR(WM_COPYDATA, 6, OnCopyData, (BOOL(QWidget*, COPYDATASTRUCT*)), (BOOL(CWnd_E*, COPYDATASTRUCT*)))
+/// @}
 
-// Size, place and show
+/// @{
+/// A message map's entry for a message of size, place and show; the handler is the member it names.
 #define ON_WM_SIZE_E() VXMFC_ON_WM(WM_SIZE, 26, OnSize, void(UINT, int, int))
 #define ON_WM_SIZING_E() VXMFC_ON_WM(WM_SIZING, 51, OnSizing, void(UINT, RECT*))
 #define ON_WM_MOVE_E() VXMFC_ON_WM(WM_MOVE, 24, OnMove, void(int, int))
@@ -149,8 +152,10 @@ protected:                                                                      
 #define ON_WM_STYLECHANGED_E() VXMFC_ON_WM(WM_STYLECHANGED, 46, OnStyleChanged, void(int, STYLESTRUCT*))
 #define ON_WM_ENTERSIZEMOVE_E() VXMFC_ON_WM(WM_ENTERSIZEMOVE, 19, OnEnterSizeMove, void())
 #define ON_WM_EXITSIZEMOVE_E() VXMFC_ON_WM(WM_EXITSIZEMOVE, 19, OnExitSizeMove, void())
+/// @}
 
-// Activation and focus
+/// @{
+/// A message map's entry for a message of activation and focus; the handler is the member it names.
 #define ON_WM_ACTIVATE_E() VXMFC_ON_WM_PAIR(WM_ACTIVATE, 42, OnActivate, (void(UINT, QWidget*, BOOL)), (void(UINT, CWnd_E*, BOOL)))
 #define ON_WM_ACTIVATEAPP_E() VXMFC_ON_WM(WM_ACTIVATEAPP, 22, OnActivateApp, void(BOOL, DWORD))
 #define ON_WM_MOUSEACTIVATE_E() VXMFC_ON_WM_PAIR(WM_MOUSEACTIVATE, 12, OnMouseActivate, (int(QWidget*, UINT, UINT)), (int(CWnd_E*, UINT, UINT)))
@@ -160,8 +165,10 @@ protected:                                                                      
 #define ON_WM_KILLFOCUS_E() VXMFC_ON_WM_PAIR(WM_KILLFOCUS, 36, OnKillFocus, (void(QWidget*)), (void(CWnd_E*)))
 #define ON_WM_CAPTURECHANGED_E() VXMFC_ON_WM_PAIR(WM_CAPTURECHANGED, 37, OnCaptureChanged, (void(QWidget*)), (void(CWnd_E*)))
 #define ON_WM_CANCELMODE_E() VXMFC_ON_WM(WM_CANCELMODE, 19, OnCancelMode, void())
+/// @}
 
-// Painting
+/// @{
+/// A message map's entry for a message of painting; the handler is the member it names.
 #define ON_WM_PAINT_E() VXMFC_ON_WM(WM_PAINT, 19, OnPaint, void())
 #define ON_WM_ERASEBKGND_E() VXMFC_ON_WM(WM_ERASEBKGND, 28, OnEraseBkgnd, BOOL(CDC_E*))
 #define ON_WM_CTLCOLOR_E() VXMFC_ON_CTLCOLOR(OnCtlColor, (HBRUSH(CDC_E*, QWidget*, UINT)), (HBRUSH(CDC_E*, CWnd_E*, UINT)))
@@ -177,8 +184,10 @@ protected:                                                                      
 #define ON_WM_QUERYNEWPALETTE_E() VXMFC_ON_WM(WM_QUERYNEWPALETTE, 30, OnQueryNewPalette, BOOL())
 #define ON_WM_SYSCOLORCHANGE_E() VXMFC_ON_WM(WM_SYSCOLORCHANGE, 19, OnSysColorChange, void())
 #define ON_WM_THEMECHANGED_E() VXMFC_ON_WM(WM_THEMECHANGED, 89, OnThemeChanged, LRESULT())
+/// @}
 
-// Keyboard
+/// @{
+/// A message map's entry for a message of the keyboard; the handler is the member it names.
 #define ON_WM_KEYDOWN_E() VXMFC_ON_WM(WM_KEYDOWN, 25, OnKeyDown, void(UINT, UINT, UINT))
 #define ON_WM_KEYUP_E() VXMFC_ON_WM(WM_KEYUP, 25, OnKeyUp, void(UINT, UINT, UINT))
 #define ON_WM_CHAR_E() VXMFC_ON_WM(WM_CHAR, 25, OnChar, void(UINT, UINT, UINT))
@@ -193,8 +202,10 @@ protected:                                                                      
 #define ON_WM_CHARTOITEM_E() VXMFC_ON_WM_PAIR(WM_CHARTOITEM, 10, OnCharToItem, (int(UINT, QWidget*, UINT)), (int(UINT, CWnd_E*, UINT)))
 #define ON_WM_VKEYTOITEM_E() VXMFC_ON_WM_PAIR(WM_VKEYTOITEM, 10, OnVKeyToItem, (int(UINT, QWidget*, UINT)), (int(UINT, CWnd_E*, UINT)))
 #define ON_WM_INPUTLANGCHANGE_E() VXMFC_ON_WM(WM_INPUTLANGCHANGE, 22, OnInputLangChange, void(UINT, UINT))
+/// @}
 
-// Mouse
+/// @{
+/// A message map's entry for a message of the mouse; the handler is the member it names.
 #define ON_WM_MOUSEMOVE_E() VXMFC_ON_WM(WM_MOUSEMOVE, 54, OnMouseMove, void(UINT, CPoint_E))
 #define ON_WM_LBUTTONDOWN_E() VXMFC_ON_WM(WM_LBUTTONDOWN, 54, OnLButtonDown, void(UINT, CPoint_E))
 #define ON_WM_LBUTTONUP_E() VXMFC_ON_WM(WM_LBUTTONUP, 54, OnLButtonUp, void(UINT, CPoint_E))
@@ -230,8 +241,10 @@ protected:                                                                      
 #define ON_WM_NCXBUTTONDOWN_E() VXMFC_ON_WM(WM_NCXBUTTONDOWN, 82, OnNcXButtonDown, void(short, UINT, CPoint_E))
 #define ON_WM_NCXBUTTONUP_E() VXMFC_ON_WM(WM_NCXBUTTONUP, 82, OnNcXButtonUp, void(short, UINT, CPoint_E))
 #define ON_WM_NCXBUTTONDBLCLK_E() VXMFC_ON_WM(WM_NCXBUTTONDBLCLK, 82, OnNcXButtonDblClk, void(short, UINT, CPoint_E))
+/// @}
 
-// Scrolling, timers and commands
+/// @{
+/// A message map's entry for a message of scrolling, timers and commands; the handler is the member it names.
 #define ON_WM_HSCROLL_E() VXMFC_ON_WM_PAIR(WM_HSCROLL, 43, OnHScroll, (void(UINT, UINT, QAbstractSlider*)), (void(UINT, UINT, CScrollBar_E*)))
 #define ON_WM_VSCROLL_E() VXMFC_ON_WM_PAIR(WM_VSCROLL, 43, OnVScroll, (void(UINT, UINT, QAbstractSlider*)), (void(UINT, UINT, CScrollBar_E*)))
 #define ON_WM_TIMER_E() VXMFC_ON_WM(WM_TIMER, 17, OnTimer, void(UINT_PTR))
@@ -247,8 +260,10 @@ protected:                                                                      
 #define ON_WM_QUERYUISTATE_E() VXMFC_ON_WM(WM_QUERYUISTATE, 89, OnQueryUIState, LRESULT())
 #define ON_WM_CHANGEUISTATE_E() VXMFC_ON_WM(WM_CHANGEUISTATE, 23, OnChangeUIState, void(UINT, UINT))
 #define ON_WM_UPDATEUISTATE_E() VXMFC_ON_WM(WM_UPDATEUISTATE, 23, OnUpdateUIState, void(UINT, UINT))
+/// @}
 
-// System
+/// @{
+/// A message map's entry for a message of the system; the handler is the member it names.
 #define ON_WM_SETTINGCHANGE_E() VXMFC_ON_WM(WM_SETTINGCHANGE, 46, OnSettingChange, void(UINT, LPCTSTR))
 #define ON_WM_DEVMODECHANGE_E() VXMFC_ON_WM(WM_DEVMODECHANGE, 45, OnDevModeChange, void(LPTSTR))
 #define ON_WM_DEVICECHANGE_E() VXMFC_ON_WM(WM_DEVICECHANGE, 48, OnDeviceChange, BOOL(UINT, DWORD_PTR))
@@ -261,8 +276,10 @@ protected:                                                                      
 #define ON_WM_SESSIONCHANGE_E() VXMFC_ON_WM(WM_WTSSESSION_CHANGE, 22, OnSessionChange, void(UINT, UINT))
 #define ON_WM_TCARD_E() VXMFC_ON_WM(WM_TCARD, 22, OnTCard, void(UINT, DWORD))
 #define ON_WM_RAWINPUT_E() VXMFC_ON_WM(WM_INPUT, 79, OnRawInput, void(UINT, HANDLE))
+/// @}
 
-// Clipboard
+/// @{
+/// A message map's entry for a message of the clipboard; the handler is the member it names.
 #define ON_WM_DESTROYCLIPBOARD_E() VXMFC_ON_WM(WM_DESTROYCLIPBOARD, 19, OnDestroyClipboard, void())
 #define ON_WM_DRAWCLIPBOARD_E() VXMFC_ON_WM(WM_DRAWCLIPBOARD, 19, OnDrawClipboard, void())
 #define ON_WM_CLIPBOARDUPDATE_E() VXMFC_ON_WM(WM_CLIPBOARDUPDATE, 19, OnClipboardUpdate, void())
@@ -274,4 +291,5 @@ protected:                                                                      
 #define ON_WM_SIZECLIPBOARD_E() VXMFC_ON_WM_PAIR(WM_SIZECLIPBOARD, 40, OnSizeClipboard, (void(QWidget*, HGLOBAL)), (void(CWnd_E*, HGLOBAL)))
 #define ON_WM_HSCROLLCLIPBOARD_E() VXMFC_ON_WM_PAIR(WM_HSCROLLCLIPBOARD, 38, OnHScrollClipboard, (void(QWidget*, UINT, UINT)), (void(CWnd_E*, UINT, UINT)))
 #define ON_WM_VSCROLLCLIPBOARD_E() VXMFC_ON_WM_PAIR(WM_VSCROLLCLIPBOARD, 38, OnVScrollClipboard, (void(QWidget*, UINT, UINT)), (void(CWnd_E*, UINT, UINT)))
+/// @}
 // clang-format on

@@ -6,15 +6,18 @@
 
 #include <VxMFCEmu/types.h>
 
-// Mouse buttons
+/// @{
+/// The virtual key of a mouse button.
 inline constexpr int VK_LBUTTON = 0x01;
 inline constexpr int VK_RBUTTON = 0x02;
 inline constexpr int VK_CANCEL = 0x03;
 inline constexpr int VK_MBUTTON = 0x04;
 inline constexpr int VK_XBUTTON1 = 0x05;
 inline constexpr int VK_XBUTTON2 = 0x06;
+/// @}
 
-// Editing and modifier keys
+/// @{
+/// An editing or modifier key.
 inline constexpr int VK_BACK = 0x08;
 inline constexpr int VK_TAB = 0x09;
 inline constexpr int VK_CLEAR = 0x0C;
@@ -24,8 +27,10 @@ inline constexpr int VK_CONTROL = 0x11;
 inline constexpr int VK_MENU = 0x12;
 inline constexpr int VK_PAUSE = 0x13;
 inline constexpr int VK_CAPITAL = 0x14;
+/// @}
 
-// Input methods
+/// @{
+/// A key of input methods, and Escape.
 inline constexpr int VK_KANA = 0x15;
 inline constexpr int VK_HANGEUL = 0x15;
 inline constexpr int VK_HANGUL = 0x15;
@@ -40,8 +45,10 @@ inline constexpr int VK_CONVERT = 0x1C;
 inline constexpr int VK_NONCONVERT = 0x1D;
 inline constexpr int VK_ACCEPT = 0x1E;
 inline constexpr int VK_MODECHANGE = 0x1F;
+/// @}
 
-// Moving about
+/// @{
+/// A key that moves about or edits.
 inline constexpr int VK_SPACE = 0x20;
 inline constexpr int VK_PRIOR = 0x21;
 inline constexpr int VK_NEXT = 0x22;
@@ -58,14 +65,18 @@ inline constexpr int VK_SNAPSHOT = 0x2C;
 inline constexpr int VK_INSERT = 0x2D;
 inline constexpr int VK_DELETE = 0x2E;
 inline constexpr int VK_HELP = 0x2F;
+/// @}
 
-// System keys
+/// @{
+/// A system key.
 inline constexpr int VK_LWIN = 0x5B;
 inline constexpr int VK_RWIN = 0x5C;
 inline constexpr int VK_APPS = 0x5D;
 inline constexpr int VK_SLEEP = 0x5F;
+/// @}
 
-// Number pad
+/// @{
+/// A key of the number pad.
 inline constexpr int VK_NUMPAD0 = 0x60;
 inline constexpr int VK_NUMPAD1 = 0x61;
 inline constexpr int VK_NUMPAD2 = 0x62;
@@ -82,8 +93,10 @@ inline constexpr int VK_SEPARATOR = 0x6C;
 inline constexpr int VK_SUBTRACT = 0x6D;
 inline constexpr int VK_DECIMAL = 0x6E;
 inline constexpr int VK_DIVIDE = 0x6F;
+/// @}
 
-// Function keys
+/// @{
+/// A function key.
 inline constexpr int VK_F1 = 0x70;
 inline constexpr int VK_F2 = 0x71;
 inline constexpr int VK_F3 = 0x72;
@@ -108,8 +121,10 @@ inline constexpr int VK_F21 = 0x84;
 inline constexpr int VK_F22 = 0x85;
 inline constexpr int VK_F23 = 0x86;
 inline constexpr int VK_F24 = 0x87;
+/// @}
 
-// Locks and sided modifiers
+/// @{
+/// A lock key, or a modifier key of one side.
 inline constexpr int VK_NUMLOCK = 0x90;
 inline constexpr int VK_SCROLL = 0x91;
 inline constexpr int VK_OEM_NEC_EQUAL = 0x92;
@@ -119,8 +134,10 @@ inline constexpr int VK_LCONTROL = 0xA2;
 inline constexpr int VK_RCONTROL = 0xA3;
 inline constexpr int VK_LMENU = 0xA4;
 inline constexpr int VK_RMENU = 0xA5;
+/// @}
 
-// Browser, media and launch keys
+/// @{
+/// A browser, media or launch key.
 inline constexpr int VK_BROWSER_BACK = 0xA6;
 inline constexpr int VK_BROWSER_FORWARD = 0xA7;
 inline constexpr int VK_BROWSER_REFRESH = 0xA8;
@@ -139,8 +156,10 @@ inline constexpr int VK_LAUNCH_MAIL = 0xB4;
 inline constexpr int VK_LAUNCH_MEDIA_SELECT = 0xB5;
 inline constexpr int VK_LAUNCH_APP1 = 0xB6;
 inline constexpr int VK_LAUNCH_APP2 = 0xB7;
+/// @}
 
-// Keys whose character depends on the layout
+/// @{
+/// A key whose character depends on the layout.
 inline constexpr int VK_OEM_1 = 0xBA;
 inline constexpr int VK_OEM_PLUS = 0xBB;
 inline constexpr int VK_OEM_COMMA = 0xBC;
@@ -157,8 +176,10 @@ inline constexpr int VK_OEM_AX = 0xE1;
 inline constexpr int VK_OEM_102 = 0xE2;
 inline constexpr int VK_ICO_HELP = 0xE3;
 inline constexpr int VK_ICO_00 = 0xE4;
+/// @}
 
-// Others
+/// @{
+/// One of the other keys.
 inline constexpr int VK_PROCESSKEY = 0xE5;
 inline constexpr int VK_ICO_CLEAR = 0xE6;
 inline constexpr int VK_PACKET = 0xE7;
@@ -184,8 +205,10 @@ inline constexpr int VK_ZOOM = 0xFB;
 inline constexpr int VK_NONAME = 0xFC;
 inline constexpr int VK_PA1 = 0xFD;
 inline constexpr int VK_OEM_CLEAR = 0xFE;
+/// @}
 
-// Key and button state of mouse messages
+/// @{
+/// A key or button that is held, in a mouse message.
 inline constexpr UINT MK_LBUTTON = 0x0001;
 inline constexpr UINT MK_RBUTTON = 0x0002;
 inline constexpr UINT MK_SHIFT = 0x0004;
@@ -193,25 +216,32 @@ inline constexpr UINT MK_CONTROL = 0x0008;
 inline constexpr UINT MK_MBUTTON = 0x0010;
 inline constexpr UINT MK_XBUTTON1 = 0x0020;
 inline constexpr UINT MK_XBUTTON2 = 0x0040;
+/// @}
 
-// Extra buttons in the high half of wParam
+/// @{
+/// An extra button in the high half of wParam.
 inline constexpr UINT XBUTTON1 = 0x0001;
 inline constexpr UINT XBUTTON2 = 0x0002;
+/// @}
 
-// One notch of a mouse wheel
+/// One notch of a mouse wheel.
 inline constexpr int WHEEL_DELTA = 120;
 
-// Flags of a key in the high half of lParam
+/// @{
+/// A flag of a key in the high half of lParam.
 inline constexpr UINT KF_EXTENDED = 0x0100;
 inline constexpr UINT KF_DLGMODE = 0x0800;
 inline constexpr UINT KF_MENUMODE = 0x1000;
 inline constexpr UINT KF_ALTDOWN = 0x2000;
 inline constexpr UINT KF_REPEAT = 0x4000;
 inline constexpr UINT KF_UP = 0x8000;
+/// @}
 
-// Kinds of MapVirtualKey_E()
+/// @{
+/// A kind of MapVirtualKey_E().
 inline constexpr UINT MAPVK_VK_TO_VSC = 0;
 inline constexpr UINT MAPVK_VSC_TO_VK = 1;
 inline constexpr UINT MAPVK_VK_TO_CHAR = 2;
 inline constexpr UINT MAPVK_VSC_TO_VK_EX = 3;
 inline constexpr UINT MAPVK_VK_TO_VSC_EX = 4;
+/// @}

@@ -5,7 +5,8 @@
 
 #include <VxMFCEmu/types.h>
 
-// Hit-test results
+/// @{
+/// A hit-test result.
 inline constexpr int HTERROR = -2;
 inline constexpr int HTTRANSPARENT = -1;
 inline constexpr int HTNOWHERE = 0;
@@ -35,14 +36,18 @@ inline constexpr int HTBORDER = 18;
 inline constexpr int HTOBJECT = 19;
 inline constexpr int HTCLOSE = 20;
 inline constexpr int HTHELP = 21;
+/// @}
 
-// Scroll bars of a window
+/// @{
+/// A scroll bar of a window.
 inline constexpr int SB_HORZ = 0;
 inline constexpr int SB_VERT = 1;
 inline constexpr int SB_CTL = 2;
 inline constexpr int SB_BOTH = 3;
+/// @}
 
-// Scroll codes of WM_HSCROLL and WM_VSCROLL
+/// @{
+/// What happened to a scroll bar, in WM_HSCROLL and WM_VSCROLL.
 inline constexpr int SB_LINEUP = 0;
 inline constexpr int SB_LINELEFT = 0;
 inline constexpr int SB_LINEDOWN = 1;
@@ -58,8 +63,10 @@ inline constexpr int SB_LEFT = 6;
 inline constexpr int SB_BOTTOM = 7;
 inline constexpr int SB_RIGHT = 7;
 inline constexpr int SB_ENDSCROLL = 8;
+/// @}
 
-// Arrows of EnableScrollBar_E()
+/// @{
+/// Arrows of EnableScrollBar_E().
 inline constexpr UINT ESB_ENABLE_BOTH = 0;
 inline constexpr UINT ESB_DISABLE_LEFT = 1;
 inline constexpr UINT ESB_DISABLE_UP = 1;
@@ -68,23 +75,29 @@ inline constexpr UINT ESB_DISABLE_RIGHT = 2;
 inline constexpr UINT ESB_DISABLE_DOWN = 2;
 inline constexpr UINT ESB_DISABLE_RTDN = 2;
 inline constexpr UINT ESB_DISABLE_BOTH = 3;
+/// @}
 
-// Members of a scroll info that count
+/// @{
+/// A member of a scroll info that counts.
 inline constexpr UINT SIF_RANGE = 0x0001;
 inline constexpr UINT SIF_PAGE = 0x0002;
 inline constexpr UINT SIF_POS = 0x0004;
 inline constexpr UINT SIF_DISABLENOSCROLL = 0x0008;
 inline constexpr UINT SIF_TRACKPOS = 0x0010;
 inline constexpr UINT SIF_ALL = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_TRACKPOS;
+/// @}
 
-// Kinds of size in WM_SIZE
+/// @{
+/// A kind of size in WM_SIZE.
 inline constexpr UINT SIZE_RESTORED = 0;
 inline constexpr UINT SIZE_MINIMIZED = 1;
 inline constexpr UINT SIZE_MAXIMIZED = 2;
 inline constexpr UINT SIZE_MAXSHOW = 3;
 inline constexpr UINT SIZE_MAXHIDE = 4;
+/// @}
 
-// Edges in WM_SIZING
+/// @{
+/// An edge in WM_SIZING.
 inline constexpr UINT WMSZ_LEFT = 1;
 inline constexpr UINT WMSZ_RIGHT = 2;
 inline constexpr UINT WMSZ_TOP = 3;
@@ -93,19 +106,25 @@ inline constexpr UINT WMSZ_TOPRIGHT = 5;
 inline constexpr UINT WMSZ_BOTTOM = 6;
 inline constexpr UINT WMSZ_BOTTOMLEFT = 7;
 inline constexpr UINT WMSZ_BOTTOMRIGHT = 8;
+/// @}
 
-// Activation in WM_ACTIVATE
+/// @{
+/// An activation in WM_ACTIVATE.
 inline constexpr UINT WA_INACTIVE = 0;
 inline constexpr UINT WA_ACTIVE = 1;
 inline constexpr UINT WA_CLICKACTIVE = 2;
+/// @}
 
-// Results of WM_MOUSEACTIVATE
+/// @{
+/// A result of WM_MOUSEACTIVATE.
 inline constexpr int MA_ACTIVATE = 1;
 inline constexpr int MA_ACTIVATEANDEAT = 2;
 inline constexpr int MA_NOACTIVATE = 3;
 inline constexpr int MA_NOACTIVATEANDEAT = 4;
+/// @}
 
-// System commands
+/// @{
+/// A system command.
 inline constexpr UINT SC_SIZE = 0xF000;
 inline constexpr UINT SC_MOVE = 0xF010;
 inline constexpr UINT SC_MINIMIZE = 0xF020;
@@ -128,8 +147,10 @@ inline constexpr UINT SC_DEFAULT = 0xF160;
 inline constexpr UINT SC_MONITORPOWER = 0xF170;
 inline constexpr UINT SC_CONTEXTHELP = 0xF180;
 inline constexpr UINT SC_SEPARATOR = 0xF00F;
+/// @}
 
-// Values stored with a window
+/// @{
+/// A value stored with a window.
 inline constexpr int GWL_WNDPROC = -4;
 inline constexpr int GWL_HINSTANCE = -6;
 inline constexpr int GWL_HWNDPARENT = -8;
@@ -145,8 +166,10 @@ inline constexpr int GWLP_USERDATA = -21;
 inline constexpr int DWL_MSGRESULT = 0;
 inline constexpr int DWL_DLGPROC = 4;
 inline constexpr int DWL_USER = 8;
+/// @}
 
-// Related windows
+/// @{
+/// A relation to another window.
 inline constexpr UINT GW_HWNDFIRST = 0;
 inline constexpr UINT GW_HWNDLAST = 1;
 inline constexpr UINT GW_HWNDNEXT = 2;
@@ -154,18 +177,24 @@ inline constexpr UINT GW_HWNDPREV = 3;
 inline constexpr UINT GW_OWNER = 4;
 inline constexpr UINT GW_CHILD = 5;
 inline constexpr UINT GW_ENABLEDPOPUP = 6;
+/// @}
 
-// Ancestors
+/// @{
+/// A kind of ancestor.
 inline constexpr UINT GA_PARENT = 1;
 inline constexpr UINT GA_ROOT = 2;
 inline constexpr UINT GA_ROOTOWNER = 3;
+/// @}
 
-// Kinds of icon in WM_SETICON
+/// @{
+/// A kind of icon in WM_SETICON.
 inline constexpr int ICON_SMALL = 0;
 inline constexpr int ICON_BIG = 1;
 inline constexpr int ICON_SMALL2 = 2;
+/// @}
 
-// Answers to WM_GETDLGCODE
+/// @{
+/// An answer to WM_GETDLGCODE.
 inline constexpr int DLGC_WANTARROWS = 0x0001;
 inline constexpr int DLGC_WANTTAB = 0x0002;
 inline constexpr int DLGC_WANTALLKEYS = 0x0004;
@@ -177,8 +206,10 @@ inline constexpr int DLGC_RADIOBUTTON = 0x0040;
 inline constexpr int DLGC_WANTCHARS = 0x0080;
 inline constexpr int DLGC_STATIC = 0x0100;
 inline constexpr int DLGC_BUTTON = 0x2000;
+/// @}
 
-// Control kinds in WM_CTLCOLOR*
+/// @{
+/// A kind of control in WM_CTLCOLOR*.
 inline constexpr UINT CTLCOLOR_MSGBOX = 0;
 inline constexpr UINT CTLCOLOR_EDIT = 1;
 inline constexpr UINT CTLCOLOR_LISTBOX = 2;
@@ -187,8 +218,10 @@ inline constexpr UINT CTLCOLOR_DLG = 4;
 inline constexpr UINT CTLCOLOR_SCROLLBAR = 5;
 inline constexpr UINT CTLCOLOR_STATIC = 6;
 inline constexpr UINT CTLCOLOR_MAX = 7;
+/// @}
 
-// Menu flags
+/// @{
+/// A menu flag.
 inline constexpr UINT MF_INSERT = 0x00000000;
 inline constexpr UINT MF_CHANGE = 0x00000080;
 inline constexpr UINT MF_APPEND = 0x00000100;
@@ -217,8 +250,10 @@ inline constexpr UINT MF_HELP = 0x00004000;
 inline constexpr UINT MF_RIGHTJUSTIFY = 0x00004000;
 inline constexpr UINT MF_MOUSESELECT = 0x00008000;
 inline constexpr UINT MF_END = 0x00000080;
+/// @}
 
-// Flags of pop-up menus
+/// @{
+/// A flag of pop-up menus.
 inline constexpr UINT TPM_LEFTBUTTON = 0x0000;
 inline constexpr UINT TPM_RIGHTBUTTON = 0x0002;
 inline constexpr UINT TPM_LEFTALIGN = 0x0000;
@@ -232,13 +267,17 @@ inline constexpr UINT TPM_VERTICAL = 0x0040;
 inline constexpr UINT TPM_NONOTIFY = 0x0080;
 inline constexpr UINT TPM_RETURNCMD = 0x0100;
 inline constexpr UINT TPM_RECURSE = 0x0001;
+/// @}
 
-// Flags of PeekMessage_E()
+/// @{
+/// A flag of PeekMessage_E().
 inline constexpr UINT PM_NOREMOVE = 0x0000;
 inline constexpr UINT PM_REMOVE = 0x0001;
 inline constexpr UINT PM_NOYIELD = 0x0002;
+/// @}
 
-// Flags of RedrawWindow_E()
+/// @{
+/// A flag of RedrawWindow_E().
 inline constexpr UINT RDW_INVALIDATE = 0x0001;
 inline constexpr UINT RDW_INTERNALPAINT = 0x0002;
 inline constexpr UINT RDW_ERASE = 0x0004;
@@ -251,6 +290,7 @@ inline constexpr UINT RDW_UPDATENOW = 0x0100;
 inline constexpr UINT RDW_ERASENOW = 0x0200;
 inline constexpr UINT RDW_FRAME = 0x0400;
 inline constexpr UINT RDW_NOFRAME = 0x0800;
+/// @}
 
-// Position that the window manager chooses
+/// A position that the window manager chooses.
 inline constexpr int CW_USEDEFAULT = static_cast<int>(0x80000000U);

@@ -54,6 +54,7 @@ class CMenu_E;
 class CScrollBar_E;
 class VxWinMsgEvent;
 
+/// A window: the base of dialogs and controls.
 class VXMFC_EXPORT CWnd_E : public CCmdTarget_E
 {
     Q_OBJECT
@@ -109,8 +110,11 @@ public:
     virtual BOOL SetMenu(QList<CMenu_E*> menus);
     /// Called before SubclassWindow() returns; empty here.
     virtual void PreSubclassWindow();
+    /// @{
+    /// As GetWindowText_E() and SetWindowText_E(), for this window.
     virtual void GetWindowText(CString_E& rString);
     virtual void SetWindowText(const wchar_t* lpszString);
+    /// @}
     /// The scroll bar control that stands in for the window's own; null here.
     virtual CScrollBar_E* GetScrollBarCtrl(int nBar) const;
     /// Called when the window is attached; anything but 0 makes creation fail.
@@ -120,10 +124,12 @@ public:
     BOOL SubclassWindow(QWidget* pWidget);
     /// Binds the descendant of @p pParent with this object name; FALSE when there is none.
     BOOL SubclassDlgItem(const char* pszName, CWnd_E* pParent);
+    /// The same by the name that the calling plug-in's id map has for @p nID.
     BOOL SubclassDlgItem(UINT nID, CWnd_E* pParent);
 
     /// The bound widget; null while unbound.
     QWidget* GetSafeHwnd() const;
+    /// GetSafeHwnd().
     operator HWND() const { return GetSafeHwnd(); }
 
     /// The window bound to a widget; null when there is none.
@@ -135,9 +141,11 @@ public:
 
     // Messages
 
+    /// @{
     /// Adds or replaces the entry of a message; see messagemap.h for the checked way to do so.
     void AddMsgMapEntry(UINT message, unsigned long nSig, AFX_PMSG_E pfn, AFX_PMSG_E pfnE);
     void AddMsgMapEntry(UINT message, const AFX_MSGMAP_ENTRY_E& entry);
+    /// @}
     /// Has @p entry answer WM_CTLCOLORMSGBOX to WM_CTLCOLORSTATIC, and sends the window the one of
     /// each of its controls before that is painted. See ON_WM_CTLCOLOR_E.
     void AddCtlColorEntry(const AFX_MSGMAP_ENTRY_E& entry);
@@ -153,8 +161,11 @@ public:
     /// A control's own answer to a message that no handler took (EM_*, CB_*, ...); TRUE when it has
     /// one. FALSE here.
     virtual BOOL OnControlMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// @{
+    /// As SendMessage_E() and PostMessage_E(), to this window.
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// @}
     /// Sends @p e, which stays the caller's, to the widget; FALSE without one.
     BOOL SendEvent(QEvent* e);
     /// Posts @p e, which is owned by the event loop from then on, also on failure. With @p
@@ -167,20 +178,30 @@ public:
     void SetCurrentEventAccepted(bool bAccepted);
     /// The event being dispatched to this window; null outside of message handlers.
     QEvent* GetCurrentEvent() const { return m_pCurrentEvent; }
+    /// Turns the widget's events into messages; see the page above.
     bool eventFilter(QObject* watched, QEvent* e) override;
 
     // Controls
 
     /// The descendant with this object name; null for a null or empty name.
     QWidget* GetChildWidget(const char* pszName) const;
+    /// @{
+    /// FromHandle() of the descendant with this object name, of a widget, or of the control with
+    /// this id; null when there is none.
     CWnd_E* GetDlgItem(const char* pszName) const;
     CWnd_E* GetDlgItem(QWidget* pWidget) const;
     CWnd_E* GetDlgItem(int nID) const;
+    /// @}
+    /// The widget of the control with this id, also stored in @p ppWidget unless that is null; null
+    /// when there is none.
     QWidget* GetDlgItem(int nID, QWidget** ppWidget) const;
+    /// As the function of this name with the suffix `_E`, for this window.
     int GetDlgCtrlID() const;
     /// Renames the widget to the name of @p nID and returns the id it had; an unknown id clears the
     /// name.
     int SetDlgCtrlID(int nID);
+    /// @{
+    /// As the function of this name with the suffix `_E`, for this window.
     BOOL SetDlgItemText(int nID, const wchar_t* lpszString);
     BOOL SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
     int GetDlgItemText(int nID, wchar_t* lpszString, int nMaxCount) const;
@@ -189,15 +210,19 @@ public:
     UINT IsDlgButtonChecked(int nID) const;
     void CheckDlgButton(int nID, UINT nCheck);
     void CheckRadioButton(int nFirst, int nLast, int nCheck);
+    /// @}
 
     // State, text and place
 
+    /// @{
+    /// As the function of this name with the suffix `_E`, for this window.
     BOOL ShowWindow(int nCmdShow);
     BOOL IsWindowVisible() const;
     BOOL IsWindowEnabled() const;
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL CloseWindow();
     BOOL UpdateWindow();
+    /// @}
     /// Shows a modal message box over this window and returns the id of the button that ended it.
     /// The types are the MB_* values; without a caption it is "Error".
     int MessageBox(const wchar_t* lpszText, const wchar_t* lpszCaption = nullptr, UINT nType = 0);
@@ -208,9 +233,15 @@ public:
     void InvalidateRect(const tagRECT* pRect, BOOL bErase = TRUE);
     /// Centres the window on @p pOther, or on its parent, or on its screen.
     void CenterWindow(CWnd_E* pOther = nullptr);
+    /// @{
+    /// As the function of this name with the suffix `_E`, for this window.
     int GetWindowText(wchar_t* lpszString, int nMaxCount) const;
     int GetWindowTextLength() const;
+    /// @}
+    /// The style bits that the window was created with, and that it found at its widget.
     DWORD GetStyle() const { return m_dwStyle; }
+    /// @{
+    /// As the function of this name with the suffix `_E`, for this window.
     BOOL GetWindowRect(tagRECT* pRect) const;
     BOOL GetClientRect(tagRECT* pRect) const;
     BOOL MoveWindow(int x, int y, int cx, int cy, BOOL bRepaint = TRUE);
@@ -224,13 +255,20 @@ public:
     int MapWindowPoints(CWnd_E* pTo, tagRECT* pRect) const;
     BOOL MapDialogRect(tagRECT* pRect) const;
     UINT GetDpiForWindow() const;
+    /// @}
 
     // Other windows
 
+    /// @{
+    /// As the function of this name with the suffix `_E`, with FromHandle() of its result.
     CWnd_E* GetParent() const;
     CWnd_E* SetParent(CWnd_E* pNewParent);
     CWnd_E* GetTopWindow() const;
+    /// @}
+    /// As the function of this name with the suffix `_E`, for this window.
     BOOL IsChild(const CWnd_E* pWnd) const;
+    /// @{
+    /// As the function of this name with the suffix `_E`, with FromHandle() of its result.
     CWnd_E* SetFocus();
     CWnd_E* SetActiveWindow();
     CWnd_E* SetCapture();
@@ -239,30 +277,39 @@ public:
     static CWnd_E* GetCapture();
     static CWnd_E* GetDesktopWindow();
     static CWnd_E* WindowFromPoint(tagPOINT point);
+    /// @}
 
     // Scroll bars: made by ShowScrollBar(), owned by the window, along its right and bottom edges.
     // Each use of one sends the window WM_HSCROLL or WM_VSCROLL.
 
+    /// @{
+    /// Shows, hides or enables the scroll bar SB_HORZ, SB_VERT or both.
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
     BOOL EnableScrollBar(int nBar, UINT nArrowFlags = 0);
+    /// @}
     /// Sets the range; nothing without that scroll bar.
     void SetScrollRange(int nBar, int nMin, int nMax, BOOL bRedraw = TRUE);
     /// Gives the range; 0 and 0 without that scroll bar.
     void GetScrollRange(int nBar, int* pMin, int* pMax) const;
     /// Sets the position without sending a message and returns the previous one.
     int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
+    /// The position; 0 without that scroll bar.
     int GetScrollPos(int nBar) const;
 
+    /// @{
     /// SetTimer_E() and KillTimer_E() for this window.
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT uElapse, TIMERPROC pfnTimer = nullptr);
     BOOL KillTimer(UINT_PTR nIDEvent);
+    /// @}
 
 Q_SIGNALS:
+    /// For applications; the library does not emit it.
     void timeOut(unsigned long nIDEvent);
     /// Emitted each time the event loop is about to wait; command-UI updates hang on it.
     void updateCmdUi();
 
 public Q_SLOTS:
+    /// Emits updateCmdUi().
     void OnEnterIdle();
 
 public:
@@ -274,17 +321,23 @@ public:
     void OnDestroy();
     /// Detaches the widget and calls PostNcDestroy().
     void OnNcDestroy();
+    /// Lets the event go on to the widget.
     BOOL OnNcCreate(CREATESTRUCT* pCreate);
     /// Destroys the window.
     void OnClose();
+    /// @{
+    /// Lets the event go on to the widget.
     BOOL OnQueryEndSession();
     void OnEndSession(BOOL bEnding);
     BOOL OnQueryOpen();
     void OnParentNotify(UINT nMessage, LPARAM lParam);
     BOOL OnCopyData(QWidget* pWnd, COPYDATASTRUCT* pData);
     BOOL OnCopyData_E(CWnd_E* pWnd, COPYDATASTRUCT* pData);
+    /// @}
 
     // Size, place and show
+    /// @{
+    /// Lets the event go on to the widget.
     void OnSize(UINT nType, int cx, int cy);
     void OnSizing(UINT nSide, RECT* pRect);
     void OnMove(int x, int y);
@@ -299,8 +352,11 @@ public:
     void OnStyleChanged(int nStyleType, STYLESTRUCT* pStyle);
     void OnEnterSizeMove();
     void OnExitSizeMove();
+    /// @}
 
     // Activation and focus
+    /// @{
+    /// Lets the event go on to the widget.
     void OnActivate(UINT nState, QWidget* pWndOther, BOOL bMinimized);
     void OnActivate_E(UINT nState, CWnd_E* pWndOther, BOOL bMinimized);
     void OnActivateApp(BOOL bActive, DWORD dwThreadID);
@@ -315,8 +371,11 @@ public:
     void OnCaptureChanged(QWidget* pWnd);
     void OnCaptureChanged_E(CWnd_E* pWnd);
     void OnCancelMode();
+    /// @}
 
     // Painting
+    /// @{
+    /// Lets the event go on to the widget.
     void OnPaint();
     HBRUSH OnCtlColor(CDC_E* pDC, QWidget* pWnd, UINT nCtlColor);
     HBRUSH OnCtlColor_E(CDC_E* pDC, CWnd_E* pWnd, UINT nCtlColor);
@@ -335,8 +394,11 @@ public:
     BOOL OnQueryNewPalette();
     void OnSysColorChange();
     LRESULT OnThemeChanged();
+    /// @}
 
     // Keyboard
+    /// @{
+    /// Lets the event go on to the widget.
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
     void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
@@ -353,8 +415,11 @@ public:
     int OnVKeyToItem(UINT nKey, QWidget* pListBox, UINT nIndex);
     int OnVKeyToItem_E(UINT nKey, CWnd_E* pListBox, UINT nIndex);
     void OnInputLangChange(UINT nCharSet, UINT nLocaleId);
+    /// @}
 
     // Mouse
+    /// @{
+    /// Lets the event go on to the widget.
     void OnMouseMove(UINT nFlags, CPoint_E point);
     void OnLButtonDown(UINT nFlags, CPoint_E point);
     void OnLButtonUp(UINT nFlags, CPoint_E point);
@@ -392,8 +457,11 @@ public:
     void OnNcXButtonDown(short nHitTest, UINT nButton, CPoint_E point);
     void OnNcXButtonUp(short nHitTest, UINT nButton, CPoint_E point);
     void OnNcXButtonDblClk(short nHitTest, UINT nButton, CPoint_E point);
+    /// @}
 
     // Scrolling, timers and commands
+    /// @{
+    /// Lets the event go on to the widget.
     void OnHScroll(UINT nSBCode, UINT nPos, QAbstractSlider* pScrollBar);
     void OnHScroll_E(UINT nSBCode, UINT nPos, CScrollBar_E* pScrollBar);
     void OnVScroll(UINT nSBCode, UINT nPos, QAbstractSlider* pScrollBar);
@@ -413,8 +481,11 @@ public:
     LRESULT OnQueryUIState();
     void OnChangeUIState(UINT nAction, UINT nUIElement);
     void OnUpdateUIState(UINT nAction, UINT nUIElement);
+    /// @}
 
     // System
+    /// @{
+    /// Lets the event go on to the widget.
     void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     void OnDevModeChange(LPTSTR lpDeviceName);
     BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
@@ -427,8 +498,11 @@ public:
     void OnSessionChange(UINT nSessionState, UINT nId);
     void OnTCard(UINT idAction, DWORD dwActionData);
     void OnRawInput(UINT nInputCode, HANDLE hRawInput);
+    /// @}
 
     // Clipboard
+    /// @{
+    /// Lets the event go on to the widget.
     void OnDestroyClipboard();
     void OnDrawClipboard();
     void OnClipboardUpdate();
@@ -444,8 +518,10 @@ public:
     void OnHScrollClipboard_E(CWnd_E* pClipAppWnd, UINT nSBCode, UINT nPos);
     void OnVScrollClipboard(QWidget* pClipAppWnd, UINT nSBCode, UINT nPos);
     void OnVScrollClipboard_E(CWnd_E* pClipAppWnd, UINT nSBCode, UINT nPos);
+    /// @}
 
 protected:
+    /// Follows the idle times from the first listener of updateCmdUi() on.
     void connectNotify(const QMetaMethod& signal) override;
 
     /// The style bits that the window was created with, and that it found at its widget.

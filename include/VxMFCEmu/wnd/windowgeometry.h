@@ -10,11 +10,13 @@
 
 #include <VxMFCEmu/types.h>
 
+/// @{
 /// Special windows to stand behind in SetWindowPos_E(); compared only, never followed.
 inline const HWND HWND_TOP = nullptr;
 inline const HWND HWND_BOTTOM = reinterpret_cast<HWND>(static_cast<UINT_PTR>(1));
 inline const HWND HWND_TOPMOST = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
 inline const HWND HWND_NOTOPMOST = reinterpret_cast<HWND>(static_cast<INT_PTR>(-2));
+/// @}
 
 /// Stores the rectangle of the whole window, with its frame, in screen coordinates.
 VXMFC_EXPORT BOOL GetWindowRect_E(HWND hWnd, LPRECT prc);
@@ -35,18 +37,24 @@ VXMFC_EXPORT BOOL MoveWindow_E(HWND hWnd, LPCRECT prc, BOOL bRepaint = TRUE);
 VXMFC_EXPORT BOOL SetWindowPos_E(HWND hWnd, HWND hWndInsertAfter, int x, int y, int cx, int cy,
                                  UINT uFlags);
 
+/// @{
 /// Turns client coordinates into screen coordinates.
 VXMFC_EXPORT BOOL ClientToScreen_E(HWND hWnd, LPPOINT ppt);
 VXMFC_EXPORT BOOL ClientToScreen_E(HWND hWnd, LPRECT prc);
+/// @}
+/// @{
 /// Turns screen coordinates into client coordinates.
 VXMFC_EXPORT BOOL ScreenToClient_E(HWND hWnd, LPPOINT ppt);
 VXMFC_EXPORT BOOL ScreenToClient_E(HWND hWnd, LPRECT prc);
+/// @}
 
+/// @{
 /// Turns @p nCount points in client coordinates of @p hWndFrom into those of @p hWndTo; null stands
 /// for the screen. The result is the distance by which they moved: x in the low, y in the high
 /// word.
 VXMFC_EXPORT int MapWindowPoints_E(HWND hWndFrom, HWND hWndTo, LPPOINT ppt, UINT nCount);
 VXMFC_EXPORT int MapWindowPoints_E(HWND hWndFrom, HWND hWndTo, LPRECT prc);
+/// @}
 
 /// Turns dialog units into pixels: 4 units are the average character width of the dialog's font, 8
 /// its height.
@@ -61,6 +69,7 @@ VXMFC_EXPORT UINT GetDpiForWindow_E(HWND hWnd);
 
 /// The pointer's position on the screen.
 VXMFC_EXPORT BOOL GetCursorPos_E(LPPOINT ppt);
+/// The position of the pointer on the screen.
 VXMFC_EXPORT BOOL SetCursorPos_E(int x, int y);
 
 /// The widget that stands for the whole desktop. Owned by Qt; null before the application object.

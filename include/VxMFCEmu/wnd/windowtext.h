@@ -24,12 +24,16 @@ VXMFC_EXPORT int GetWindowText_E(HWND hWnd, CString_E& strText);
 /// Stores at most @p nMaxCount characters with the terminator and returns the number without it; 0,
 /// storing nothing, for a null buffer or no room.
 VXMFC_EXPORT int GetWindowText_E(HWND hWnd, LPWSTR pszText, int nMaxCount);
+/// The number of characters of the text.
 VXMFC_EXPORT int GetWindowTextLength_E(HWND hWnd);
 
 /// The same for the control @p nID of a dialog.
 VXMFC_EXPORT BOOL SetDlgItemText_E(HWND hDlg, int nID, LPCWSTR pszText);
+/// @{
+/// The text of the control @p nID, as GetWindowText_E() gives it.
 VXMFC_EXPORT int GetDlgItemText_E(HWND hDlg, int nID, CString_E& strText);
 VXMFC_EXPORT int GetDlgItemText_E(HWND hDlg, int nID, LPWSTR pszText, int nMaxCount);
+/// @}
 
 /// Sets a control's text to a decimal number, negative if @p bSigned is set and the highest bit is.
 VXMFC_EXPORT BOOL SetDlgItemInt_E(HWND hDlg, int nID, UINT nValue, BOOL bSigned = TRUE);

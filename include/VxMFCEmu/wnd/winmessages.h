@@ -4,7 +4,8 @@
 
 #include <VxMFCEmu/types.h>
 
-// Life, state and text of a window
+/// @{
+/// A message about the life, state or text of a window, or of what is around it.
 inline constexpr UINT WM_NULL = 0x0000;
 inline constexpr UINT WM_CREATE = 0x0001;
 inline constexpr UINT WM_DESTROY = 0x0002;
@@ -75,8 +76,10 @@ inline constexpr UINT WM_STYLECHANGED = 0x007D;
 inline constexpr UINT WM_DISPLAYCHANGE = 0x007E;
 inline constexpr UINT WM_GETICON = 0x007F;
 inline constexpr UINT WM_SETICON = 0x0080;
+/// @}
 
-// Outside the client area
+/// @{
+/// A message about what lies outside the client area.
 inline constexpr UINT WM_NCCREATE = 0x0081;
 inline constexpr UINT WM_NCDESTROY = 0x0082;
 inline constexpr UINT WM_NCCALCSIZE = 0x0083;
@@ -98,8 +101,10 @@ inline constexpr UINT WM_NCMBUTTONDBLCLK = 0x00A9;
 inline constexpr UINT WM_NCXBUTTONDOWN = 0x00AB;
 inline constexpr UINT WM_NCXBUTTONUP = 0x00AC;
 inline constexpr UINT WM_NCXBUTTONDBLCLK = 0x00AD;
+/// @}
 
-// Keyboard and raw input
+/// @{
+/// A message of the keyboard or of raw input.
 inline constexpr UINT WM_INPUT_DEVICE_CHANGE = 0x00FE;
 inline constexpr UINT WM_INPUT = 0x00FF;
 inline constexpr UINT WM_KEYFIRST = 0x0100;
@@ -117,8 +122,10 @@ inline constexpr UINT WM_IME_STARTCOMPOSITION = 0x010D;
 inline constexpr UINT WM_IME_ENDCOMPOSITION = 0x010E;
 inline constexpr UINT WM_IME_COMPOSITION = 0x010F;
 inline constexpr UINT WM_IME_KEYLAST = 0x010F;
+/// @}
 
-// Dialogs, commands, scrolling and menus
+/// @{
+/// A message of dialogs, commands, scrolling or menus.
 inline constexpr UINT WM_INITDIALOG = 0x0110;
 inline constexpr UINT WM_COMMAND = 0x0111;
 inline constexpr UINT WM_SYSCOMMAND = 0x0112;
@@ -140,6 +147,8 @@ inline constexpr UINT WM_MENUCOMMAND = 0x0126;
 inline constexpr UINT WM_CHANGEUISTATE = 0x0127;
 inline constexpr UINT WM_UPDATEUISTATE = 0x0128;
 inline constexpr UINT WM_QUERYUISTATE = 0x0129;
+/// @}
+/// @{
 /// Names the handler of the seven messages below in a message map; is never sent.
 inline constexpr UINT WM_CTLCOLOR = 0x0019;
 inline constexpr UINT WM_CTLCOLORMSGBOX = 0x0132;
@@ -149,8 +158,10 @@ inline constexpr UINT WM_CTLCOLORBTN = 0x0135;
 inline constexpr UINT WM_CTLCOLORDLG = 0x0136;
 inline constexpr UINT WM_CTLCOLORSCROLLBAR = 0x0137;
 inline constexpr UINT WM_CTLCOLORSTATIC = 0x0138;
+/// @}
 
-// Mouse
+/// @{
+/// A message of the mouse.
 inline constexpr UINT WM_MOUSEFIRST = 0x0200;
 inline constexpr UINT WM_MOUSEMOVE = 0x0200;
 inline constexpr UINT WM_LBUTTONDOWN = 0x0201;
@@ -168,8 +179,10 @@ inline constexpr UINT WM_XBUTTONUP = 0x020C;
 inline constexpr UINT WM_XBUTTONDBLCLK = 0x020D;
 inline constexpr UINT WM_MOUSEHWHEEL = 0x020E;
 inline constexpr UINT WM_MOUSELAST = 0x020E;
+/// @}
 
-// Loops, frames and multiple documents
+/// @{
+/// A message of menu loops, of sizing and of frames with many documents.
 inline constexpr UINT WM_PARENTNOTIFY = 0x0210;
 inline constexpr UINT WM_ENTERMENULOOP = 0x0211;
 inline constexpr UINT WM_EXITMENULOOP = 0x0212;
@@ -194,8 +207,10 @@ inline constexpr UINT WM_ENTERSIZEMOVE = 0x0231;
 inline constexpr UINT WM_EXITSIZEMOVE = 0x0232;
 inline constexpr UINT WM_DROPFILES = 0x0233;
 inline constexpr UINT WM_MDIREFRESHMENU = 0x0234;
+/// @}
 
-// Touch and pointers
+/// @{
+/// A message of touch and pointer devices.
 inline constexpr UINT WM_POINTERDEVICECHANGE = 0x0238;
 inline constexpr UINT WM_POINTERDEVICEINRANGE = 0x0239;
 inline constexpr UINT WM_POINTERDEVICEOUTOFRANGE = 0x023A;
@@ -216,8 +231,10 @@ inline constexpr UINT WM_POINTERHWHEEL = 0x024F;
 inline constexpr UINT WM_POINTERROUTEDTO = 0x0251;
 inline constexpr UINT WM_POINTERROUTEDAWAY = 0x0252;
 inline constexpr UINT WM_POINTERROUTEDRELEASED = 0x0253;
+/// @}
 
-// Input methods, hovering and sessions
+/// @{
+/// A message of input methods, hovering, sessions or resolution.
 inline constexpr UINT WM_IME_SETCONTEXT = 0x0281;
 inline constexpr UINT WM_IME_NOTIFY = 0x0282;
 inline constexpr UINT WM_IME_CONTROL = 0x0283;
@@ -238,8 +255,10 @@ inline constexpr UINT WM_DPICHANGED = 0x02E0;
 inline constexpr UINT WM_DPICHANGED_BEFOREPARENT = 0x02E2;
 inline constexpr UINT WM_DPICHANGED_AFTERPARENT = 0x02E3;
 inline constexpr UINT WM_GETDPISCALEDSIZE = 0x02E4;
+/// @}
 
-// Clipboard, palettes and printing
+/// @{
+/// A message of the clipboard, of palettes or of printing.
 inline constexpr UINT WM_CUT = 0x0300;
 inline constexpr UINT WM_COPY = 0x0301;
 inline constexpr UINT WM_PASTE = 0x0302;
@@ -273,8 +292,10 @@ inline constexpr UINT WM_DWMSENDICONICLIVEPREVIEWBITMAP = 0x0326;
 inline constexpr UINT WM_GETTITLEBARINFOEX = 0x033F;
 inline constexpr UINT WM_HANDHELDFIRST = 0x0358;
 inline constexpr UINT WM_HANDHELDLAST = 0x035F;
+/// @}
 
-// MFC's own
+/// @{
+/// A message of MFC's own.
 inline constexpr UINT WM_AFXFIRST = 0x0360;
 inline constexpr UINT WM_QUERYAFXWNDPROC = 0x0360;
 inline constexpr UINT WM_SIZEPARENT = 0x0361;
@@ -294,7 +315,10 @@ inline constexpr UINT WM_ACTIVATETOPLEVEL = 0x036E;
 inline constexpr UINT WM_AFXLAST = 0x037F;
 inline constexpr UINT WM_PENWINFIRST = 0x0380;
 inline constexpr UINT WM_PENWINLAST = 0x038F;
+/// @}
 
-// Where the numbers of window classes and of applications start
+/// @{
+/// Where the message numbers of window classes or of applications start.
 inline constexpr UINT WM_USER = 0x0400;
 inline constexpr UINT WM_APP = 0x8000;
+/// @}

@@ -5,7 +5,8 @@
 
 #include <VxMFCEmu/types.h>
 
-// Window styles
+/// @{
+/// A window style.
 inline constexpr DWORD WS_OVERLAPPED = 0x00000000;
 inline constexpr DWORD WS_POPUP = 0x80000000;
 inline constexpr DWORD WS_CHILD = 0x40000000;
@@ -34,8 +35,10 @@ inline constexpr DWORD WS_OVERLAPPEDWINDOW =
 inline constexpr DWORD WS_TILEDWINDOW = WS_OVERLAPPEDWINDOW;
 inline constexpr DWORD WS_POPUPWINDOW = WS_POPUP | WS_BORDER | WS_SYSMENU;
 inline constexpr DWORD WS_CHILDWINDOW = WS_CHILD;
+/// @}
 
-// Extended window styles
+/// @{
+/// An extended window style.
 inline constexpr DWORD WS_EX_LEFT = 0x00000000;
 inline constexpr DWORD WS_EX_LTRREADING = 0x00000000;
 inline constexpr DWORD WS_EX_RIGHTSCROLLBAR = 0x00000000;
@@ -63,8 +66,10 @@ inline constexpr DWORD WS_EX_COMPOSITED = 0x02000000;
 inline constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
 inline constexpr DWORD WS_EX_OVERLAPPEDWINDOW = WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE;
 inline constexpr DWORD WS_EX_PALETTEWINDOW = WS_EX_WINDOWEDGE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST;
+/// @}
 
-// Dialog styles
+/// @{
+/// A dialog style.
 inline constexpr DWORD DS_ABSALIGN = 0x00000001;
 inline constexpr DWORD DS_SYSMODAL = 0x00000002;
 inline constexpr DWORD DS_3DLOOK = 0x00000004;
@@ -80,8 +85,10 @@ inline constexpr DWORD DS_CENTER = 0x00000800;
 inline constexpr DWORD DS_CENTERMOUSE = 0x00001000;
 inline constexpr DWORD DS_CONTEXTHELP = 0x00002000;
 inline constexpr DWORD DS_SHELLFONT = DS_SETFONT | DS_FIXEDSYS;
+/// @}
 
-// Edit styles
+/// @{
+/// A style of edit controls.
 inline constexpr DWORD ES_LEFT = 0x00000000;
 inline constexpr DWORD ES_CENTER = 0x00000001;
 inline constexpr DWORD ES_RIGHT = 0x00000002;
@@ -96,8 +103,10 @@ inline constexpr DWORD ES_OEMCONVERT = 0x00000400;
 inline constexpr DWORD ES_READONLY = 0x00000800;
 inline constexpr DWORD ES_WANTRETURN = 0x00001000;
 inline constexpr DWORD ES_NUMBER = 0x00002000;
+/// @}
 
-// Button styles
+/// @{
+/// A style of buttons.
 inline constexpr DWORD BS_PUSHBUTTON = 0x00000000;
 inline constexpr DWORD BS_DEFPUSHBUTTON = 0x00000001;
 inline constexpr DWORD BS_CHECKBOX = 0x00000002;
@@ -126,8 +135,10 @@ inline constexpr DWORD BS_PUSHLIKE = 0x00001000;
 inline constexpr DWORD BS_MULTILINE = 0x00002000;
 inline constexpr DWORD BS_NOTIFY = 0x00004000;
 inline constexpr DWORD BS_FLAT = 0x00008000;
+/// @}
 
-// Combo box styles
+/// @{
+/// A style of combo boxes.
 inline constexpr DWORD CBS_SIMPLE = 0x00000001;
 inline constexpr DWORD CBS_DROPDOWN = 0x00000002;
 inline constexpr DWORD CBS_DROPDOWNLIST = 0x00000003;
@@ -141,8 +152,10 @@ inline constexpr DWORD CBS_NOINTEGRALHEIGHT = 0x00000400;
 inline constexpr DWORD CBS_DISABLENOSCROLL = 0x00000800;
 inline constexpr DWORD CBS_UPPERCASE = 0x00002000;
 inline constexpr DWORD CBS_LOWERCASE = 0x00004000;
+/// @}
 
-// List box styles
+/// @{
+/// A style of list boxes.
 inline constexpr DWORD LBS_NOTIFY = 0x00000001;
 inline constexpr DWORD LBS_SORT = 0x00000002;
 inline constexpr DWORD LBS_NOREDRAW = 0x00000004;
@@ -160,8 +173,10 @@ inline constexpr DWORD LBS_NODATA = 0x00002000;
 inline constexpr DWORD LBS_NOSEL = 0x00004000;
 inline constexpr DWORD LBS_COMBOBOX = 0x00008000;
 inline constexpr DWORD LBS_STANDARD = LBS_NOTIFY | LBS_SORT | WS_VSCROLL | WS_BORDER;
+/// @}
 
-// Static styles
+/// @{
+/// A style of static controls.
 inline constexpr DWORD SS_LEFT = 0x00000000;
 inline constexpr DWORD SS_CENTER = 0x00000001;
 inline constexpr DWORD SS_RIGHT = 0x00000002;
@@ -194,8 +209,10 @@ inline constexpr DWORD SS_ENDELLIPSIS = 0x00004000;
 inline constexpr DWORD SS_PATHELLIPSIS = 0x00008000;
 inline constexpr DWORD SS_WORDELLIPSIS = 0x0000C000;
 inline constexpr DWORD SS_ELLIPSISMASK = 0x0000C000;
+/// @}
 
-// Scroll bar styles
+/// @{
+/// A style of scroll bar controls.
 inline constexpr DWORD SBS_HORZ = 0x00000000;
 inline constexpr DWORD SBS_VERT = 0x00000001;
 inline constexpr DWORD SBS_TOPALIGN = 0x00000002;
@@ -206,14 +223,18 @@ inline constexpr DWORD SBS_SIZEBOXTOPLEFTALIGN = 0x00000002;
 inline constexpr DWORD SBS_SIZEBOXBOTTOMRIGHTALIGN = 0x00000004;
 inline constexpr DWORD SBS_SIZEBOX = 0x00000008;
 inline constexpr DWORD SBS_SIZEGRIP = 0x00000010;
+/// @}
 
-// Progress bar styles
+/// @{
+/// A style of progress bars.
 inline constexpr DWORD PBS_SMOOTH = 0x00000001;
 inline constexpr DWORD PBS_VERTICAL = 0x00000004;
 inline constexpr DWORD PBS_MARQUEE = 0x00000008;
 inline constexpr DWORD PBS_SMOOTHREVERSE = 0x00000010;
+/// @}
 
-// Slider styles
+/// @{
+/// A style of sliders.
 inline constexpr DWORD TBS_HORZ = 0x00000000;
 inline constexpr DWORD TBS_BOTTOM = 0x00000000;
 inline constexpr DWORD TBS_RIGHT = 0x00000000;
@@ -229,8 +250,10 @@ inline constexpr DWORD TBS_NOTHUMB = 0x00000080;
 inline constexpr DWORD TBS_TOOLTIPS = 0x00000100;
 inline constexpr DWORD TBS_REVERSED = 0x00000200;
 inline constexpr DWORD TBS_DOWNISLEFT = 0x00000400;
+/// @}
 
-// Spin button styles
+/// @{
+/// A style of spin buttons.
 inline constexpr DWORD UDS_WRAP = 0x00000001;
 inline constexpr DWORD UDS_SETBUDDYINT = 0x00000002;
 inline constexpr DWORD UDS_ALIGNRIGHT = 0x00000004;
@@ -240,8 +263,10 @@ inline constexpr DWORD UDS_ARROWKEYS = 0x00000020;
 inline constexpr DWORD UDS_HORZ = 0x00000040;
 inline constexpr DWORD UDS_NOTHOUSANDS = 0x00000080;
 inline constexpr DWORD UDS_HOTTRACK = 0x00000100;
+/// @}
 
-// Date and time styles
+/// @{
+/// A style of date and time controls.
 inline constexpr DWORD DTS_SHORTDATEFORMAT = 0x00000000;
 inline constexpr DWORD DTS_UPDOWN = 0x00000001;
 inline constexpr DWORD DTS_SHOWNONE = 0x00000002;
@@ -250,8 +275,10 @@ inline constexpr DWORD DTS_TIMEFORMAT = 0x00000009;
 inline constexpr DWORD DTS_SHORTDATECENTURYFORMAT = 0x0000000C;
 inline constexpr DWORD DTS_APPCANPARSE = 0x00000010;
 inline constexpr DWORD DTS_RIGHTALIGN = 0x00000020;
+/// @}
 
-// Styles of common controls
+/// @{
+/// A style of all common controls.
 inline constexpr DWORD CCS_TOP = 0x00000001;
 inline constexpr DWORD CCS_NOMOVEY = 0x00000002;
 inline constexpr DWORD CCS_BOTTOM = 0x00000003;
@@ -260,8 +287,10 @@ inline constexpr DWORD CCS_NOPARENTALIGN = 0x00000008;
 inline constexpr DWORD CCS_ADJUSTABLE = 0x00000020;
 inline constexpr DWORD CCS_NODIVIDER = 0x00000040;
 inline constexpr DWORD CCS_VERT = 0x00000080;
+/// @}
 
-// Window class styles
+/// @{
+/// A style of a window class.
 inline constexpr DWORD CS_VREDRAW = 0x00000001;
 inline constexpr DWORD CS_HREDRAW = 0x00000002;
 inline constexpr DWORD CS_DBLCLKS = 0x00000008;
@@ -275,8 +304,10 @@ inline constexpr DWORD CS_BYTEALIGNWINDOW = 0x00002000;
 inline constexpr DWORD CS_GLOBALCLASS = 0x00004000;
 inline constexpr DWORD CS_IME = 0x00010000;
 inline constexpr DWORD CS_DROPSHADOW = 0x00020000;
+/// @}
 
-// Commands of ShowWindow_E()
+/// @{
+/// A command of ShowWindow_E().
 inline constexpr int SW_HIDE = 0;
 inline constexpr int SW_SHOWNORMAL = 1;
 inline constexpr int SW_NORMAL = 1;
@@ -292,14 +323,18 @@ inline constexpr int SW_RESTORE = 9;
 inline constexpr int SW_SHOWDEFAULT = 10;
 inline constexpr int SW_FORCEMINIMIZE = 11;
 inline constexpr int SW_MAX = 11;
+/// @}
 
-// Reasons in the lParam of WM_SHOWWINDOW
+/// @{
+/// A reason in the lParam of WM_SHOWWINDOW.
 inline constexpr int SW_PARENTCLOSING = 1;
 inline constexpr int SW_OTHERZOOM = 2;
 inline constexpr int SW_PARENTOPENING = 3;
 inline constexpr int SW_OTHERUNZOOM = 4;
+/// @}
 
-// Flags of SetWindowPos_E()
+/// @{
+/// A flag of SetWindowPos_E().
 inline constexpr UINT SWP_NOSIZE = 0x0001;
 inline constexpr UINT SWP_NOMOVE = 0x0002;
 inline constexpr UINT SWP_NOZORDER = 0x0004;
@@ -315,3 +350,4 @@ inline constexpr UINT SWP_DRAWFRAME = SWP_FRAMECHANGED;
 inline constexpr UINT SWP_NOREPOSITION = SWP_NOOWNERZORDER;
 inline constexpr UINT SWP_DEFERERASE = 0x2000;
 inline constexpr UINT SWP_ASYNCWINDOWPOS = 0x4000;
+/// @}
