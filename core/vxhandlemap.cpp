@@ -91,6 +91,9 @@ void CHandleMap_E::DeleteTemp()
             m_temporaryMap.GetNextAssoc(position, h, pEntry);
             m_temporaryMap.RemoveKey(h);
             auto* const pObject = static_cast<CObject_E*>(pEntry);
+            // Bound to its own handle, it must be forgotten there too.
+            if (CObject_E::GetOwner(pObject->GetImpQObject()) == pObject)
+                pObject->Detach();
             ClearHandle(pObject, h);
             m_pfnDestructObject(pObject);
         }

@@ -78,5 +78,5 @@ QList<const QMetaObject*>* CRuntimeClass_E::CreateMetaList(const QMetaObject* pF
 bool CRuntimeClass_E::RegisterCreateObjectMethod(const QMetaObject* pMeta,
                                                  VxCreateObjectFn pfnCreateObject)
 {
-    return pfnCreateObject && g_mapCreateMethod.emplace(pMeta, pfnCreateObject).second;
+    return pMeta && pfnCreateObject && g_mapCreateMethod.emplace(pMeta, pfnCreateObject).second;
 }

@@ -6,6 +6,7 @@ vxmfc_sources(FOLDER ctrl
     ctrl/comboboxex.h
     ctrl/datetimectrl.h
     ctrl/edit.h
+    ctrl/headerctrl.h
     ctrl/listbox.h
     ctrl/progressctrl.h
     ctrl/scrollbar.h
@@ -24,6 +25,7 @@ vxmfc_sources(FOLDER ctrl
     vxeditinput.cpp
     vxeditlines.cpp
     vxeditmessages.cpp
+    vxheaderctrl.cpp
     vxlistbox.cpp
     vxlistmessages.cpp
     vxlistselection.cpp

@@ -14,8 +14,6 @@ constexpr std::wstring_view kNull = L"(null)";
 std::uint64_t takeUnsigned(const FormatSpec& spec, ArgCursor& cursor)
 {
     switch (spec.size) {
-    case ArgSize::Long:
-        return va_arg(cursor.args, unsigned long);
     case ArgSize::Bits64:
         return va_arg(cursor.args, unsigned long long);
     case ArgSize::Short:
@@ -28,8 +26,6 @@ std::uint64_t takeUnsigned(const FormatSpec& spec, ArgCursor& cursor)
 std::int64_t takeSigned(const FormatSpec& spec, ArgCursor& cursor)
 {
     switch (spec.size) {
-    case ArgSize::Long:
-        return va_arg(cursor.args, long);
     case ArgSize::Bits64:
         return va_arg(cursor.args, long long);
     case ArgSize::Short:

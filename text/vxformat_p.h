@@ -40,7 +40,7 @@ enum class ArgSize : unsigned char
 {
     Default,
     Short,  // h
-    Long,   // l
+    Long,   // l: 32 bits for a number
     Wide,   // w
     Bits32, // I32
     Bits64, // I64, ll, and I: the size of a pointer

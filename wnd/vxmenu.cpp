@@ -24,7 +24,8 @@ BOOL CMenu_E::OnAttach()
 
 void CMenu_E::OnDetach()
 {
-    if (CHandleMap_E* const pMap = afxMapHMENU_E(FALSE))
+    CHandleMap_E* const pMap = afxMapHMENU_E(FALSE);
+    if (pMap && pMap->LookupPermanent(m_hMenu) == this)
         pMap->RemoveHandle(m_hMenu);
     m_hMenu = nullptr;
 }

@@ -8,6 +8,7 @@
 #include <VxMFCEmu/ctrl/comboboxex.h>
 #include <VxMFCEmu/ctrl/datetimectrl.h>
 #include <VxMFCEmu/ctrl/edit.h>
+#include <VxMFCEmu/ctrl/headerctrl.h>
 #include <VxMFCEmu/ctrl/listbox.h>
 #include <VxMFCEmu/ctrl/progressctrl.h>
 #include <VxMFCEmu/ctrl/scrollbar.h>

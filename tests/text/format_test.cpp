@@ -48,7 +48,7 @@ TEST(Format, AgreesWithSwprintf)
         compareWithSwprintf(conversion, {0, 1, -1, 42, -70000, INT_MAX, INT_MIN});
     for (const wchar_t* conversion : {L"u", L"o", L"x", L"X", L"hu", L"hx"})
         compareWithSwprintf(conversion, {0U, 1U, 8U, 0xBEEFU, 70000U, UINT_MAX});
-    compareWithSwprintf(L"ld", {0L, 5L, LONG_MAX, LONG_MIN});
+    compareWithSwprintf(L"lld", {0LL, 5LL, LLONG_MAX, LLONG_MIN});
     compareWithSwprintf(L"llX", {0ULL, 5ULL, ULLONG_MAX});
     for (const wchar_t* conversion : {L"f", L"F", L"e", L"E", L"g", L"G", L"a", L"A", L"lf"})
         compareWithSwprintf(conversion,
@@ -85,6 +85,7 @@ TEST(Format, WindowsConversions)
     EXPECT_EQ(
         formatted(L"%I64d %I32d %Iu %I64X %lld", LLONG_MIN, -7, ~0UL, 0xABCDEF012345ULL, -1LL),
         L"-9223372036854775808 -7 18446744073709551615 ABCDEF012345 -1");
+    EXPECT_EQ(formatted(L"%ld %lu %ld", LONG{-5}, DWORD{0xFFFFFFFF}, -7L), L"-5 4294967295 -7");
     EXPECT_EQ(formatted(L"%p|%20p", reinterpret_cast<void*>(0xBEEF), null),
               L"000000000000BEEF|    0000000000000000");
     EXPECT_EQ(formatted(L"%*d|%*d|%.*f|%.*f", 5, 42, -5, 42, 1, 2.25, -1, 2.25),

@@ -260,12 +260,12 @@ public:
     /// @}
 
     /// Replaces the text by formatted arguments, which may point into it. Conversions, C locale
-    /// always: d i u o x X (of short with h, long with l, 64 bits with ll and I64, 32 with I32, the
-    /// size of a pointer with I), f F e E g G a A of double, c and s wide, C and S narrow (UTF-8,
+    /// always: d i u o x X (of short with h, 32 bits with l and I32, 64 with ll and I64, the size of
+    /// a pointer with I), f F e E g G a A of double, c and s wide, C and S narrow (UTF-8,
     /// invalid bytes as U+FFFD) unless h or l and w say narrow or wide, p as 16 upper-case
     /// hexadecimal digits, %. A null string prints "(null)", an unknown conversion itself. Width
-    /// and precision end at a million. Differs from Win32: l is the 64-bit long of this platform,
-    /// so a LONG or DWORD is formatted without it.
+    /// and precision end at a million. As on Windows, l means 32 bits, so that LONG and DWORD are
+    /// right; a 64-bit long of this platform takes ll.
     void Format(const wchar_t* lpszFormat, ...);
     /// The same with a format from the calling plug-in's string table; empty when it is missing.
     void Format(UINT nFormatID, ...);

@@ -41,4 +41,4 @@ private:
 };
 
 /// The handle map of menus; made on first request with @p bCreate, null before.
-VXMFC_EXPORT class CHandleMap_E* afxMapHMENU_E(BOOL bCreate);
+VXMFC_EXPORT class CHandleMap_E* afxMapHMENU_E(BOOL bCreate = FALSE);

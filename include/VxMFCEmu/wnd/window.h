@@ -584,7 +584,7 @@ private:
 };
 
 /// The handle map of windows; made on first request with @p bCreate, null before.
-VXMFC_EXPORT class CHandleMap_E* afxMapHWND_E(BOOL bCreate);
+VXMFC_EXPORT class CHandleMap_E* afxMapHWND_E(BOOL bCreate = FALSE);
 
 /// Hides a window and tells it and its children, from the top down, that it ends: each permanent
 /// CWnd_E gets WM_DESTROY before its children and WM_NCDESTROY after them. The widget itself is
