@@ -104,6 +104,8 @@ bool useTracker(Report& report, unsigned long window)
     const QPoint origin = tracker.topLeft();
     const QPoint plot = report.geometryOf("plot").center();
     const QPoint post = report.geometryOf("post").center();
+    const QPoint save = report.geometryOf("save").center();
+    const QPoint open = report.geometryOf("open").center();
     const QPoint fit = report.geometryOf("fit").center();
     const int growth = kLaterSize.width() - report.geometryOf("frame").width();
     return perform(
@@ -128,6 +130,11 @@ bool useTracker(Report& report, unsigned long window)
          {[&] { click(plot, 3); }, QStringLiteral("plot of 44 items at 100 %")},
          {[&] { click(plot + QPoint(40, 0), 3); }, // elsewhere, or it is a double click
           QStringLiteral("plot of 108 items at 100 %")},
+         {[&] { click(plot, 4); }, QStringLiteral("plot of 108 items at 125 %")},
+         {[&] { click(save); }, QStringLiteral("saved 108 items")},
+         {[&] { click(plot + QPoint(-40, 0), 3); }, QStringLiteral("plot of 44 items at 100 %")},
+         {[&] { click(open); }, QStringLiteral("plot of 108 items at 125 %")},
+         {[&] { click(fit); }, QStringLiteral("status: .*, Fit off, 108 items, 100 %")},
          {[&] { vxtest::resizeWindow(window, kLaterSize); },
           QStringLiteral("WM_SIZE %1,\\d+").arg(tracker.width() + growth)}});
 }
@@ -143,12 +150,14 @@ bool firstRun(Report& report, unsigned long window, const QString& pictures)
            useTracker(report, window);
 }
 
-/// The second run finds the window as the first one left it, and the registry counts on.
+/// The second run finds the window and the saved plot as the first one left them, and the registry
+/// counts on.
 bool secondRun(Report& report, unsigned long, const QString&)
 {
     const bool sameSize =
         check(report.geometryOf("frame").size() == kLaterSize, "the window has its size again");
     const QPoint post = report.geometryOf("post").center();
+    const QPoint open = report.geometryOf("open").center();
     const QPoint labels = report.geometryOf("labels").center();
     return perform(report,
                    {{nullptr, QStringLiteral("run 2, tracker on #E6EEF8")},
@@ -156,6 +165,7 @@ bool secondRun(Report& report, unsigned long, const QString&)
                                              "labels 0, lines 1")},
                     {nullptr, QStringLiteral("status: Grid 25 mm on, Labels, Fit off, .*")},
                     {[&] { click(post); }, QStringLiteral("WM_TRACKER_PING 2")},
+                    {[&] { click(open); }, QStringLiteral("plot of 108 items at 125 %")},
                     {[&] { click(labels); },
                      QStringLiteral("status: Grid 25 mm on, Labels on, .*")}}) &&
            sameSize;

@@ -35,6 +35,7 @@ public:
     bool Load(const wchar_t* lpszPath);
 
     const std::vector<PlotItem>& Items() const { return m_items; }
+    void SetItems(std::vector<PlotItem> items) { m_items = std::move(items); }
     /// The smallest rectangle around all points, bottom above top.
     CRect_E Bounds() const;
 

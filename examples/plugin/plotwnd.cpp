@@ -18,6 +18,8 @@ constexpr Paper kPapers[] = {{RGB(33, 40, 48), RGB(56, 66, 78)},
 
 constexpr LONG kUnitsPerMillimetre = 40;
 constexpr double kMargin = 1.06;
+constexpr double kMinZoom = 0.2;
+constexpr double kMaxZoom = 50;
 constexpr int kPenStyles[] = {PS_DOT,     PS_DOT,     PS_DASH,      PS_DASH,
                               PS_DASHDOT, PS_DASHDOT, PS_DASHDOTDOT};
 constexpr double kDegree = 3.14159265358979323846 / 180;
@@ -58,6 +60,23 @@ bool CPlotWnd::Open(int nPlot)
     m_rcBounds = m_plot.Bounds();
     Fit();
     return loaded;
+}
+
+void CPlotWnd::Store(CPlotDocument& document) const
+{
+    document.m_items = m_plot.Items();
+    document.m_ptCentre = m_ptCentre;
+    document.m_dZoom = m_dZoom;
+}
+
+void CPlotWnd::Show(const CPlotDocument& document)
+{
+    m_plot.SetItems(document.m_items);
+    m_rcBounds = m_plot.Bounds();
+    m_ptCentre = document.m_ptCentre;
+    // Also of a damaged file, where it may be no number at all.
+    m_dZoom = std::min(std::max(kMinZoom, document.m_dZoom), kMaxZoom);
+    Invalidate();
 }
 
 void CPlotWnd::SetLook(const PlotLook& look)
@@ -238,7 +257,7 @@ BOOL CPlotWnd::OnMouseWheel(UINT, short zDelta, CPoint_E point)
     GetClientRect(&rect);
     const CSize_E fromMiddle = point - rect.CenterPoint();
     const double before = Scale();
-    m_dZoom = std::clamp(m_dZoom * std::pow(1.25, zDelta / 120.0), 0.2, 50.0);
+    m_dZoom = std::clamp(m_dZoom * std::pow(1.25, zDelta / 120.0), kMinZoom, kMaxZoom);
     const double change = 1 / before - 1 / Scale();
     m_ptCentre.x += static_cast<LONG>(std::lround(fromMiddle.cx * change));
     m_ptCentre.y -= static_cast<LONG>(std::lround(fromMiddle.cy * change));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plotdocument.h"
 #include "plotfile.h"
 #include "settings.h"
 
@@ -15,6 +16,10 @@ class CPlotWnd : public CWnd_E
 
     /// Shows plot number @p nPlot; false when there is no such plot.
     bool Open(int nPlot);
+    /// Puts what is shown into a document.
+    void Store(CPlotDocument& document) const;
+    /// Shows what a document has.
+    void Show(const CPlotDocument& document);
 
     void SetLook(const PlotLook& look);
     const PlotLook& Look() const { return m_look; }

@@ -8,6 +8,8 @@ constexpr int IDC_POST = 1003;
 constexpr int IDC_CLEAR = 1004;
 constexpr int IDC_SETTINGS = 1005;
 constexpr int IDC_CONTROLS = 1006;
+constexpr int IDC_SAVE = 1007;
+constexpr int IDC_OPEN = 1008;
 
 // The status line: commands, then what only shows a state.
 constexpr int ID_VIEW_GRID = 1101;

@@ -1,6 +1,8 @@
 #include "settings.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QStandardPaths>
 
 #include <dlfcn.h>
 
@@ -122,6 +124,14 @@ void CTrackerSettings::SavePlace()
         return;
     for (const PlacePart& part : kPlace)
         SetNumber(part.name, place.*part.member);
+}
+
+CString_E DocumentPath()
+{
+    const QString strFolder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    QDir().mkpath(strFolder);
+    return CString_E(strFolder) + L"/VxDemo.plot";
 }
 
 CString_E BesidePlugin(const CString_E& strName)

@@ -47,6 +47,9 @@ private:
     HKEY m_hKey = nullptr;
 };
 
+/// Where the user's plot is kept: beside the settings.
+CString_E DocumentPath();
+
 /// The path of a file that lies beside the plug-in.
 CString_E BesidePlugin(const CString_E& strName);
 

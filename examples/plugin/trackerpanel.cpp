@@ -34,6 +34,20 @@ CString_E formatted(UINT nFormatID, int nValue)
     return strText;
 }
 
+/// Whether it succeeds; if not, the user is told why.
+template <typename Function>
+bool succeeds(Function function)
+{
+    try {
+        function();
+        return true;
+    } catch (CException_E* e) {
+        e->ReportError();
+        e->Delete();
+        return false;
+    }
+}
+
 } // namespace
 
 IMPLEMENT_DYNAMIC_E(CDrawingWnd, CWnd_E, QWidget)
@@ -57,6 +71,8 @@ ON_BN_CLICKED_E(IDC_POST, &CTrackerPanel::OnPost)
 ON_BN_CLICKED_E(IDC_CLEAR, &CTrackerPanel::OnClear)
 ON_BN_CLICKED_E(IDC_SETTINGS, &CTrackerPanel::OnSettings)
 ON_BN_CLICKED_E(IDC_CONTROLS, &CTrackerPanel::OnControls)
+ON_BN_CLICKED_E(IDC_SAVE, &CTrackerPanel::OnSave)
+ON_BN_CLICKED_E(IDC_OPEN, &CTrackerPanel::OnOpen)
 ON_COMMAND_E(ID_VIEW_GRID, &CTrackerPanel::OnViewGrid)
 ON_COMMAND_E(ID_VIEW_LABELS, &CTrackerPanel::OnViewLabels)
 ON_COMMAND_E(ID_VIEW_FIT, &CTrackerPanel::OnViewFit)
@@ -122,7 +138,7 @@ void CTrackerPanel::SetupUI()
 
     auto* const pGrid = new QGridLayout(pPanel);
     pGrid->addWidget(m_wndPlot.GetSafeHwnd(), 0, 0);
-    pGrid->addWidget(pTracker, 1, 0, 2, 1);
+    pGrid->addWidget(pTracker, 1, 0, 3, 1);
     pGrid->addWidget(pReports, 0, 1, 1, 2);
     pGrid->addWidget(makeButton<QPushButton>(IDC_POST, QStringLiteral("Post a message"), pPanel), 1,
                      1);
@@ -131,7 +147,10 @@ void CTrackerPanel::SetupUI()
         makeButton<QPushButton>(IDC_SETTINGS, QStringLiteral("Plot settings..."), pPanel), 2, 1);
     pGrid->addWidget(makeButton<QPushButton>(IDC_CONTROLS, QStringLiteral("Controls..."), pPanel),
                      2, 2);
-    pGrid->addWidget(MakeStatusLine(), 3, 0, 1, 3);
+    pGrid->addWidget(makeButton<QPushButton>(IDC_SAVE, QStringLiteral("Save the plot"), pPanel), 3,
+                     1);
+    pGrid->addWidget(makeButton<QPushButton>(IDC_OPEN, QStringLiteral("Open it"), pPanel), 3, 2);
+    pGrid->addWidget(MakeStatusLine(), 4, 0, 1, 3);
     pGrid->setColumnStretch(0, 1);
 
     CString_E strReady;
@@ -212,6 +231,25 @@ void CTrackerPanel::OnControls()
                  IDC_FILL, IDC_PLOT, IDCANCEL});
 }
 
+void CTrackerPanel::OnSave()
+{
+    CPlotDocument document;
+    m_wndPlot.Store(document);
+    const bool bSaved = succeeds([&document] { SaveDocument(document, DocumentPath()); });
+    CString_E strLine;
+    strLine.Format(bSaved ? L"saved %d items" : L"could not save", m_wndPlot.ItemCount());
+    WriteReport(strLine);
+}
+
+void CTrackerPanel::OnOpen()
+{
+    std::unique_ptr<CPlotDocument> pDocument;
+    if (!succeeds([&pDocument] { pDocument = OpenDocument(DocumentPath()); }) || !pDocument)
+        return WriteReport(L"could not open");
+    m_wndPlot.Show(*pDocument);
+    m_wndPlot.ReportZoom();
+}
+
 // When it is on the screen.
 void CTrackerPanel::ReportShown(CDialog_E& dlg, const CString_E& strName, std::vector<int> ids)
 {
@@ -290,6 +328,8 @@ void CTrackerPanel::ReportReady()
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
     WriteGeometry(L"settings", GetDlgItem(IDC_SETTINGS, nullptr));
     WriteGeometry(L"controls", GetDlgItem(IDC_CONTROLS, nullptr));
+    WriteGeometry(L"save", GetDlgItem(IDC_SAVE, nullptr));
+    WriteGeometry(L"open", GetDlgItem(IDC_OPEN, nullptr));
     WriteGeometry(L"grid", GetDlgItem(ID_VIEW_GRID, nullptr));
     WriteGeometry(L"labels", GetDlgItem(ID_VIEW_LABELS, nullptr));
     WriteGeometry(L"fit", GetDlgItem(ID_VIEW_FIT, nullptr));

@@ -23,7 +23,7 @@ private:
 };
 
 /// The plug-in's window: a plot, the tracker, the list of what they reported, some buttons and a
-/// status line that follows the plot.
+/// status line that follows the plot. A plot can be saved and opened again.
 class CTrackerPanel : public CWnd_E
 {
     Q_OBJECT
@@ -45,6 +45,8 @@ class CTrackerPanel : public CWnd_E
     void OnClear();
     void OnSettings();
     void OnControls();
+    void OnSave();
+    void OnOpen();
     void OnViewGrid();
     void OnViewLabels();
     void OnViewFit();
