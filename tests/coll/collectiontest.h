@@ -5,8 +5,7 @@
 
 namespace vxtest {
 
-/// An element that is no plain bytes and is counted while it lives; its own neither copies nor
-/// moves may be missed.
+/// An element that is no plain bytes, is counted while it lives, and shows whether it was copied.
 class Counted
 {
 public:
@@ -27,14 +26,14 @@ private:
 };
 
 template <typename Element>
-Element elementOf(unsigned number)
+Element elementOf(std::size_t number)
 {
     if constexpr (std::is_same_v<Element, CString_E>) {
         CString_E text;
-        text.Format(L"element %u", number);
+        text.Format(L"element %u", static_cast<unsigned>(number));
         return text;
     } else if constexpr (std::is_pointer_v<Element>) {
-        return reinterpret_cast<Element>(std::uintptr_t{number} * 16);
+        return reinterpret_cast<Element>(number * 16);
     } else {
         return Element(static_cast<int>(number));
     }
