@@ -1,0 +1,54 @@
+// Bytes of archives, for the tests of archives and of serial classes.
+#pragma once
+
+#include "support/test.h"
+
+/// Blanks between the digits are for the reader.
+inline QByteArray hex(const char* digits) { return QByteArray::fromHex(digits); }
+
+/// What @p work writes into an archive.
+template <typename Work>
+QByteArray stored(Work work, int nBufSize = 4096)
+{
+    CMemFile_E file;
+    {
+        CArchive_E ar(&file, CArchive_E::store, nBufSize);
+        work(ar);
+    }
+    QByteArray bytes(static_cast<int>(file.GetLength()), '\0');
+    file.SeekToBegin();
+    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+    return bytes;
+}
+
+/// Lets @p work read from @p bytes, and returns how many are left.
+template <typename Work>
+int load(QByteArray bytes, Work work, int nBufSize = 4096)
+{
+    CMemFile_E file(reinterpret_cast<BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
+    CArchive_E ar(&file, CArchive_E::load, nBufSize);
+    work(ar);
+    ar.Close();
+    return bytes.size() - static_cast<int>(file.GetPosition());
+}
+
+/// The cause of the archive exception that @p work throws: 0 when it throws none.
+template <typename Work>
+int causeOf(Work work)
+{
+    try {
+        work();
+    } catch (CArchiveException_E* e) {
+        const int cause = e->m_cause;
+        e->Delete();
+        return cause;
+    }
+    return CArchiveException_E::none;
+}
+
+/// The same of reading @p bytes.
+template <typename Work>
+int loadCause(const QByteArray& bytes, Work work)
+{
+    return causeOf([&] { load(bytes, work); });
+}

@@ -1,0 +1,307 @@
+#include "archiving.h"
+
+namespace {
+
+using Cause = CArchiveException_E;
+
+/// Knows its class by the macros alone.
+class CNode : public CObject_E
+{
+    DECLARE_SERIAL_E(CNode)
+
+    explicit CNode(int n = 0, CNode* pChild = nullptr) : m_n(n), m_pChild(pChild) { ++s_nAlive; }
+    ~CNode() override
+    {
+        --s_nAlive;
+        delete m_pChild;
+    }
+    void Serialize(CArchive_E& ar) override
+    {
+        if (ar.IsStoring())
+            ar << m_n << m_pChild << m_pLink;
+        else
+            ar >> m_n >> m_pChild >> m_pLink;
+    }
+
+    static inline int s_nAlive = 0;
+    int m_n;
+    CNode* m_pChild;
+    CObject_E* m_pLink = nullptr;
+};
+IMPLEMENT_SERIAL_E(CNode, CObject_E, 1)
+
+class CSubNode : public CNode
+{
+    DECLARE_SERIAL_E(CSubNode)
+};
+IMPLEMENT_SERIAL_E(CSubNode, CNode, 1)
+
+class CEmpty : public CObject_E
+{
+    Q_OBJECT
+    DECLARE_SERIAL_E(CEmpty)
+};
+IMPLEMENT_SERIAL_E(CEmpty, CObject_E, 0)
+
+/// Reads an older form, and the version of its base.
+class CVersioned : public CEmpty
+{
+    Q_OBJECT
+    DECLARE_SERIAL_E(CVersioned)
+
+    void Serialize(CArchive_E& ar) override
+    {
+        if (ar.IsLoading()) {
+            m_nSchema = ar.GetObjectSchema();
+            EXPECT_EQ(ar.GetObjectSchema(), ~0U);
+        }
+        ar.SerializeClass(RUNTIME_CLASS_E(CEmpty));
+        m_nBaseSchema = ar.IsLoading() ? ar.GetObjectSchema() : 0;
+    }
+
+    UINT m_nSchema = 0;
+    UINT m_nBaseSchema = 0;
+};
+IMPLEMENT_SERIAL_E(CVersioned, CEmpty, VERSIONABLE_SCHEMA | 3)
+
+/// Goes on when its child cannot be read.
+class CLenient : public CObject_E
+{
+    DECLARE_SERIAL_E(CLenient)
+
+    void Serialize(CArchive_E& ar) override
+    {
+        EXPECT_EQ(causeOf([&] { ar.ReadObject(nullptr); }), Cause::badClass);
+        ar.ReadObject(nullptr);
+    }
+};
+IMPLEMENT_SERIAL_E(CLenient, CObject_E, 1)
+
+// Class record 1 of a CNode, with its schema; then each object's number, child and link.
+constexpr char kFamily[] = "FFFF 0100 0500 434E6F6465 01000000" // object 2
+                           " 0180 02000000"                     // object 4 - 1: a child
+                           " FFFF 0100 0800 4353 75624E6F6465"  // class 4
+                           " 03000000 0000 0300"                // object 5, linked to 3
+                           " 0200"                              // 3 is linked to 2
+                           " 0500";                             // 2 is linked to 5
+
+struct Family
+{
+    Family()
+    {
+        third.m_n = 3;
+        first.m_pLink = first.m_pChild->m_pChild = &third;
+        third.m_pLink = first.m_pChild;
+        first.m_pChild->m_pLink = &first;
+    }
+    ~Family() { first.m_pChild->m_pChild = nullptr; }
+
+    CSubNode third;
+    CNode first{1, new CNode(2)};
+};
+
+CNode* readNode(CArchive_E& ar)
+{
+    CNode* pNode = nullptr;
+    ar >> pNode;
+    return pNode;
+}
+
+TEST(Serial, ACyclicGraphHasItsFormAndComesBack)
+{
+    const Family family;
+    const QByteArray bytes = stored([&](CArchive_E& ar) { ar << &family.first; });
+    EXPECT_EQ(bytes.toHex(), hex(kFamily).toHex());
+    std::unique_ptr<CNode> pFirst;
+    EXPECT_EQ(load(bytes, [&](CArchive_E& ar) { pFirst.reset(readNode(ar)); }), 0);
+    const CNode* const pSecond = pFirst->m_pChild;
+    EXPECT_EQ(std::tie(pFirst->m_n, pSecond->m_n, pSecond->m_pChild->m_n),
+              std::make_tuple(1, 2, 3));
+    EXPECT_EQ(pSecond->m_pChild->GetRuntimeClass(), RUNTIME_CLASS_E(CSubNode));
+    EXPECT_EQ(pFirst->m_pLink, pSecond->m_pChild);
+    EXPECT_EQ(pSecond->m_pLink, pFirst.get());
+    EXPECT_EQ(pSecond->m_pChild->m_pLink, pSecond);
+}
+
+TEST(Serial, ACutStreamEndsAndLeavesNothing)
+{
+    const QByteArray bytes = hex(kFamily);
+    for (int cut = 0; cut < bytes.size(); ++cut)
+        EXPECT_EQ(loadCause(bytes.left(cut), readNode), Cause::endOfFile) << cut;
+    EXPECT_EQ(CNode::s_nAlive, 0);
+}
+
+TEST(Serial, WhatIsNoGraphOfTheseClassesIsRefused)
+{
+    static const Row<const char*, int> rows[] = {
+        {"FFFF 0200 0500 434E6F6465", Cause::badSchema},
+        {"FFFF 0100 0500 434E6F6464", Cause::badClass},
+        {"FFFF 0100 0400 434E6F64", Cause::badClass},
+        {"FFFF 0100 0600 434E6F646500", Cause::badClass},
+        {"FFFF 0100 0000", Cause::badClass},
+        {"FFFF 0100 FFFF", Cause::badClass},
+        {"FFFF 0000 0600 43456D707479", Cause::badClass},     // CEmpty
+        {"FFFF 0100 0800 434C656E69656E74", Cause::badClass}, // CLenient, seen only by its object
+        {"0080", Cause::badIndex},
+        {"0180", Cause::badIndex},
+        {"0100", Cause::badIndex},
+        {"FF7F 00000080", Cause::badIndex},
+        {"FF7F FFFFFFFF", Cause::badIndex},
+        {"FF7F FFFFFF7F", Cause::badIndex},
+        {"FFFF 0100 0500 434E6F6465 00000000 0000 0100", Cause::badIndex}, // linked to a class
+        {"FFFF 0100 0500 434E6F6465 00000000 0280", Cause::badIndex},      // of an object's class
+        {"FFFF 0100 0500 434E6F6465 00000000 0000 FFFF 0000 0600 43456D707479", 0},
+        // The child is what was read as a link before: no node.
+        {"FFFF 0100 0500 434E6F6465 00000000 0180 00000000 0000 FFFF 0000 0600 43456D707479"
+         " 0180 00000000 0500 0000",
+         Cause::badClass},
+    };
+    forRows(rows, [](const char* digits, int cause) {
+        std::unique_ptr<CObject_E> pLink;
+        EXPECT_EQ(loadCause(hex(digits),
+                            [&](CArchive_E& ar) {
+                                const std::unique_ptr<CNode> pNode(readNode(ar));
+                                pLink.reset(pNode->m_pLink);
+                            }),
+                  cause);
+    });
+    EXPECT_EQ(CNode::s_nAlive, 0);
+}
+
+TEST(Serial, NullAndAskedForClasses)
+{
+    CSubNode sub;
+    const QByteArray bytes = stored(
+        [&](CArchive_E& ar) { ar << static_cast<CObject_E*>(nullptr) << &sub << &sub << &sub; });
+    load(bytes, [](CArchive_E& ar) {
+        EXPECT_EQ(readNode(ar), nullptr);
+        const std::unique_ptr<CNode> pNode(readNode(ar));
+        EXPECT_EQ(ar.ReadObject(RUNTIME_CLASS_E(CSubNode)), pNode.get());
+        EXPECT_EQ(causeOf([&] { ar.ReadObject(RUNTIME_CLASS_E(CLenient)); }), Cause::badClass);
+        EXPECT_THROW(ar.ReadObject(RUNTIME_CLASS_E(CObject_E)), CNotSupportedException_E*);
+    });
+    const CObject_E plain;
+    stored([&](CArchive_E& ar) {
+        EXPECT_THROW(ar << &plain, CNotSupportedException_E*);
+        EXPECT_THROW(ar.WriteClass(RUNTIME_CLASS_E(CWnd_E)), CNotSupportedException_E*);
+        EXPECT_THROW(RUNTIME_CLASS_E(CWnd_E)->Store(ar), CNotSupportedException_E*);
+    });
+}
+
+TEST(Serial, TagsGrowAtTheirLimit)
+{
+    // The class has the first number that is given, the first object the next one, and so on.
+    static const Row<DWORD, const char*, const char*> rows[] = {
+        {0x7FFD, "FDFF", "FE7F"},
+        {0x7FFE, "FEFF", "FF7F FF7F0000"},
+        {0x7FFF, "FF7F FF7F0080", "FF7F 00800000"},
+        {0x8000, "FF7F 00800080", "FF7F 01800000"},
+    };
+    forRows(rows, [](DWORD first, const char* classTag, const char* objectTag) {
+        std::vector<CObject_E> mapped(first - 1);
+        const auto map = [&](CArchive_E& ar) {
+            for (const CObject_E& object : mapped)
+                ar.MapObject(&object);
+        };
+        const CEmpty one;
+        const CEmpty two;
+        const QByteArray bytes = stored([&](CArchive_E& ar) {
+            ar.SetStoreParams();
+            map(ar);
+            ar << &one << &two << &one << &mapped[1];
+        });
+        EXPECT_EQ(bytes.toHex(), (hex("FFFF 0000 0600 43456D707479") + hex(classTag) +
+                                  hex(objectTag) + hex("0200"))
+                                     .toHex());
+        load(bytes, [&](CArchive_E& ar) {
+            ar.SetLoadParams();
+            map(ar);
+            const std::unique_ptr<CObject_E> pOne(ar.ReadObject(nullptr));
+            const std::unique_ptr<CObject_E> pTwo(ar.ReadObject(nullptr));
+            EXPECT_NE(pOne, pTwo);
+            EXPECT_EQ(ar.ReadObject(nullptr), pOne.get());
+            EXPECT_EQ(ar.ReadObject(nullptr), &mapped[1]);
+        });
+    });
+}
+
+TEST(Serial, AVersionableClassReadsItsOlderForms)
+{
+    const CVersioned present;
+    QByteArray bytes = stored([&](CArchive_E& ar) { ar << &present << &present; });
+    // Class 1, object 2, and in it class 3.
+    EXPECT_EQ(bytes.toHex(), hex("FFFF 0300 0A00 4356657273696F6E6564"
+                                 " FFFF 0000 0600 43456D707479 0200")
+                                 .toHex());
+    bytes[2] = 1;
+    bytes.replace(bytes.size() - 2, 2, hex("0180 0380"));
+    load(bytes, [](CArchive_E& ar) {
+        for (int i = 0; i < 2; ++i) {
+            CVersioned* pOlder = nullptr;
+            ar >> pOlder;
+            EXPECT_EQ(pOlder->m_nSchema, 1U);
+            EXPECT_EQ(pOlder->m_nBaseSchema, 0U);
+            delete pOlder;
+        }
+    });
+}
+
+TEST(Serial, NothingRefersToWhatCouldNotBeRead)
+{
+    // A CLenient, whose child, a node with number 4, has a child of no known class.
+    const char* const digits = "FFFF 0100 0800 434C656E69656E74 FFFF 0100 0500 434E6F6465"
+                               " 00000000 FFFF 0100 0000 0400";
+    EXPECT_EQ(loadCause(hex(digits), [](CArchive_E& ar) { ar.ReadObject(nullptr); }),
+              Cause::badIndex);
+    EXPECT_EQ(CNode::s_nAlive, 0);
+}
+
+TEST(Serial, EndlessNestingIsRefused)
+{
+    constexpr int kCount = 1000000;
+    const auto test = [] {
+        CNode* pTop = nullptr;
+        for (int i = 0; i < kCount; ++i)
+            pTop = new CNode(i, pTop);
+        stored([&](CArchive_E& ar) {
+            EXPECT_EQ(causeOf([&] { ar << pTop; }), Cause::genericException);
+        });
+        while (pTop)
+            delete std::exchange(pTop, std::exchange(pTop->m_pChild, nullptr));
+        EXPECT_EQ(
+            loadCause(hex("FFFF 0100 0500 434E6F6465") + hex("00000000 0180").repeated(kCount),
+                      readNode),
+            Cause::genericException);
+        EXPECT_EQ(CNode::s_nAlive, 0);
+    };
+    test();
+    std::thread(test).join();
+}
+
+TEST(Serial, NamesBelongToTheFirstAndWhileItIsThere)
+{
+    EXPECT_EQ(CRuntimeClass_E::FromName("CNode"), RUNTIME_CLASS_E(CNode));
+    EXPECT_EQ(CRuntimeClass_E::FromName(L"CEmpty"), RUNTIME_CLASS_E(CEmpty));
+    EXPECT_EQ(CRuntimeClass_E::FromName(static_cast<const char*>(nullptr)), nullptr);
+    CRuntimeClass_E record(&CEmpty::staticMetaObject, CEmpty::GetImpMetaObject(),
+                           CEmpty::GetImpMetaObject(), &CEmpty::CreateObject, nullptr, 1);
+    const auto isAny = [](const CObject_E*) { return true; };
+    {
+        const AFX_CLASSINIT_E second(&record, "CNode", 9, isAny);
+        EXPECT_EQ(CRuntimeClass_E::FromName("CNode"), RUNTIME_CLASS_E(CNode));
+    }
+    EXPECT_EQ(CRuntimeClass_E::FromName("CNode"), RUNTIME_CLASS_E(CNode));
+    {
+        const AFX_CLASSINIT_E other(&record, "COther", 9, isAny);
+        EXPECT_EQ(CRuntimeClass_E::FromName("COther"), &record);
+        EXPECT_EQ(record.m_wSchema, 9U);
+        const std::unique_ptr<CObject_E> pMade(CRuntimeClass_E::CreateObject("COther"));
+        EXPECT_TRUE(dynamic_cast<CEmpty*>(pMade.get()));
+    }
+    EXPECT_EQ(CRuntimeClass_E::FromName("COther"), nullptr);
+    EXPECT_EQ(CRuntimeClass_E::CreateObject("COther"), nullptr);
+}
+
+} // namespace
+
+#include "serial_test.moc"
