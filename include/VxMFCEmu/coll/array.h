@@ -33,8 +33,6 @@ VXMFC_EXPORT INT_PTR addCounts(INT_PTR n1, INT_PTR n2);
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray_E : public CObject_E
 {
-    static_assert(alignof(TYPE) <= alignof(std::max_align_t));
-
 public:
     using BASE_TYPE = TYPE;
     using BASE_ARG_TYPE = ARG_TYPE;
@@ -286,6 +284,7 @@ void CArray_E<TYPE, ARG_TYPE>::MakeRoomFor(INT_PTR nNeeded)
 template <class TYPE, class ARG_TYPE>
 void CArray_E<TYPE, ARG_TYPE>::Reallocate(INT_PTR nMaxSize)
 {
+    static_assert(alignof(TYPE) <= alignof(std::max_align_t));
     if constexpr (std::is_trivially_copyable_v<TYPE>) {
         m_pData = static_cast<TYPE*>(vx::detail::resizeBlock(m_pData, nMaxSize, sizeof(TYPE)));
     } else {

@@ -17,8 +17,6 @@ namespace vx::detail {
 template <class Node>
 class NodePool
 {
-    static_assert(alignof(Node) <= alignof(std::max_align_t));
-
 public:
     /// Takes memory for @p nBlockSize nodes at a time; below 2 means 64.
     explicit NodePool(INT_PTR nBlockSize)
@@ -30,6 +28,7 @@ public:
     template <class Fill, class... Args>
     Node* Make(const Fill& fill, Args&&... args)
     {
+        static_assert(alignof(Node) <= alignof(std::max_align_t));
         void* const pMemory = m_alloc.Alloc();
         try {
             auto* const pNode = ::new (pMemory) Node(std::forward<Args>(args)...);
