@@ -96,7 +96,9 @@ bool load(Bytes bytes, int bufferSize, Read read)
 Bytes store(const CObject_E* object)
 {
     CMemFile_E file;
-    CArchive_E(&file, CArchive_E::store) << object;
+    CArchive_E ar(&file, CArchive_E::store);
+    ar << object;
+    ar.Close();
     Bytes bytes(file.GetLength());
     file.SeekToBegin();
     file.Read(bytes.data(), static_cast<UINT>(bytes.size()));

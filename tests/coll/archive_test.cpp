@@ -188,7 +188,7 @@ TEST(Archive, BlocksPassTheBufferInAnySize)
     QByteArray expected;
     std::vector<UINT> sizes(300);
     for (UINT& size : sizes)
-        size = random() % (random() % 4 == 0 ? 1000 : 20);
+        size = static_cast<UINT>(random() % (random() % 4 == 0 ? 1000 : 20));
     const auto writing = [&](CArchive_E& ar) {
         expected.clear();
         for (const UINT size : sizes) {

@@ -258,7 +258,7 @@ TEST(Serial, NothingRefersToWhatCouldNotBeRead)
 
 TEST(Serial, EndlessNestingIsRefused)
 {
-    constexpr int kCount = 1000000;
+    constexpr int kCount = 200000;
     const auto test = [] {
         CNode* pTop = nullptr;
         for (int i = 0; i < kCount; ++i)

@@ -1,5 +1,6 @@
 // A plug-in with a class of its own over a Qt class of its own.
 #include <VxMFCEmu/coll.h>
+#include <VxMFCEmu/core.h>
 
 #include <memory>
 
