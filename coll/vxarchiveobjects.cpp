@@ -6,7 +6,6 @@
 
 #include <VxMFCEmu/core/exceptions.h>
 
-#include <algorithm>
 #include <utility>
 
 using vx::detail::ArchiveTables;
@@ -39,12 +38,7 @@ struct CArchive_E::LoadingObject
         ar.m_nObjectSchema = nOuterSchema;
         if (!pOb)
             return;
-        auto& loaded = ar.m_pTables->loaded;
-        std::for_each(loaded.begin() + static_cast<std::ptrdiff_t>(nFirst), loaded.end(),
-                      [](ArchiveTables::Loaded& entry) {
-                          if (entry.kind == ArchiveTables::Kind::object)
-                              entry.kind = ArchiveTables::Kind::failed;
-                      });
+        ar.m_pTables->fail(nFirst);
         delete pOb;
     }
     Q_DISABLE_COPY_MOVE(LoadingObject)

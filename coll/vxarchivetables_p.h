@@ -79,6 +79,19 @@ public:
         Kind kind;
     };
 
+    /// Nothing may refer to the objects from number @p first on any more.
+    void fail(std::size_t first)
+    {
+        // Objects in objects fail one after the other, the inner ones first: what is done already
+        // is not looked at again.
+        const bool bAround = first <= m_failedFirst && m_failedLast <= loaded.size();
+        failRange(first, bAround ? m_failedFirst : loaded.size());
+        if (bAround)
+            failRange(m_failedLast, loaded.size());
+        m_failedFirst = first;
+        m_failedLast = loaded.size();
+    }
+
     /// Storing. Objects and classes are counted together, from 1.
     PointerNumbers numbers;
     DWORD nNext = 1;
@@ -89,6 +102,18 @@ public:
     std::vector<Loaded> loaded = {{nullptr, 0, Kind::object}};
     const CRuntimeClass_E* pLastRequested = nullptr;
     const AFX_CLASSINIT_E* pLastEntry = nullptr;
+
+private:
+    void failRange(std::size_t first, std::size_t last)
+    {
+        for (; first < last; ++first) {
+            if (loaded[first].kind == Kind::object)
+                loaded[first].kind = Kind::failed;
+        }
+    }
+
+    std::size_t m_failedFirst = 0; // the last range that failed
+    std::size_t m_failedLast = 0;
 };
 
 } // namespace vx::detail

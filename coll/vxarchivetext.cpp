@@ -28,9 +28,18 @@ constexpr wchar_t combine(WORD high, WORD low)
 
 constexpr bool isSupplementary(wchar_t ch) { return static_cast<UINT>(ch) - 0x10000 < 0x100000; }
 
-constexpr WORD unitOf(wchar_t ch)
+/// Writes up to four bytes at p and returns their end.
+BYTE* putUnits(BYTE* p, wchar_t ch)
 {
-    return static_cast<UINT>(ch) < 0x10000 ? static_cast<WORD>(ch) : WORD{0xFFFD};
+    if (isSupplementary(ch)) {
+        const UINT offset = static_cast<UINT>(ch) - 0x10000;
+        const UINT pair = 0xDC00D800U | (offset & 0x3FF) << 16 | offset >> 10;
+        std::memcpy(p, &pair, sizeof pair);
+        return p + sizeof pair;
+    }
+    const WORD unit = static_cast<UINT>(ch) < 0x10000 ? static_cast<WORD>(ch) : WORD{0xFFFD};
+    std::memcpy(p, &unit, sizeof unit);
+    return p + sizeof unit;
 }
 
 WORD unitAt(const BYTE* p)
@@ -75,10 +84,8 @@ DWORD_PTR CArchive_E::ReadCount()
 
 CArchive_E& CArchive_E::PutSupplementary(wchar_t ch)
 {
-    if (!isSupplementary(ch))
-        return Put(unitOf(ch));
-    const UINT offset = static_cast<UINT>(ch) - 0x10000;
-    return Put(0xDC00D800U | (offset & 0x3FF) << 16 | offset >> 10);
+    PutUnits(&ch, 1);
+    return *this;
 }
 
 CArchive_E& CArchive_E::operator>>(wchar_t& ch)
@@ -120,8 +127,10 @@ void CArchive_E::PutUnits(const wchar_t* pText, std::size_t nLength)
             MakeRoom();
         const std::size_t nPart =
             std::min(nLength, static_cast<std::size_t>(m_pWriteEnd - m_pWrite) / 4);
+        BYTE* pWrite = m_pWrite;
         for (const wchar_t* const pEnd = pText + nPart; pText != pEnd; ++pText)
-            *this << *pText;
+            pWrite = putUnits(pWrite, *pText);
+        m_pWrite = pWrite;
         nLength -= nPart;
     }
 }

@@ -34,6 +34,7 @@ vxmfc_sources(FOLDER wnd
     vxcontrolstate.cpp
     vxdefaulthandlers.cpp
     vxeventtomsg.cpp
+    vxgeometryarchive.cpp
     vxglobaleventhandler.cpp
     vxhostwindows.cpp
     vxidle.cpp

@@ -36,6 +36,9 @@ TEST(Archive, EachBaseTypeHasItsForm)
     expectForm(true, "01");
     expectForm(false, "00");
     expectForm(L'\xFFFD', "FDFF");
+    expectForm(CPoint_E(1, -2), "01000000 FEFFFFFF");
+    expectForm(CSize_E(3, -4), "03000000 FCFFFFFF");
+    expectForm(CRect_E(1, 2, 3, -4), "01000000 02000000 03000000 FCFFFFFF");
     bool b = false;
     load(hex("02"), [&](CArchive_E& ar) { ar >> b; });
     EXPECT_TRUE(b);
@@ -185,7 +188,7 @@ TEST(Archive, BlocksPassTheBufferInAnySize)
     QByteArray expected;
     std::vector<UINT> sizes(300);
     for (UINT& size : sizes)
-        size = random() % (random() % 4 == 0 ? 1000 : 20);
+        size = static_cast<UINT>(random() % (random() % 4 == 0 ? 1000 : 20));
     const auto writing = [&](CArchive_E& ar) {
         expected.clear();
         for (const UINT size : sizes) {
@@ -305,27 +308,26 @@ TEST(Archive, TheBufferReachesTheFileWhenToldTo)
 
 TEST(Archive, AFullDiskIsTold)
 {
-    for (const UINT size : {1U, 100000U}) { // through the buffer, and past it
+    const std::vector<char> block(100000);
+    static const Row<UINT, void (CArchive_E::*)()> rows[] = {
+        {1, &CArchive_E::Flush},
+        {1, &CArchive_E::Close},
+        {100000, &CArchive_E::Flush}, // past the buffer
+    };
+    for (const auto& [size, finish] : rows) {
         CFile_E file(L"/dev/full", CFile_E::modeWrite);
         CArchive_E ar(&file, CArchive_E::store);
-        const std::vector<char> block(size);
-        const auto writing = [&] {
+        try {
             ar.Write(block.data(), size);
-            ar.Flush();
-        };
-        for (const std::function<void()>& work : {std::function<void()>(writing)}) {
-            try {
-                work();
-                ADD_FAILURE();
-            } catch (CFileException_E* e) {
-                EXPECT_EQ(e->m_cause, CFileException_E::diskFull);
-                e->Delete();
-            }
+            (ar.*finish)();
+            ADD_FAILURE() << size;
+        } catch (CFileException_E* e) {
+            EXPECT_EQ(e->m_cause, CFileException_E::diskFull);
+            e->Delete();
         }
     }
     CFile_E file(L"/dev/full", CFile_E::modeWrite);
-    CArchive_E dropped(&file, CArchive_E::store);
-    dropped << 1; // its destructor is silent
+    CArchive_E(&file, CArchive_E::store) << 1; // its destructor is silent
 }
 
 } // namespace

@@ -62,16 +62,20 @@ void libraryFirst(const char* libraryPath, const char* pluginPath)
     void* library = load(libraryPath);
     const Registry& registry = *find<Registry>(library, "g_mapCreateMethod");
     const Registry before = registry;
+    auto* const classOfName =
+        find<CRuntimeClass_E*(const char*)>(library, "_ZN15CRuntimeClass_E8FromNameEPKc");
     require(!before.empty(), "the library's own classes are registered");
 
     for (int round = 0; round < 2; ++round) {
         void* plugin = load(pluginPath);
         const QMetaObject* meta = usePlugin(plugin, registry);
         require(registry.size() == before.size() + 1, "the plug-in registers one class");
+        require(classOfName("CEnginePart"), "archives know the plug-in's class");
         unload(plugin);
         require(!isLoaded(pluginPath), "the plug-in is gone");
         require(registry.count(meta) == 0, "the registry has forgotten the plug-in's class");
         require(registry == before, "the registry is what it was before the plug-in");
+        require(!classOfName("CEnginePart"), "archives have forgotten the plug-in's class");
     }
     unload(library);
     require(!isLoaded(libraryPath), "the library is gone");

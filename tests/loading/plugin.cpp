@@ -1,4 +1,5 @@
 // A plug-in with a class of its own over a Qt class of its own.
+#include <VxMFCEmu/coll.h>
 #include <VxMFCEmu/core.h>
 
 #include <memory>
@@ -20,6 +21,14 @@ class CEngine : public CCmdTarget_E
 };
 
 IMPLEMENT_DYNCREATE_E(CEngine, CCmdTarget_E, Engine)
+
+/// Known to archives as long as the plug-in is loaded.
+class CEnginePart : public CObject_E
+{
+    DECLARE_SERIAL_E(CEnginePart)
+};
+
+IMPLEMENT_SERIAL_E(CEnginePart, CObject_E, 1)
 
 /// The Qt class that the plug-in registers.
 extern "C" Q_DECL_EXPORT const QMetaObject* pluginMetaObject() { return &Engine::staticMetaObject; }

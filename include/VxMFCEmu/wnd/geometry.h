@@ -10,6 +10,7 @@
 #include <VxMFCEmu/sys/muldiv.h>
 #include <VxMFCEmu/wnd/rectfunctions.h>
 
+class CArchive_E;
 class CPoint_E;
 class CRect_E;
 
@@ -353,3 +354,11 @@ constexpr CRect_E CPoint_E::operator-(const tagRECT* prc) const noexcept
 
 static_assert(sizeof(CPoint_E) == sizeof(tagPOINT) && sizeof(CSize_E) == sizeof(tagSIZE) &&
               sizeof(CRect_E) == sizeof(tagRECT));
+
+/// Two or four LONGs, in the order of the members.
+VXMFC_EXPORT CArchive_E& operator<<(CArchive_E& ar, tagPOINT point);
+VXMFC_EXPORT CArchive_E& operator<<(CArchive_E& ar, tagSIZE size);
+VXMFC_EXPORT CArchive_E& operator<<(CArchive_E& ar, const tagRECT& rect);
+VXMFC_EXPORT CArchive_E& operator>>(CArchive_E& ar, tagPOINT& point);
+VXMFC_EXPORT CArchive_E& operator>>(CArchive_E& ar, tagSIZE& size);
+VXMFC_EXPORT CArchive_E& operator>>(CArchive_E& ar, tagRECT& rect);
