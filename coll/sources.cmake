@@ -1,9 +1,25 @@
 vxmfc_sources(FOLDER coll
   HEADERS
     coll/file.h
+    coll/fileattributes.h
+    coll/filefind.h
+    coll/filefunctions.h
     coll/filehandle.h
+    coll/memfile.h
+    coll/stdiofile.h
   SOURCES
+    vxoserror.cpp
+    vxfileopen.cpp
+    vxfileio.cpp
+    vxfileinfo.cpp
     vxfile.cpp
+    vxfilestatus.cpp
     vxstdiofile.cpp
     vxmemfile.cpp
-    vxfilehandle.cpp)
+    vxfilehandles.cpp
+    vxfilehandle.cpp
+    vxfilefunctions.cpp
+    vxcopyfile.cpp
+    vxwildcards.cpp
+    vxfindfile.cpp
+    vxfilefind.cpp)

@@ -1,72 +1,189 @@
-#include <VxMFCEmu/coll/file.h>
-#include <VxMFCEmu/coll/filehandle.h>
-#include <VxMFCEmu/core/lasterror.h>
-#include <VxMFCEmu/sys/handle.h>
-
-#include <QtCore/QTemporaryDir>
-
-#include <cerrno>
+#include "filetest.h"
 
 namespace {
 
-TEST(FileHandle, Dispositions)
+constexpr DWORD kReadWrite = GENERIC_READ | GENERIC_WRITE;
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE;
+
+DWORD lastError(LONG lOsError) { return static_cast<DWORD>(lOsError); }
+
+TEST_F(FileTest, Dispositions)
 {
-    constexpr DWORD kReadWrite = GENERIC_READ | GENERIC_WRITE;
-    struct
-    {
-        int line;
-        DWORD disposition, access;
-        bool exists;
-        int error; ///< the last error; with one other than ERROR_ALREADY_EXISTS the call fails
-        qint64 size;
-    } const rows[] = {
-        {__LINE__, CREATE_NEW, kReadWrite, false, 0, 0},
-        {__LINE__, CREATE_NEW, kReadWrite, true, EEXIST, 3},
-        {__LINE__, CREATE_ALWAYS, GENERIC_WRITE, false, 0, 0},
-        {__LINE__, CREATE_ALWAYS, GENERIC_ALL, true, ERROR_ALREADY_EXISTS, 0},
-        {__LINE__, OPEN_EXISTING, GENERIC_READ, false, ENOENT, 0},
-        {__LINE__, OPEN_EXISTING, GENERIC_READ, true, 0, 3},
-        {__LINE__, OPEN_EXISTING, 0, true, 0, 3},
-        {__LINE__, OPEN_ALWAYS, kReadWrite, false, 0, 0},
-        {__LINE__, OPEN_ALWAYS, kReadWrite, true, ERROR_ALREADY_EXISTS, 3},
-        {__LINE__, TRUNCATE_EXISTING, kReadWrite, false, ENOENT, 0},
-        {__LINE__, TRUNCATE_EXISTING, kReadWrite, true, 0, 0},
-        {__LINE__, TRUNCATE_EXISTING, GENERIC_READ, true, EINVAL, 3},
-        {__LINE__, 0, kReadWrite, true, EINVAL, 3},
-        {__LINE__, 6, kReadWrite, true, EINVAL, 3},
+    // the last error; with one other than ERROR_ALREADY_EXISTS the call fails
+    const Row<DWORD, DWORD, bool, LONG, const char*> rows[] = {
+        {CREATE_NEW, kReadWrite, false, 0, ""},
+        {CREATE_NEW, kReadWrite, true, ERROR_FILE_EXISTS, "abc"},
+        {CREATE_ALWAYS, GENERIC_WRITE, false, 0, ""},
+        {CREATE_ALWAYS, GENERIC_ALL, true, ERROR_ALREADY_EXISTS, ""},
+        {CREATE_ALWAYS, GENERIC_READ, true, ERROR_ALREADY_EXISTS, ""},
+        {OPEN_EXISTING, GENERIC_READ, false, ERROR_FILE_NOT_FOUND, "<none>"},
+        {OPEN_EXISTING, GENERIC_READ, true, 0, "abc"},
+        {OPEN_EXISTING, 0, true, 0, "abc"},
+        {OPEN_ALWAYS, kReadWrite, false, 0, ""},
+        {OPEN_ALWAYS, kReadWrite, true, ERROR_ALREADY_EXISTS, "abc"},
+        {TRUNCATE_EXISTING, kReadWrite, false, ERROR_FILE_NOT_FOUND, "<none>"},
+        {TRUNCATE_EXISTING, kReadWrite, true, 0, ""},
+        {TRUNCATE_EXISTING, GENERIC_READ, true, ERROR_INVALID_PARAMETER, "abc"},
+        {0, kReadWrite, true, ERROR_INVALID_PARAMETER, "abc"},
+        {6, kReadWrite, true, ERROR_INVALID_PARAMETER, "abc"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        const QTemporaryDir dir;
-        QFile file(dir.filePath(QStringLiteral("f")));
-        if (row.exists) {
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write("abc");
-            file.close();
-        }
-        const CString_E name(file.fileName());
-        const HANDLE h =
-            CreateFile_E(name.GetString(), row.access, 0, nullptr, row.disposition, 0, nullptr);
-        EXPECT_EQ(GetLastError(), static_cast<DWORD>(row.error));
-        const bool opens = row.error == 0 || row.error == static_cast<int>(ERROR_ALREADY_EXISTS);
-        ASSERT_EQ(h != INVALID_HANDLE_VALUE, opens);
-        EXPECT_EQ(file.size(), row.size);
-        if (opens && (row.access & GENERIC_WRITE) != 0)
-            static_cast<CFile_E*>(h)->Write("12", 2);
+    forRows(rows, [&](DWORD disposition, DWORD access, bool exists, LONG error, const char* bytes) {
+        QFile::remove(VxQString(Path()));
+        if (exists)
+            Make("abc");
+        const HANDLE h = CreateFile_E(Path(), access, 0, nullptr, disposition, 0, nullptr);
+        EXPECT_EQ(GetLastError(), lastError(error));
+        const bool opens = error == 0 || error == ERROR_ALREADY_EXISTS;
+        EXPECT_EQ(h != INVALID_HANDLE_VALUE, opens);
+        EXPECT_EQ(Bytes(), bytes);
+        EXPECT_EQ(WriteFile_E(h, "12", 2, nullptr, nullptr),
+                  opens && (access & (GENERIC_WRITE | GENERIC_ALL)) != 0);
         EXPECT_EQ(CloseHandle_E(h), opens);
-    }
+        EXPECT_FALSE(CloseHandle_E(h));
+    });
 }
 
-TEST(FileHandle, BadOnes)
+TEST_F(FileTest, HandlesShareAsTheyAreTold)
 {
-    EXPECT_EQ(CreateFile_E(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
-              INVALID_HANDLE_VALUE);
-    EXPECT_EQ(CreateFile_E(L"", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr),
-              INVALID_HANDLE_VALUE);
-    EXPECT_EQ(CreateFile_E(L"/", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
-              INVALID_HANDLE_VALUE);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(EACCES));
-    EXPECT_EQ(CloseHandle_E(nullptr), FALSE);
+    Make("abc");
+    // how the file is open, how it is opened again
+    const Row<DWORD, DWORD, DWORD, DWORD, bool> rows[] = {
+        {GENERIC_READ, FILE_SHARE_READ, GENERIC_READ, FILE_SHARE_READ, true},
+        {GENERIC_READ, FILE_SHARE_READ, kReadWrite, kShareAll, false},
+        {kReadWrite, kShareAll, kReadWrite, kShareAll, true},
+        {kReadWrite, kShareAll, GENERIC_READ, FILE_SHARE_READ, false},
+        {GENERIC_READ, 0, 0, 0, true},
+        {0, 0, kReadWrite, 0, true},
+    };
+    forRows(rows, [&](DWORD access, DWORD share, DWORD access2, DWORD share2, bool opens) {
+        const auto open = [&](DWORD a, DWORD s) {
+            return CreateFile_E(Path(), a, s, nullptr, OPEN_EXISTING, 0, nullptr);
+        };
+        const HANDLE first = open(access, share);
+        const HANDLE second = open(access2, share2);
+        EXPECT_EQ(GetLastError(), opens ? 0U : lastError(ERROR_SHARING_VIOLATION));
+        EXPECT_EQ(CloseHandle_E(second), opens);
+        EXPECT_TRUE(CloseHandle_E(first));
+    });
+}
+
+TEST_F(FileTest, ReadsAndWritesByHandle)
+{
+    const HANDLE h = CreateFile_E(Path(), kReadWrite, 0, nullptr, CREATE_NEW, 0, nullptr);
+    DWORD done = 9;
+    char buffer[8] = {};
+    EXPECT_TRUE(WriteFile_E(h, "hello", 5, &done, nullptr));
+    EXPECT_EQ(done, 5U);
+    EXPECT_TRUE(FlushFileBuffers_E(h));
+    EXPECT_EQ(SetFilePointer_E(h, -4, nullptr, FILE_END), 1U);
+    EXPECT_TRUE(ReadFile_E(h, buffer, 2, &done, nullptr));
+    EXPECT_STREQ(buffer, "el");
+    OVERLAPPED where = {};
+    where.Offset = 3;
+    EXPECT_TRUE(ReadFile_E(h, buffer, 8, &done, &where));
+    EXPECT_STREQ(buffer, "lo");
+    EXPECT_EQ(done, 2U);
+    EXPECT_TRUE(ReadFile_E(h, buffer, 8, &done, nullptr)); // the end is no failure
+    EXPECT_EQ(done, 0U);
+    where.OffsetHigh = 1;
+    EXPECT_FALSE(ReadFile_E(h, buffer, 8, &done, &where));
+    EXPECT_EQ(GetLastError(), lastError(ERROR_HANDLE_EOF));
+    EXPECT_FALSE(ReadFile_E(h, nullptr, 1, &done, nullptr));
+    EXPECT_EQ(GetLastError(), lastError(ERROR_NOACCESS));
+    EXPECT_EQ(SetFilePointer_E(h, 2, nullptr, FILE_BEGIN), 2U);
+    EXPECT_TRUE(SetEndOfFile_E(h));
+    EXPECT_EQ(GetFileSize_E(h, nullptr), 2U);
+    EXPECT_TRUE(CloseHandle_E(h));
+    EXPECT_EQ(Bytes(), "he");
+}
+
+TEST_F(FileTest, PositionsBeyondFourGigabytes)
+{
+    const HANDLE h = CreateFile_E(Path(), kReadWrite, 0, nullptr, CREATE_NEW, 0, nullptr);
+    LONG high = 1;
+    EXPECT_EQ(SetFilePointer_E(h, -1, &high, FILE_BEGIN), INVALID_SET_FILE_POINTER);
+    EXPECT_EQ(GetLastError(), 0U); // these are the bits of the position
+    EXPECT_EQ(high, 1);
+    EXPECT_TRUE(SetEndOfFile_E(h));
+    DWORD sizeHigh = 0;
+    EXPECT_EQ(GetFileSize_E(h, &sizeHigh), INVALID_FILE_SIZE);
+    EXPECT_EQ(GetLastError(), 0U);
+    EXPECT_EQ(sizeHigh, 1U);
+    EXPECT_EQ(SetFilePointer_E(h, 0, nullptr, FILE_CURRENT), INVALID_SET_FILE_POINTER);
+    EXPECT_EQ(GetLastError(), lastError(ERROR_INVALID_PARAMETER));
+    EXPECT_EQ(SetFilePointer_E(h, -1, nullptr, FILE_BEGIN), INVALID_SET_FILE_POINTER);
+    EXPECT_EQ(GetLastError(), lastError(ERROR_NEGATIVE_SEEK));
+    LARGE_INTEGER distance, position;
+    distance.QuadPart = -0x1FFFFFFFF + 7;
+    EXPECT_TRUE(SetFilePointerEx_E(h, distance, &position, FILE_CURRENT));
+    EXPECT_EQ(position.QuadPart, 7);
+    EXPECT_TRUE(GetFileSizeEx_E(h, &position));
+    EXPECT_EQ(position.HighPart, 1);
+    EXPECT_EQ(position.u.LowPart, 0xFFFFFFFFU);
+    EXPECT_TRUE(CloseHandle_E(h));
+}
+
+TEST_F(FileTest, BadHandles)
+{
+    const HANDLE gone =
+        CreateFile_E(Make("x"), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    DWORD n = 0;
+    char c = 0;
+    EXPECT_FALSE(WriteFile_E(gone, &c, 1, &n, nullptr));
+    EXPECT_EQ(GetLastError(), lastError(ERROR_ACCESS_DENIED));
+    EXPECT_FALSE(FlushFileBuffers_E(gone));
+    EXPECT_FALSE(SetEndOfFile_E(gone));
+    EXPECT_EQ(GetLastError(), lastError(ERROR_ACCESS_DENIED));
+    EXPECT_TRUE(CloseHandle_E(gone));
+    for (const HANDLE h : {HANDLE{}, INVALID_HANDLE_VALUE, gone, static_cast<HANDLE>(&n)}) {
+        LARGE_INTEGER zero = {};
+        const std::function<bool()> fails[] = {
+            [&] { return !ReadFile_E(h, &c, 1, &n, nullptr); },
+            [&] { return !WriteFile_E(h, &c, 1, &n, nullptr); },
+            [&] { return SetFilePointer_E(h, 0, nullptr, FILE_BEGIN) == INVALID_SET_FILE_POINTER; },
+            [&] { return !SetFilePointerEx_E(h, zero, nullptr, FILE_BEGIN); },
+            [&] { return GetFileSize_E(h, nullptr) == INVALID_FILE_SIZE; },
+            [&] { return !GetFileSizeEx_E(h, &zero); },
+            [&] { return !SetEndOfFile_E(h); },
+            [&] { return !FlushFileBuffers_E(h); },
+            [&] { return !CloseHandle_E(h); },
+        };
+        for (const auto& call : fails) {
+            SetLastError(0);
+            EXPECT_TRUE(call());
+            EXPECT_EQ(GetLastError(), lastError(ERROR_INVALID_HANDLE));
+        }
+    }
+    const Row<const wchar_t*, DWORD, LONG> rows[] = {
+        {nullptr, OPEN_EXISTING, ERROR_PATH_NOT_FOUND},
+        {L"", CREATE_ALWAYS, ERROR_PATH_NOT_FOUND},
+        {L"/", OPEN_EXISTING, ERROR_ACCESS_DENIED},
+    };
+    forRows(rows, [](const wchar_t* name, DWORD disposition, LONG error) {
+        EXPECT_EQ(CreateFile_E(name, kReadWrite, 0, nullptr, disposition, 0, nullptr),
+                  INVALID_HANDLE_VALUE);
+        EXPECT_EQ(GetLastError(), lastError(error));
+    });
+}
+
+TEST_F(FileTest, AFileIsAHandle)
+{
+    HANDLE h;
+    {
+        CFile_E file;
+        EXPECT_EQ(static_cast<HANDLE>(file), INVALID_HANDLE_VALUE);
+        file.Open(Make("abc"), CFile_E::modeRead);
+        h = file;
+        EXPECT_EQ(GetFileSize_E(h, nullptr), 3U);
+        EXPECT_TRUE(CloseHandle_E(h)); // closed, not deleted
+        EXPECT_EQ(file.m_hFile, CFile_E::hFileNull);
+        file.Open(Path(), CFile_E::modeRead);
+        EXPECT_EQ(GetFileSize_E(file, nullptr), 3U);
+    }
+    EXPECT_EQ(GetFileSize_E(h, nullptr), INVALID_FILE_SIZE);
+    h = CreateFile_E(Path(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_EQ(static_cast<HANDLE>(*static_cast<CFile_E*>(h)), h);
+    EXPECT_TRUE(CloseHandle_E(h));
 }
 
 } // namespace
