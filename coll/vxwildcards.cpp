@@ -74,7 +74,8 @@ bool vx::detail::matchesWildcards(std::u32string_view pattern, std::u32string_vi
 {
     std::vector<bool> places(pattern.size() + 1);
     places[0] = true;
-    const std::size_t lastDot = name.rfind(U'.');
+    // The dots of "." and ".." begin no extension.
+    const std::size_t lastDot = name == U"." || name == U".." ? name.npos : name.rfind(U'.');
     for (std::size_t i = 0; i < name.size(); ++i) {
         skip(pattern, name[i] == U'.', false, places);
         places = step(pattern, places, name[i], i == lastDot);
