@@ -111,7 +111,7 @@ BOOL CFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_
 
 LONG CFile_E::OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags)
 {
-    CFile_E::Abort();
+    ReleaseFile(m_bCloseOnDelete);
     const QString name = localFileName(lpszFileName);
     OpenedFile opened;
     const LONG error = openFile(QFile::encodeName(name), requestOf(nOpenFlags), opened);

@@ -60,7 +60,9 @@ CStdioFile_E::~CStdioFile_E()
 
 BOOL CStdioFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_E* pError)
 {
-    CStdioFile_E::Abort();
+    if (m_bCloseOnDelete)
+        CStdioFile_E::Abort();
+    m_pStream = nullptr;
     if (!CFile_E::Open(lpszFileName, nOpenFlags, pError))
         return FALSE;
     const auto fd = static_cast<int>(m_hFile);

@@ -22,20 +22,14 @@ constexpr Failure kNoFolder{E::badPath, ERROR_PATH_NOT_FOUND};
 constexpr Failure kBadSeek{E::badSeek, ERROR_NEGATIVE_SEEK};
 constexpr Failure kFull{E::diskFull, ERROR_DISK_FULL};
 constexpr Failure kShared{E::sharingViolation, ERROR_SHARING_VIOLATION};
+constexpr Failure kBadNumber{E::genericException, ERROR_INVALID_PARAMETER};
 constexpr Failure kLocked{E::lockViolation, ERROR_LOCK_VIOLATION};
 
-TEST_F(FileTest, RecordsNameTheQtClassAndNoFactory)
+TEST_F(FileTest, IsOverAQFile)
 {
-    const Row<const CRuntimeClass_E*, const char*, const char*> rows[] = {
-        {RUNTIME_CLASS_E(CFile_E), "CFile_E", "QFile"},
-        {RUNTIME_CLASS_E(CStdioFile_E), "CStdioFile_E", "QFile"},
-        {RUNTIME_CLASS_E(CMemFile_E), "CMemFile_E", "QFile"},
-        {RUNTIME_CLASS_E(CFileFind_E), "CFileFind_E", "QObject"}};
-    for (const auto& [pClass, name, impName] : rows) {
-        EXPECT_STREQ(pClass->GetClassName(), name);
-        EXPECT_STREQ(pClass->GetImpClassName(), impName);
-        EXPECT_EQ(pClass->CreateObject(), nullptr);
-    }
+    for (const auto* pClass : {RUNTIME_CLASS_E(CFile_E), RUNTIME_CLASS_E(CStdioFile_E)})
+        EXPECT_STREQ(pClass->GetImpClassName(), "QFile");
+    EXPECT_EQ(RUNTIME_CLASS_E(CFile_E)->CreateObject(), nullptr);
     CFile_E file(Make("abc"), kRead);
     EXPECT_EQ(qobject_cast<QFile*>(file.GetImpQObject())->handle(), file.m_hFile);
 }
@@ -59,8 +53,6 @@ TEST_F(FileTest, OpenModes)
         CFile_E file;
         CFileException_E error;
         EXPECT_EQ(file.Open(Path(), mode, &error), after != nullptr);
-        EXPECT_EQ(file.m_hFile != F::hFileNull, after != nullptr);
-        EXPECT_EQ(failureOf([&] { CFile_E thrown(L"/nowhere/f", mode); }), kNoFolder);
         if (after) {
             char c;
             EXPECT_EQ(failureOf([&] { file.Write("Z", 1); }),
@@ -303,11 +295,8 @@ TEST_F(FileTest, Ranges)
     first.LockRange(far, 8);
     first.LockRange(5, 0); // nothing
     const Row<ULONGLONG, ULONGLONG, Failure> rows[] = {
-        {0, 2, kNoFailure},       {0, 3, kLocked},
-        {4, 1, kLocked},          {5, 1, kNoFailure},
-        {0, all, kLocked},        {far + 7, 1, kLocked},
-        {far + 8, 1, kNoFailure}, {all, 1, {E::genericException, ERROR_INVALID_PARAMETER}},
-    };
+        {0, 2, kNoFailure}, {0, 3, kLocked},       {4, 1, kLocked},      {5, 1, kNoFailure},
+        {0, all, kLocked},  {far + 7, 1, kLocked}, {all, 1, kBadNumber}, {far + 8, 1, kNoFailure}};
     forRows(rows, [&](ULONGLONG pos, ULONGLONG count, const Failure& expected) {
         EXPECT_EQ(failureOf([&] { second.LockRange(pos, count); }), expected);
         if (expected == kNoFailure)
@@ -349,12 +338,6 @@ TEST_F(FileTest, Status)
     EXPECT_EQ(status.m_attribute, F::directory);
     EXPECT_FALSE(CFile_E::GetStatus(nullptr, status));
     EXPECT_EQ(status.m_szFullName[0], L'\0');
-}
-
-TEST_F(FileTest, WorksInAThreadWithoutAnEventLoop)
-{
-    std::thread([this] { CFile_E(Path(), kWrite | kCreate).Write("t", 1); }).join();
-    EXPECT_EQ(Bytes(), "t");
 }
 
 } // namespace

@@ -117,33 +117,19 @@ TEST_F(FileTest, TextFilesTellWhatTheyCannotDo)
     EXPECT_THROW(file.WriteString(nullptr), CInvalidArgException_E*);
     EXPECT_THROW(delete file.Duplicate(), CNotSupportedException_E*);
     EXPECT_THROW(file.LockRange(0, 1), CNotSupportedException_E*);
-    EXPECT_THROW(file.UnlockRange(0, 1), CNotSupportedException_E*);
-    EXPECT_EQ(failureOf([&] {
-                  file.WriteString(L"y");
-                  file.Flush();
-              }).first,
-              CFileException_E::accessDenied);
+    EXPECT_EQ(failureOf([&] { file.WriteString(L"y"); }).first, CFileException_E::accessDenied);
     file.Close();
     CString_E line;
-    CStdioFile_E writing(Path(), CFile_E::modeWrite);
-    EXPECT_EQ(failureOf([&] { writing.ReadString(line); }).first, CFileException_E::accessDenied);
-    for (auto* const pFile : {&file, &writing}) {
-        pFile->Abort();
-        EXPECT_EQ(failureOf([&] { pFile->ReadString(line); }).first, CFileException_E::invalidFile);
-        EXPECT_EQ(failureOf([&] { pFile->WriteString(L"z"); }).first,
-                  CFileException_E::invalidFile);
-    }
+    EXPECT_EQ(failureOf([&] { file.ReadString(line); }).first, CFileException_E::invalidFile);
+    CStdioFile_E out(Path(), CFile_E::modeWrite);
+    EXPECT_EQ(failureOf([&] { out.ReadString(line); }).first, CFileException_E::accessDenied);
     EXPECT_EQ(Bytes(), "x");
 }
 
 TEST_F(FileTest, OpenStreams)
 {
     std::FILE* const pStream = std::tmpfile();
-    {
-        CStdioFile_E file(pStream);
-        EXPECT_EQ(file.m_pStream, pStream);
-        file.WriteString(L"a\n");
-    }
+    CStdioFile_E(pStream).WriteString(L"a\n");
     EXPECT_EQ(std::ftell(pStream), 3); // still open
     CStdioFile_E(pStream).Close();
     EXPECT_EQ(failureOf([] { CStdioFile_E file(static_cast<std::FILE*>(nullptr)); }).first,
@@ -181,25 +167,17 @@ TEST(MemFile, GrowsAndReadsBack)
     std::string actual(expected.size() + 5, '#');
     file.SeekToBegin();
     EXPECT_EQ(file.Read(actual.data(), static_cast<UINT>(actual.size())), expected.size());
-    EXPECT_EQ(actual.substr(0, expected.size()), expected);
+    EXPECT_EQ(actual, expected + "#####");
     file.SetLength(2);
     EXPECT_EQ(file.GetPosition(), 2U);
     EXPECT_EQ(file.Seek(2, CFile_E::end), 4U);
-    EXPECT_EQ(file.GetLength(), 2U);
     file.Write("x", 1);
     file.SeekToBegin();
     EXPECT_EQ(file.Read(actual.data(), 9), 5U);
-    EXPECT_EQ(actual.substr(0, 5),
-              std::string("01\0\0x", 5)); // what was cut off does not come back
+    EXPECT_EQ(actual.substr(0, 5), std::string("01\0\0x", 5)); // what was cut off stays away
     EXPECT_EQ(failureOf([&] { file.Seek(-6, CFile_E::current); }).first, CFileException_E::badSeek);
     EXPECT_FALSE(file.Open(L"f", CFile_E::modeRead));
-    EXPECT_THROW(delete file.Duplicate(), CNotSupportedException_E*);
     EXPECT_THROW(file.LockRange(0, 1), CNotSupportedException_E*);
-    CFileStatus_E status;
-    EXPECT_TRUE(file.GetStatus(status));
-    EXPECT_EQ(status.m_size, 5U);
-    file.Close();
-    EXPECT_EQ(file.GetLength(), 0U);
 }
 
 TEST(MemFile, AttachedBlocks)

@@ -116,7 +116,7 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// INVALID_HANDLE_VALUE while no file is open.
     operator HANDLE() const;
 
-    /// Opens a file, closing one that is open. FALSE, filling @p pError if there is one, on
+    /// Opens a file, closing one that it opened before. FALSE, filling @p pError if there is one, on
     /// failure, with the Win32 error number as last error.
     virtual BOOL Open(const wchar_t* lpszFileName, UINT nOpenFlags,
                       CFileException_E* pError = nullptr);
