@@ -5,13 +5,18 @@ vxmfc_sources(FOLDER coll
     coll/arrays.h
     coll/elements.h
     coll/file.h
+    coll/fileattributes.h
+    coll/filefind.h
+    coll/filefunctions.h
     coll/filehandle.h
     coll/list.h
     coll/lists.h
     coll/map.h
     coll/maps.h
+    coll/memfile.h
     coll/nodepool.h
     coll/serial.h
+    coll/stdiofile.h
     coll/typedptr.h
     coll/unserialized.h
   SOURCES
@@ -21,7 +26,18 @@ vxmfc_sources(FOLDER coll
     vxstackroom.cpp
     vxafxcollbase.cpp
     vxafxcoll.cpp
+    vxoserror.cpp
+    vxfileopen.cpp
+    vxfileio.cpp
+    vxfileinfo.cpp
     vxfile.cpp
+    vxfilestatus.cpp
     vxstdiofile.cpp
     vxmemfile.cpp
-    vxfilehandle.cpp)
+    vxfilehandles.cpp
+    vxfilehandle.cpp
+    vxfilefunctions.cpp
+    vxcopyfile.cpp
+    vxwildcards.cpp
+    vxfindfile.cpp
+    vxfilefind.cpp)

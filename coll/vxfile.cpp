@@ -1,96 +1,84 @@
 #include <VxMFCEmu/coll/file.h>
 
+#include <VxMFCEmu/coll/filefunctions.h>
+#include <VxMFCEmu/coll/filehandle.h>
 #include <VxMFCEmu/core/exceptions.h>
+#include <VxMFCEmu/sys/errorcodes.h>
 
+#include "coll/vxfilehandles_p.h"
+#include "coll/vxfileio_p.h"
 #include "coll/vxfilename_p.h"
+#include "coll/vxfileopen_p.h"
+#include "coll/vxoserror_p.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 IMPLEMENT_DYNAMIC_E(CFile_E, CObject_E, QFile)
 
-using vx::detail::localFileName;
+using namespace vx::detail;
 
 namespace {
 
 constexpr UINT kAccessMask = 0x0003;
+constexpr UINT kShareMask = 0x0070;
 
-void fillError(CFileException_E* pError, int nErrno, const wchar_t* lpszFileName)
+OpenRequest requestOf(UINT nOpenFlags)
 {
-    if (!pError)
-        return;
-    pError->m_cause = CFileException_E::ErrnoToException(nErrno);
-    pError->m_lOsError = nErrno;
-    pError->m_strFileName = lpszFileName;
+    static constexpr DWORD access[] = {GENERIC_READ, GENERIC_WRITE, GENERIC_READ | GENERIC_WRITE,
+                                       GENERIC_READ | GENERIC_WRITE};
+    static constexpr DWORD share[] = {
+        0, 0, FILE_SHARE_READ, FILE_SHARE_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, 0, 0, 0};
+    const bool bCreate = (nOpenFlags & CFile_E::modeCreate) != 0;
+    const bool bKeep = (nOpenFlags & CFile_E::modeNoTruncate) != 0;
+    return {access[nOpenFlags & kAccessMask], share[(nOpenFlags & kShareMask) >> 4U],
+            !bCreate ? OPEN_EXISTING
+            : bKeep  ? OPEN_ALWAYS
+                     : CREATE_ALWAYS,
+            (nOpenFlags & CFile_E::osWriteThrough) != 0 ? FILE_FLAG_WRITE_THROUGH : 0};
 }
 
-[[noreturn]] void throwErrno(int nErrno, const wchar_t* lpszFileName)
+QIODevice::OpenMode deviceMode(int fd)
 {
-    AfxThrowFileException_E(CFileException_E::ErrnoToException(nErrno), nErrno, lpszFileName);
-}
-
-/// What the call that just failed left; Qt does not always set it.
-int lastErrno() { return errno != 0 ? errno : EIO; }
-
-QIODevice::OpenMode deviceMode(UINT nOpenFlags)
-{
-    switch (nOpenFlags & kAccessMask) {
-    case CFile_E::modeRead:
+    switch (::fcntl(fd, F_GETFL) & O_ACCMODE) {
+    case O_RDONLY:
         return QIODevice::ReadOnly;
-    case CFile_E::modeWrite:
+    case O_WRONLY:
         return QIODevice::WriteOnly;
     default:
         return QIODevice::ReadWrite;
     }
 }
 
-int systemFlags(UINT nOpenFlags)
-{
-    static constexpr int access[] = {O_RDONLY, O_WRONLY, O_RDWR, O_RDWR};
-    int flags = access[nOpenFlags & kAccessMask] | O_CLOEXEC;
-    if ((nOpenFlags & CFile_E::modeCreate) != 0)
-        flags |= O_CREAT | ((nOpenFlags & CFile_E::modeNoTruncate) != 0 ? 0 : O_TRUNC);
-    if ((nOpenFlags & CFile_E::osWriteThrough) != 0)
-        flags |= O_SYNC;
-    return flags;
-}
-
-/// Opens by the system's own call: Qt would empty every file that is only written.
-int openDescriptor(const QString& name, UINT nOpenFlags)
-{
-    if (name.isEmpty()) {
-        errno = ENOENT;
-        return -1;
-    }
-    const int fd = ::open(QFile::encodeName(name).constData(), systemFlags(nOpenFlags), 0666);
-    struct stat info;
-    if (fd >= 0 && ::fstat(fd, &info) == 0 && S_ISDIR(info.st_mode)) {
-        ::close(fd);
-        errno = EACCES;
-        return -1;
-    }
-    return fd;
-}
+QFile* deviceOf(const CFile_E& file) { return static_cast<QFile*>(file.GetImpQObject()); }
 
 } // namespace
 
 CFile_E::CFile_E() = default;
 
+CFile_E::CFile_E(INT_PTR hFile)
+{
+    if (hFile != hFileNull)
+        Adopt(static_cast<int>(hFile), false);
+}
+
 // Through the other constructor, so that the destructor runs when opening throws.
 CFile_E::CFile_E(const wchar_t* lpszFileName, UINT nOpenFlags) : CFile_E()
 {
-    if (!OpenFile(lpszFileName, nOpenFlags, nullptr, QIODevice::Unbuffered))
-        throwErrno(lastErrno(), lpszFileName);
+    CFileException_E::ThrowOsError(OpenFile(lpszFileName, nOpenFlags), lpszFileName);
 }
 
 CFile_E::~CFile_E()
 {
+    ReleaseFile(m_bCloseOnDelete);
+    if (m_bIsHandle)
+        forgetFileHandle(this);
     // Deleted at once where it is owned: a file may live in a thread without an event loop.
     QObject* const pImp = IsExternalImpObj() ? nullptr : GetImpQObject();
     Detach();
@@ -99,113 +87,162 @@ CFile_E::~CFile_E()
 
 BOOL CFile_E::AttachDefault(QObject* pParent) { return Attach(new QFile(pParent), pParent, false); }
 
-BOOL CFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_E* pError)
+CFile_E::operator HANDLE() const
 {
-    return OpenFile(lpszFileName, nOpenFlags, pError, QIODevice::Unbuffered);
+    if (m_hFile == hFileNull)
+        return INVALID_HANDLE_VALUE;
+    auto* const pThis = const_cast<CFile_E*>(this);
+    if (!m_bIsHandle)
+        rememberFileHandle(pThis, false);
+    m_bIsHandle = true;
+    return pThis;
 }
 
-BOOL CFile_E::OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_E* pError,
-                       QIODevice::OpenMode extra)
+BOOL CFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_E* pError)
 {
-    CFile_E::Abort();
+    const LONG error = OpenFile(lpszFileName, nOpenFlags);
+    if (error != NO_ERROR && pError) {
+        pError->m_cause = CFileException_E::OsErrorToException(error);
+        pError->m_lOsError = error;
+        pError->m_strFileName = lpszFileName;
+    }
+    return succeeded(error);
+}
+
+LONG CFile_E::OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags)
+{
+    ReleaseFile(m_bCloseOnDelete);
+    const QString name = localFileName(lpszFileName);
+    OpenedFile opened;
+    const LONG error = openFile(QFile::encodeName(name), requestOf(nOpenFlags), opened);
+    if (error == NO_ERROR) {
+        m_strFileName = QFileInfo(name).absoluteFilePath();
+        Adopt(opened.fd, true);
+    }
+    return error;
+}
+
+void CFile_E::Adopt(int fd, bool bCloseOnDelete)
+{
     if (!GetImpQObject())
         CFile_E::AttachDefault(nullptr);
-    const QString name = localFileName(lpszFileName);
-    const int fd = openDescriptor(name, nOpenFlags);
-    if (fd < 0) {
-        const int error = errno;
-        fillError(pError, error, lpszFileName);
-        errno = error;
-        return FALSE;
-    }
-    QFile* const pFile = FileOrNull();
-    pFile->setFileName(name);
-    if (!pFile->open(fd, deviceMode(nOpenFlags) | extra, QFileDevice::AutoCloseHandle)) {
-        fillError(pError, EIO, lpszFileName);
-        errno = EIO;
-        return FALSE;
-    }
-    m_strFileName = QFileInfo(name).absoluteFilePath();
-    return TRUE;
+    QFile* const pFile = deviceOf(*this);
+    pFile->setFileName(VxQString(m_strFileName));
+    pFile->open(fd, deviceMode(fd) | QIODevice::Unbuffered, QFileDevice::DontCloseHandle);
+    m_hFile = fd;
+    m_bCloseOnDelete = bCloseOnDelete;
+}
+
+LONG CFile_E::ReleaseFile(bool bClose)
+{
+    if (QFile* const pFile = deviceOf(*this))
+        pFile->close();
+    const auto fd = static_cast<int>(m_hFile);
+    m_hFile = hFileNull;
+    m_bCloseOnDelete = false;
+    m_ranges.clear();
+    m_strFileName.Empty();
+    return fd != hFileNull && bClose && ::close(fd) != 0 ? osErrorOf(errno) : NO_ERROR;
+}
+
+CFile_E* CFile_E::Duplicate() const
+{
+    auto pFile = std::make_unique<CFile_E>();
+    DuplicateTo(pFile.get());
+    return pFile.release();
+}
+
+void CFile_E::DuplicateTo(CFile_E* pFile) const
+{
+    const int fd = ::fcntl(Descriptor(), F_DUPFD_CLOEXEC, 0);
+    Check(fd < 0 ? osErrorOf(errno) : NO_ERROR);
+    pFile->m_strFileName = m_strFileName;
+    pFile->Adopt(fd, true);
 }
 
 UINT CFile_E::Read(void* lpBuf, UINT nCount)
 {
-    QFile& file = File(QIODevice::ReadOnly);
+    const int fd = Descriptor();
     if (nCount == 0)
         return 0;
     if (!lpBuf)
         AfxThrowInvalidArgException_E();
-    errno = 0;
-    const qint64 nRead = file.read(static_cast<char*>(lpBuf), nCount);
-    if (nRead < 0)
-        ThrowError(lastErrno());
-    return static_cast<UINT>(nRead);
+    std::size_t nDone;
+    Check(readBytes(fd, lpBuf, nCount, nDone));
+    return static_cast<UINT>(nDone);
 }
 
 void CFile_E::Write(const void* lpBuf, UINT nCount)
 {
-    QFile& file = File(QIODevice::WriteOnly);
+    const int fd = Descriptor();
     if (nCount == 0)
         return;
     if (!lpBuf)
         AfxThrowInvalidArgException_E();
-    errno = 0;
-    if (file.write(static_cast<const char*>(lpBuf), nCount) != static_cast<qint64>(nCount))
-        ThrowError(lastErrno());
+    std::size_t nDone;
+    Check(writeBytes(fd, lpBuf, nCount, nDone));
 }
 
 ULONGLONG CFile_E::Seek(LONGLONG lOff, UINT nFrom)
 {
-    QFile& file = File();
+    const int fd = Descriptor();
     if (nFrom > end)
         AfxThrowInvalidArgException_E();
-    const LONGLONG base = nFrom == begin ? 0 : nFrom == current ? file.pos() : file.size();
-    LONGLONG target;
-    if (__builtin_add_overflow(base, lOff, &target) || target < 0 || !file.seek(target))
-        AfxThrowFileException_E(CFileException_E::badSeek, EINVAL, m_strFileName.GetString());
-    return static_cast<ULONGLONG>(target);
+    ULONGLONG nPosition = 0;
+    Check(seekTo(fd, lOff, nFrom, nPosition));
+    return nPosition;
 }
 
-ULONGLONG CFile_E::GetPosition() const { return static_cast<ULONGLONG>(File().pos()); }
+ULONGLONG CFile_E::GetPosition() const
+{
+    ULONGLONG nPosition = 0;
+    Check(seekTo(Descriptor(), 0, current, nPosition));
+    return nPosition;
+}
 
-ULONGLONG CFile_E::GetLength() const { return static_cast<ULONGLONG>(File().size()); }
+ULONGLONG CFile_E::GetLength() const
+{
+    ULONGLONG nLength = 0;
+    Check(lengthOf(Descriptor(), nLength));
+    return nLength;
+}
 
 void CFile_E::SetLength(ULONGLONG dwNewLen)
 {
-    QFile& file = File(QIODevice::WriteOnly);
-    const auto length = static_cast<qint64>(dwNewLen);
-    errno = 0;
-    if (length < 0 || !file.resize(length) || !file.seek(length))
-        ThrowError(length < 0 ? EINVAL : lastErrno());
+    Check(vx::detail::setLength(Descriptor(), dwNewLen));
+    Seek(static_cast<LONGLONG>(dwNewLen), begin);
 }
 
-void CFile_E::Flush()
+void CFile_E::LockRange(ULONGLONG dwPos, ULONGLONG dwCount)
 {
-    errno = 0;
-    if (QFile* const pFile = FileOrNull(); pFile && pFile->isOpen() && !pFile->flush())
-        ThrowError(lastErrno());
+    const int fd = Descriptor();
+    // The system lets an open file lock again what it has locked itself.
+    const bool bOverlaps = std::any_of(m_ranges.cbegin(), m_ranges.cend(), [=](const Range& r) {
+        return dwPos < r.first ? r.first - dwPos < dwCount : dwPos - r.first < r.count;
+    });
+    Check(bOverlaps ? ERROR_LOCK_VIOLATION : setRangeLock(fd, dwPos, dwCount, true));
+    m_ranges.push_back({dwPos, dwCount});
 }
+
+void CFile_E::UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount)
+{
+    const int fd = Descriptor();
+    const auto range = std::find_if(m_ranges.cbegin(), m_ranges.cend(), [=](const Range& r) {
+        return r.first == dwPos && r.count == dwCount;
+    });
+    Check(range == m_ranges.cend() ? ERROR_NOT_LOCKED : setRangeLock(fd, dwPos, dwCount, false));
+    m_ranges.erase(range);
+}
+
+void CFile_E::Flush() {}
 
 void CFile_E::Close()
 {
-    QFile* const pFile = FileOrNull();
-    if (!pFile || !pFile->isOpen())
-        return;
-    errno = 0;
-    const int error = pFile->flush() ? 0 : lastErrno();
     const CString_E strFileName = m_strFileName;
-    CFile_E::Abort();
-    if (error != 0)
-        throwErrno(error, strFileName.GetString());
+    CFileException_E::ThrowOsError(ReleaseFile(true), strFileName.GetString());
 }
 
-void CFile_E::Abort()
-{
-    if (QFile* const pFile = FileOrNull())
-        pFile->close();
-    m_strFileName.Empty();
-}
+void CFile_E::Abort() { ReleaseFile(true); }
 
 CString_E CFile_E::GetFileName() const { return QFileInfo(VxQString(m_strFileName)).fileName(); }
 
@@ -216,33 +253,26 @@ CString_E CFile_E::GetFileTitle() const
 
 void CFile_E::Remove(const wchar_t* lpszFileName)
 {
-    if (::unlink(QFile::encodeName(localFileName(lpszFileName)).constData()) != 0)
-        throwErrno(errno, lpszFileName);
+    if (!DeleteFile_E(lpszFileName))
+        CFileException_E::ThrowOsError(errno, lpszFileName);
 }
 
 void CFile_E::Rename(const wchar_t* lpszOldName, const wchar_t* lpszNewName)
 {
-    const QString oldName = localFileName(lpszOldName);
-    const QString newName = localFileName(lpszNewName);
-    if (!QFileInfo::exists(oldName) || newName.isEmpty())
-        throwErrno(ENOENT, lpszOldName);
-    if (QFileInfo::exists(newName))
-        throwErrno(EEXIST, lpszNewName);
-    errno = 0;
-    if (!QFile::rename(oldName, newName))
-        throwErrno(lastErrno(), lpszOldName);
+    if (!MoveFile_E(lpszOldName, lpszNewName))
+        CFileException_E::ThrowOsError(errno, lpszOldName);
 }
 
-QFile* CFile_E::FileOrNull() const { return static_cast<QFile*>(GetImpQObject()); }
-
-QFile& CFile_E::File(QIODevice::OpenMode mode) const
+int CFile_E::Descriptor() const
 {
-    QFile* const pFile = FileOrNull();
-    if (!pFile || !pFile->isOpen())
-        ThrowError(EBADF);
-    if ((pFile->openMode() & mode) != mode)
-        ThrowError(EACCES);
-    return *pFile;
+    if (m_hFile == hFileNull)
+        AfxThrowFileException_E(CFileException_E::invalidFile, ERROR_INVALID_HANDLE,
+                                m_strFileName.GetString());
+    return static_cast<int>(m_hFile);
 }
 
-void CFile_E::ThrowError(int nErrno) const { throwErrno(nErrno, m_strFileName.GetString()); }
+void CFile_E::Check(LONG lOsError) const
+{
+    if (lOsError != NO_ERROR)
+        CFileException_E::ThrowOsError(lOsError, m_strFileName.GetString());
+}

@@ -1,92 +1,206 @@
-#include <VxMFCEmu/coll/file.h>
 #include <VxMFCEmu/coll/filehandle.h>
-#include <VxMFCEmu/core/exceptions.h>
-#include <VxMFCEmu/sys/handle.h>
 
+#include <VxMFCEmu/coll/file.h>
+#include <VxMFCEmu/sys/errorcodes.h>
+
+#include "coll/vxfilehandles_p.h"
+#include "coll/vxfileio_p.h"
 #include "coll/vxfilename_p.h"
+#include "coll/vxfileopen_p.h"
+#include "coll/vxoserror_p.h"
 
-#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 #include <cerrno>
+#include <limits>
 #include <memory>
 
-#include <fcntl.h>
-#include <unistd.h>
+using namespace vx::detail;
 
 namespace {
 
-UINT accessFlags(DWORD dwDesiredAccess)
+/// A file that a handle stands for and nothing else.
+class HandleFile : public CFile_E
 {
-    const bool bRead = (dwDesiredAccess & (GENERIC_READ | GENERIC_ALL)) != 0;
-    const bool bWrite = (dwDesiredAccess & (GENERIC_WRITE | GENERIC_ALL)) != 0;
-    return !bWrite ? CFile_E::modeRead : bRead ? CFile_E::modeReadWrite : CFile_E::modeWrite;
-}
-
-/// How the file is opened once it is known to be there or was just made.
-UINT dispositionFlags(DWORD dwCreationDisposition)
-{
-    switch (dwCreationDisposition) {
-    case CREATE_ALWAYS:
-        return CFile_E::modeCreate;
-    case OPEN_ALWAYS:
-        return CFile_E::modeCreate | CFile_E::modeNoTruncate;
-    default:
-        return 0;
+public:
+    HandleFile(int fd, const QString& name)
+    {
+        m_strFileName = QFileInfo(name).absoluteFilePath();
+        Adopt(fd, true);
     }
+    ~HandleFile() override { forgetFileHandle(this); }
+};
+
+/// Does @p work with the descriptor behind a handle; the work gives a Win32 error number.
+template <typename Work>
+BOOL withDescriptor(HANDLE hFile, Work work)
+{
+    CFile_E* const pFile = fileOfHandle(hFile);
+    if (!pFile || pFile->m_hFile == CFile_E::hFileNull)
+        return failWith(ERROR_INVALID_HANDLE);
+    return succeeded(work(static_cast<int>(pFile->m_hFile)));
 }
 
-/// Makes an empty file; false with `errno` when there is one or it cannot be made.
-bool makeFile(const QByteArray& name)
+/// Reads or writes; @p transfer is readBytes() or writeBytes().
+template <typename Buffer, typename Transfer>
+BOOL transferBytes(HANDLE hFile, Buffer lpBuffer, DWORD nCount, LPDWORD lpDone,
+                   LPOVERLAPPED lpOverlapped, Transfer transfer)
 {
-    const int fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd >= 0)
-        ::close(fd);
-    return fd >= 0;
+    std::size_t nDone = 0;
+    const BOOL bSuccess = withDescriptor(hFile, [&](int fd) -> LONG {
+        if (!lpBuffer && nCount != 0)
+            return ERROR_NOACCESS;
+        if (lpOverlapped) {
+            const auto offset = static_cast<ULONGLONG>(lpOverlapped->OffsetHigh) << 32U;
+            ULONGLONG position;
+            const LONG error = seekTo(fd, static_cast<LONGLONG>(offset | lpOverlapped->Offset),
+                                      FILE_BEGIN, position);
+            if (error != NO_ERROR)
+                return error;
+        }
+        return transfer(fd, lpBuffer, nCount, nDone);
+    });
+    if (lpDone)
+        *lpDone = static_cast<DWORD>(nDone);
+    if (lpOverlapped)
+        lpOverlapped->InternalHigh = nDone;
+    return bSuccess;
 }
 
-HANDLE failure(int nError)
+/// The lower half of a 64-bit result; the last error tells it from a failure.
+DWORD lowerHalf(ULONGLONG value)
 {
-    errno = nError;
-    return INVALID_HANDLE_VALUE;
+    errno = NO_ERROR;
+    return static_cast<DWORD>(value);
 }
 
 } // namespace
 
-HANDLE CreateFile_E(LPCWSTR lpFileName, DWORD dwDesiredAccess, DWORD, LPSECURITY_ATTRIBUTES,
-                    DWORD dwCreationDisposition, DWORD, HANDLE)
+HANDLE CreateFile_E(LPCWSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShareMode,
+                    LPSECURITY_ATTRIBUTES, DWORD dwCreationDisposition, DWORD dwFlagsAndAttributes,
+                    HANDLE)
 {
-    const UINT access = accessFlags(dwDesiredAccess);
-    const bool bTruncate = dwCreationDisposition == TRUNCATE_EXISTING;
-    if (dwCreationDisposition < CREATE_NEW || dwCreationDisposition > TRUNCATE_EXISTING ||
-        (bTruncate && access == CFile_E::modeRead))
-        return failure(EINVAL);
-
-    const QByteArray name = QFile::encodeName(vx::detail::localFileName(lpFileName));
-    const bool bMayMake = dwCreationDisposition != OPEN_EXISTING && !bTruncate;
-    const bool bMade = bMayMake && makeFile(name);
-    if (bMayMake && !bMade && (errno != EEXIST || dwCreationDisposition == CREATE_NEW))
-        return failure(errno);
-
-    auto pFile = std::make_unique<CFile_E>();
-    if (!pFile->Open(lpFileName, access | dispositionFlags(dwCreationDisposition)) ||
-        (bTruncate && ::truncate(name.constData(), 0) != 0)) {
-        const int nError = errno;
-        pFile.reset();
-        return failure(nError);
+    const QString name = localFileName(lpFileName);
+    const OpenRequest request = {dwDesiredAccess, dwShareMode, dwCreationDisposition,
+                                 dwFlagsAndAttributes};
+    OpenedFile opened;
+    const LONG error = openFile(QFile::encodeName(name), request, opened);
+    if (error != NO_ERROR) {
+        errno = error;
+        return INVALID_HANDLE_VALUE;
     }
-    errno = bMayMake && !bMade ? static_cast<int>(ERROR_ALREADY_EXISTS) : 0;
-    return pFile.release();
+    auto pFile = std::make_unique<HandleFile>(opened.fd, name);
+    rememberFileHandle(pFile.get(), true);
+    const bool bAlways =
+        dwCreationDisposition == CREATE_ALWAYS || dwCreationDisposition == OPEN_ALWAYS;
+    errno = bAlways && opened.bExisted ? ERROR_ALREADY_EXISTS : NO_ERROR;
+    return static_cast<CFile_E*>(pFile.release());
 }
 
 BOOL CloseHandle_E(HANDLE hFile)
 {
-    if (!hFile || hFile == INVALID_HANDLE_VALUE)
-        return FALSE;
-    const std::unique_ptr<CFile_E> pFile(static_cast<CFile_E*>(hFile));
-    try {
-        pFile->Close();
-    } catch (CException_E* pException) {
-        pException->Delete(); // The file is closed all the same.
-    }
+    bool bOwned = false;
+    CFile_E* const pFile = fileOfHandle(hFile, bOwned);
+    if (!pFile || pFile->m_hFile == CFile_E::hFileNull)
+        return failWith(ERROR_INVALID_HANDLE);
+    pFile->Abort(); // The file is closed even when what is buffered cannot be written.
+    if (bOwned)
+        delete pFile;
     return TRUE;
+}
+
+BOOL ReadFile_E(HANDLE hFile, LPVOID lpBuffer, DWORD nNumberOfBytesToRead,
+                LPDWORD lpNumberOfBytesRead, LPOVERLAPPED lpOverlapped)
+{
+    DWORD nRead = 0;
+    const BOOL bSuccess =
+        transferBytes(hFile, lpBuffer, nNumberOfBytesToRead, &nRead, lpOverlapped, readBytes);
+    if (lpNumberOfBytesRead)
+        *lpNumberOfBytesRead = nRead;
+    if (bSuccess && lpOverlapped && nRead == 0 && nNumberOfBytesToRead != 0)
+        return failWith(ERROR_HANDLE_EOF);
+    return bSuccess;
+}
+
+BOOL WriteFile_E(HANDLE hFile, LPCVOID lpBuffer, DWORD nNumberOfBytesToWrite,
+                 LPDWORD lpNumberOfBytesWritten, LPOVERLAPPED lpOverlapped)
+{
+    return transferBytes(hFile, lpBuffer, nNumberOfBytesToWrite, lpNumberOfBytesWritten,
+                         lpOverlapped, writeBytes);
+}
+
+DWORD SetFilePointer_E(HANDLE hFile, LONG lDistanceToMove, PLONG lpDistanceToMoveHigh,
+                       DWORD dwMoveMethod)
+{
+    ULONGLONG position = 0;
+    const BOOL bSuccess = withDescriptor(hFile, [&](int fd) -> LONG {
+        LONGLONG distance = lDistanceToMove;
+        if (lpDistanceToMoveHigh)
+            distance = static_cast<LONGLONG>(
+                static_cast<ULONGLONG>(static_cast<DWORD>(*lpDistanceToMoveHigh)) << 32U |
+                static_cast<DWORD>(lDistanceToMove));
+        ULONGLONG before = 0;
+        LONG error = seekTo(fd, 0, FILE_CURRENT, before);
+        if (error == NO_ERROR)
+            error = seekTo(fd, distance, dwMoveMethod, position);
+        if (error == NO_ERROR && !lpDistanceToMoveHigh &&
+            position > std::numeric_limits<DWORD>::max()) {
+            seekTo(fd, static_cast<LONGLONG>(before), FILE_BEGIN, position);
+            error = ERROR_INVALID_PARAMETER;
+        }
+        return error;
+    });
+    if (!bSuccess)
+        return INVALID_SET_FILE_POINTER;
+    if (lpDistanceToMoveHigh)
+        *lpDistanceToMoveHigh = static_cast<LONG>(position >> 32U);
+    return lowerHalf(position);
+}
+
+BOOL SetFilePointerEx_E(HANDLE hFile, LARGE_INTEGER liDistanceToMove,
+                        PLARGE_INTEGER lpNewFilePointer, DWORD dwMoveMethod)
+{
+    return withDescriptor(hFile, [&](int fd) {
+        ULONGLONG position = 0;
+        const LONG error = seekTo(fd, liDistanceToMove.QuadPart, dwMoveMethod, position);
+        if (error == NO_ERROR && lpNewFilePointer)
+            lpNewFilePointer->QuadPart = static_cast<LONGLONG>(position);
+        return error;
+    });
+}
+
+DWORD GetFileSize_E(HANDLE hFile, LPDWORD lpFileSizeHigh)
+{
+    LARGE_INTEGER size = {};
+    if (!GetFileSizeEx_E(hFile, &size))
+        return INVALID_FILE_SIZE;
+    if (lpFileSizeHigh)
+        *lpFileSizeHigh = static_cast<DWORD>(size.QuadPart >> 32);
+    return lowerHalf(static_cast<ULONGLONG>(size.QuadPart));
+}
+
+BOOL GetFileSizeEx_E(HANDLE hFile, PLARGE_INTEGER lpFileSize)
+{
+    return withDescriptor(hFile, [=](int fd) -> LONG {
+        if (!lpFileSize)
+            return ERROR_INVALID_PARAMETER;
+        ULONGLONG length = 0;
+        const LONG error = lengthOf(fd, length);
+        lpFileSize->QuadPart = static_cast<LONGLONG>(length);
+        return error;
+    });
+}
+
+BOOL SetEndOfFile_E(HANDLE hFile)
+{
+    return withDescriptor(hFile, [](int fd) {
+        ULONGLONG position = 0;
+        const LONG error = seekTo(fd, 0, FILE_CURRENT, position);
+        return error == NO_ERROR ? setLength(fd, position) : error;
+    });
+}
+
+BOOL FlushFileBuffers_E(HANDLE hFile)
+{
+    return withDescriptor(hFile, [](int fd) { return syncToDisk(fd); });
 }

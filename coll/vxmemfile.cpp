@@ -1,11 +1,13 @@
-#include <VxMFCEmu/coll/file.h>
+#include <VxMFCEmu/coll/memfile.h>
 
 #include <VxMFCEmu/core/exceptions.h>
+#include <VxMFCEmu/sys/errorcodes.h>
+
+#include "coll/vxoserror_p.h"
 
 #include <QtCore/QFile>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -43,10 +45,10 @@ BOOL CMemFile_E::Open(const wchar_t* lpszFileName, UINT, CFileException_E* pErro
 {
     if (pError) {
         pError->m_cause = CFileException_E::genericException;
-        pError->m_lOsError = ENOTSUP;
+        pError->m_lOsError = ERROR_NOT_SUPPORTED;
         pError->m_strFileName = lpszFileName;
     }
-    return FALSE;
+    return vx::detail::failWith(ERROR_NOT_SUPPORTED);
 }
 
 UINT CMemFile_E::Read(void* lpBuf, UINT nCount)
@@ -56,7 +58,7 @@ UINT CMemFile_E::Read(void* lpBuf, UINT nCount)
     if (!lpBuf)
         AfxThrowInvalidArgException_E();
     const auto count = std::min<std::size_t>(nCount, m_nFileSize - m_nPosition);
-    std::memcpy(lpBuf, m_lpBuffer + m_nPosition, count);
+    Memcpy(static_cast<BYTE*>(lpBuf), m_lpBuffer + m_nPosition, count);
     m_nPosition += count;
     return static_cast<UINT>(count);
 }
@@ -70,10 +72,11 @@ void CMemFile_E::Write(const void* lpBuf, UINT nCount)
     if (nCount > std::numeric_limits<std::size_t>::max() - m_nPosition)
         AfxThrowMemoryException_E();
     const std::size_t newPosition = m_nPosition + nCount;
-    GrowFile(newPosition);
+    if (newPosition > m_nBufferSize)
+        GrowFile(newPosition);
     if (m_nPosition > m_nFileSize)
         std::memset(m_lpBuffer + m_nFileSize, 0, m_nPosition - m_nFileSize);
-    std::memmove(m_lpBuffer + m_nPosition, lpBuf, nCount);
+    Memcpy(m_lpBuffer + m_nPosition, static_cast<const BYTE*>(lpBuf), nCount);
     m_nPosition = newPosition;
     m_nFileSize = std::max(m_nFileSize, newPosition);
 }
@@ -85,45 +88,75 @@ ULONGLONG CMemFile_E::Seek(LONGLONG lOff, UINT nFrom)
     const std::size_t base = nFrom == begin ? 0 : nFrom == current ? m_nPosition : m_nFileSize;
     LONGLONG target;
     if (__builtin_add_overflow(static_cast<LONGLONG>(base), lOff, &target) || target < 0)
-        AfxThrowFileException_E(CFileException_E::badSeek, EINVAL, m_strFileName.GetString());
+        AfxThrowFileException_E(CFileException_E::badSeek, ERROR_NEGATIVE_SEEK,
+                                m_strFileName.GetString());
     m_nPosition = static_cast<std::size_t>(target);
     return m_nPosition;
 }
 
 void CMemFile_E::SetLength(ULONGLONG dwNewLen)
 {
-    GrowFile(dwNewLen);
+    if (dwNewLen > m_nBufferSize)
+        GrowFile(dwNewLen);
     if (dwNewLen > m_nFileSize)
         std::memset(m_lpBuffer + m_nFileSize, 0, dwNewLen - m_nFileSize);
     m_nFileSize = dwNewLen;
-    m_nPosition = dwNewLen;
+    m_nPosition = std::min<SIZE_T>(m_nPosition, dwNewLen);
 }
 
 void CMemFile_E::Close()
 {
-    if (m_bAutoDelete)
-        std::free(m_lpBuffer);
+    if (m_bAutoDelete && m_lpBuffer)
+        Free(m_lpBuffer);
     m_lpBuffer = nullptr;
     m_nBufferSize = m_nFileSize = m_nPosition = 0;
     m_bAutoDelete = true;
 }
 
-void CMemFile_E::GrowFile(std::size_t nNewSize)
+BOOL CMemFile_E::GetStatus(CFileStatus_E& rStatus) const
 {
-    if (nNewSize <= m_nBufferSize)
+    rStatus = {};
+    rStatus.m_size = m_nFileSize;
+    const auto length = static_cast<std::size_t>(m_strFileName.GetLength());
+    if (length < CFileStatus_E::kMaxPath)
+        std::copy_n(m_strFileName.GetString(), length, rStatus.m_szFullName);
+    return TRUE;
+}
+
+CFile_E* CMemFile_E::Duplicate() const { AfxThrowNotSupportedException_E(); }
+void CMemFile_E::LockRange(ULONGLONG, ULONGLONG) { AfxThrowNotSupportedException_E(); }
+void CMemFile_E::UnlockRange(ULONGLONG, ULONGLONG) { AfxThrowNotSupportedException_E(); }
+
+BYTE* CMemFile_E::Alloc(SIZE_T nBytes) { return static_cast<BYTE*>(std::malloc(nBytes)); }
+
+BYTE* CMemFile_E::Realloc(BYTE* lpMem, SIZE_T nBytes)
+{
+    return static_cast<BYTE*>(std::realloc(lpMem, nBytes));
+}
+
+void CMemFile_E::Free(BYTE* lpMem) { std::free(lpMem); }
+
+BYTE* CMemFile_E::Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, SIZE_T nBytes)
+{
+    // The caller's memory may be part of the block.
+    return static_cast<BYTE*>(std::memmove(lpMemTarget, lpMemSource, nBytes));
+}
+
+void CMemFile_E::GrowFile(SIZE_T dwNewLen)
+{
+    if (dwNewLen <= m_nBufferSize)
         return;
     if (m_nGrowBytes == 0)
         AfxThrowMemoryException_E();
     // Doubled as well, so that many small writes do not copy the block each time.
-    const std::size_t wanted = std::max(nNewSize, m_nBufferSize * 2);
-    const std::size_t steps = (wanted - 1) / m_nGrowBytes + 1;
-    std::size_t bytes;
-    void* const pBlock =
-        __builtin_mul_overflow(steps, static_cast<std::size_t>(m_nGrowBytes), &bytes)
-            ? nullptr
-            : std::realloc(m_lpBuffer, bytes);
+    const SIZE_T wanted = std::max(dwNewLen, m_nBufferSize * 2);
+    const SIZE_T steps = (wanted - 1) / m_nGrowBytes + 1;
+    SIZE_T bytes;
+    if (__builtin_mul_overflow(steps, SIZE_T{m_nGrowBytes}, &bytes))
+        AfxThrowMemoryException_E();
+    BYTE* const pBlock = m_lpBuffer ? Realloc(m_lpBuffer, bytes) : Alloc(bytes);
     if (!pBlock)
         AfxThrowMemoryException_E();
-    m_lpBuffer = static_cast<BYTE*>(pBlock);
+    m_lpBuffer = pBlock;
     m_nBufferSize = bytes;
 }

@@ -388,8 +388,8 @@ void CTrackerPanel::WriteReport(const CString_E& strLine) const
     if (m_strReportPath.IsEmpty())
         return;
     CStdioFile_E file;
-    if (!file.Open(m_strReportPath,
-                   CFile_E::modeWrite | CFile_E::modeCreate | CFile_E::modeNoTruncate))
+    if (!file.Open(m_strReportPath, CFile_E::modeWrite | CFile_E::modeCreate |
+                                        CFile_E::modeNoTruncate | CFile_E::typeBinary))
         return;
     file.SeekToEnd();
     file.WriteString(strLine + L"\n");

@@ -1,77 +1,50 @@
-#include "support/test.h"
+#include "filetest.h"
 
 #include <cerrno>
-#include <cstdlib>
-#include <cstring>
+
+#include <fcntl.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
-/// Cause of the file exception that @p work throws; -1 when it throws none.
-template <typename Work>
-int causeOf(Work work)
-{
-    try {
-        work();
-    } catch (CFileException_E* e) {
-        const int cause = e->m_cause;
-        e->Delete();
-        return cause;
-    }
-    return -1;
-}
+using E = CFileException_E;
+using F = CFile_E;
 
-class FileTest : public testing::Test
-{
-protected:
-    CString_E Path(const char* name = "f") const
-    {
-        return CString_E(m_dir.filePath(QString::fromUtf8(name)));
-    }
-    CString_E Make(const QByteArray& bytes) const
-    {
-        QFile file{VxQString(Path())};
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return Path();
-    }
-    QByteArray Bytes(const char* name = "f") const
-    {
-        QFile file{VxQString(Path(name))};
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
-    }
+constexpr UINT kRead = F::modeRead, kWrite = F::modeWrite, kBoth = F::modeReadWrite;
+constexpr UINT kCreate = F::modeCreate, kKeep = F::modeCreate | F::modeNoTruncate;
+constexpr Failure kDenied{E::accessDenied, ERROR_ACCESS_DENIED};
+constexpr Failure kClosed{E::invalidFile, ERROR_INVALID_HANDLE};
+constexpr Failure kMissing{E::fileNotFound, ERROR_FILE_NOT_FOUND};
+constexpr Failure kNoFolder{E::badPath, ERROR_PATH_NOT_FOUND};
+constexpr Failure kBadSeek{E::badSeek, ERROR_NEGATIVE_SEEK};
+constexpr Failure kFull{E::diskFull, ERROR_DISK_FULL};
+constexpr Failure kShared{E::sharingViolation, ERROR_SHARING_VIOLATION};
+constexpr Failure kBadNumber{E::genericException, ERROR_INVALID_PARAMETER};
+constexpr Failure kLocked{E::lockViolation, ERROR_LOCK_VIOLATION};
 
-    QTemporaryDir m_dir;
-};
-
-TEST_F(FileTest, RecordsNameQFileAndNoFactory)
+TEST_F(FileTest, IsOverAQFile)
 {
-    const Row<const CRuntimeClass_E*, const char*> rows[] = {
-        {RUNTIME_CLASS_E(CFile_E), "CFile_E"},
-        {RUNTIME_CLASS_E(CStdioFile_E), "CStdioFile_E"},
-        {RUNTIME_CLASS_E(CMemFile_E), "CMemFile_E"}};
-    for (const auto& [pClass, name] : rows) {
-        EXPECT_STREQ(pClass->GetClassName(), name);
+    for (const auto* pClass : {RUNTIME_CLASS_E(CFile_E), RUNTIME_CLASS_E(CStdioFile_E)})
         EXPECT_STREQ(pClass->GetImpClassName(), "QFile");
-        EXPECT_EQ(pClass->CreateObject(), nullptr);
-        EXPECT_TRUE(pClass->IsDerivedFrom(RUNTIME_CLASS_E(CFile_E)));
-    }
-    CFile_E file;
-    ASSERT_TRUE(file.AttachDefault(nullptr));
-    EXPECT_TRUE(qobject_cast<QFile*>(file.GetImpQObject()));
+    EXPECT_EQ(RUNTIME_CLASS_E(CFile_E)->CreateObject(), nullptr);
+    CFile_E file(Make("abc"), kRead);
+    EXPECT_EQ(qobject_cast<QFile*>(file.GetImpQObject())->handle(), file.m_hFile);
 }
 
 TEST_F(FileTest, OpenModes)
 {
-    constexpr UINT create = CFile_E::modeCreate, keep = create | CFile_E::modeNoTruncate;
-    constexpr UINT odd = CFile_E::shareExclusive | CFile_E::typeBinary;
-    constexpr UINT read = CFile_E::modeRead, write = CFile_E::modeWrite;
-    constexpr UINT both = CFile_E::modeReadWrite;
+    constexpr UINT odd = F::shareExclusive | F::typeBinary | F::osWriteThrough;
     // before: null for no file; after: once "Z" has been written, if it may be, null if not found
     const Row<UINT, const char*, const char*> rows[] = {
-        {read, "abc", "abc"},         {read | odd, "abc", "abc"},    {read, nullptr, nullptr},
-        {write, nullptr, nullptr},    {write, "abc", "Zbc"},         {both, "abc", "Zbc"},
-        {write | create, "abc", "Z"}, {both | create, nullptr, "Z"}, {write | keep, "abc", "Zbc"},
-        {write | keep, nullptr, "Z"}, {read | create, "abc", ""},
+        {kRead, "abc", "abc"},          {kRead | odd, "abc", "abc"},
+        {kRead, nullptr, nullptr},      {kWrite, nullptr, nullptr},
+        {kWrite, "abc", "Zbc"},         {kBoth, "abc", "Zbc"},
+        {kWrite | kCreate, "abc", "Z"}, {kBoth | kCreate, nullptr, "Z"},
+        {kWrite | kKeep, "abc", "Zbc"}, {kWrite | kKeep, nullptr, "Z"},
+        {kRead | kCreate, "abc", ""},
     };
     forRows(rows, [&](UINT mode, const char* before, const char* after) {
         QFile::remove(VxQString(Path()));
@@ -80,19 +53,16 @@ TEST_F(FileTest, OpenModes)
         CFile_E file;
         CFileException_E error;
         EXPECT_EQ(file.Open(Path(), mode, &error), after != nullptr);
-        EXPECT_EQ(causeOf([&] { CFile_E thrown(L"/nowhere/f", mode); }),
-                  CFileException_E::fileNotFound);
         if (after) {
             char c;
-            EXPECT_EQ(error.m_cause, 0);
-            EXPECT_EQ(causeOf([&] { file.Write("Z", 1); }),
-                      (mode & 3U) == read ? CFileException_E::accessDenied : -1);
-            EXPECT_EQ(causeOf([&] { file.Read(&c, 1); }),
-                      (mode & 3U) == write ? CFileException_E::accessDenied : -1);
+            EXPECT_EQ(failureOf([&] { file.Write("Z", 1); }),
+                      (mode & 3U) == kRead ? kDenied : kNoFailure);
+            EXPECT_EQ(failureOf([&] { file.Read(&c, 1); }),
+                      (mode & 3U) == kWrite ? kDenied : kNoFailure);
             EXPECT_EQ(Bytes(), after); // unbuffered: there before the file is closed
         } else {
-            EXPECT_EQ(error.m_cause, CFileException_E::fileNotFound);
-            EXPECT_EQ(error.m_lOsError, ENOENT);
+            EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
+            EXPECT_EQ(Failure(error.m_cause, error.m_lOsError), kMissing);
             EXPECT_STREQ(error.m_strFileName.GetString(), Path().GetString());
         }
     });
@@ -100,203 +70,274 @@ TEST_F(FileTest, OpenModes)
 
 TEST_F(FileTest, ReadsSeeksAndCuts)
 {
-    CFile_E file(Make("0123456789"), CFile_E::modeReadWrite);
+    CFile_E file(Make("0123456789"), kBoth);
     char buffer[16] = {};
     EXPECT_EQ(file.Read(buffer, 4), 4U);
-    EXPECT_EQ(file.Seek(2, CFile_E::current), 6U);
+    EXPECT_EQ(file.Seek(2, F::current), 6U);
     EXPECT_EQ(file.Read(buffer, 16), 4U);
     EXPECT_STREQ(buffer, "6789");
     EXPECT_EQ(file.Read(buffer, 16), 0U);
-    EXPECT_EQ(file.Seek(-3, CFile_E::end), 7U);
-    EXPECT_EQ(causeOf([&] { file.Seek(-8, CFile_E::current); }), CFileException_E::badSeek);
+    EXPECT_EQ(file.Seek(-3, F::end), 7U);
+    EXPECT_EQ(failureOf([&] { file.Seek(-8, F::current); }), kBadSeek);
     EXPECT_THROW(file.Seek(0, 3), CInvalidArgException_E*);
+    EXPECT_THROW(file.Write(nullptr, 1), CInvalidArgException_E*);
     EXPECT_EQ(file.GetPosition(), 7U);
     file.SetLength(5);
     EXPECT_EQ(file.GetLength(), 5U);
     EXPECT_EQ(file.GetPosition(), 5U);
     file.Write("x", 1);
     EXPECT_EQ(file.SeekToEnd(), 6U);
-    EXPECT_EQ(file.Seek(2, CFile_E::end), 8U);
+    EXPECT_EQ(file.Seek(2, F::end), 8U);
     file.Write("y", 1);
     file.SeekToBegin();
     EXPECT_EQ(file.GetPosition(), 0U);
-    file.Close();
     EXPECT_EQ(Bytes(), QByteArray("01234x\0\0y", 9));
+    constexpr LONGLONG far = (5LL << 30) + 3;
+    file.Seek(far, F::begin);
+    file.Write("end", 3);
+    EXPECT_EQ(file.GetLength(), static_cast<ULONGLONG>(far + 3));
+    file.Seek(-2, F::end);
+    EXPECT_EQ(file.Read(buffer, 4), 2U);
+    EXPECT_EQ(std::string(buffer, 2), "nd");
 }
 
 TEST_F(FileTest, NamesAndReuse)
 {
-    CString_E dos = Path("a.b.txt");
-    dos = dos.ToWinSeperator();
-    CFile_E file(dos, CFile_E::modeWrite | CFile_E::modeCreate);
+    CFile_E file(Path("a.b.txt").ToWinSeperator(), kWrite | kCreate);
     EXPECT_STREQ(file.GetFilePath().GetString(), Path("a.b.txt").GetString());
     EXPECT_STREQ(file.GetFileName().GetString(), L"a.b.txt");
     EXPECT_STREQ(file.GetFileTitle().GetString(), L"a.b");
     file.Write("1", 1);
-    ASSERT_TRUE(file.Open(Path("g"), CFile_E::modeWrite | CFile_E::modeCreate));
+    ASSERT_TRUE(file.Open(Path("g"), kWrite | kCreate));
     file.Write("2", 1);
     file.Close();
     file.Close();
     EXPECT_TRUE(file.GetFilePath().IsEmpty());
-    EXPECT_EQ(Bytes("a.b.txt"), "1");
-    EXPECT_EQ(Bytes("g"), "2");
+    EXPECT_EQ(Bytes("a.b.txt") + Bytes("g"), "12");
 }
 
-TEST_F(FileTest, ClosedFileIsInvalid)
+TEST_F(FileTest, DescriptorsAndDuplicates)
 {
-    CFile_E file;
+    const int fd = ::open(Make("abcdef").Utf8Ptr(), O_RDWR | O_CLOEXEC);
     char c = 0;
-    const std::function<void()> uses[] = {
-        [&] { file.Read(&c, 1); }, [&] { file.Write(&c, 1); }, [&] { file.GetLength(); },
-        [&] { file.SeekToEnd(); }, [&] { file.SetLength(1); },
-    };
-    for (const auto& use : uses)
-        EXPECT_EQ(causeOf(use), CFileException_E::invalidFile);
-    EXPECT_NO_THROW(file.Flush());
-    EXPECT_FALSE(file.Open(nullptr, CFile_E::modeRead));
-    CFileException_E error;
-    EXPECT_FALSE(file.Open(CString_E(m_dir.path()), CFile_E::modeRead, &error));
-    EXPECT_EQ(error.m_cause, CFileException_E::accessDenied);
+    {
+        CFile_E file(fd);
+        EXPECT_EQ(file.m_hFile, fd);
+        const std::unique_ptr<CFile_E> pCopy(file.Duplicate());
+        EXPECT_NE(pCopy->m_hFile, fd);
+        file.Read(&c, 1);
+        pCopy->Read(&c, 1);
+        EXPECT_EQ(c, 'b');
+        EXPECT_EQ(file.GetPosition(), 2U);
+    }
+    EXPECT_EQ(::read(fd, &c, 1), 1); // not closed: it is the caller's
+    CFile_E(fd).Close();
+    EXPECT_EQ(::read(fd, &c, 1), -1);
+    EXPECT_EQ(CFile_E(F::hFileNull).m_hFile, F::hFileNull);
 }
 
-TEST_F(FileTest, FullDiskIsReported)
-{
-    CFile_E raw;
-    if (!raw.Open(L"/dev/full", CFile_E::modeWrite))
-        GTEST_SKIP() << "no /dev/full";
-    EXPECT_EQ(causeOf([&] { raw.Write("x", 1); }), CFileException_E::diskFull);
-    CStdioFile_E text(L"/dev/full", CFile_E::modeWrite);
-    text.WriteString(L"x");
-    EXPECT_EQ(causeOf([&] { text.Close(); }), CFileException_E::diskFull);
-    EXPECT_EQ(causeOf([&] { text.GetLength(); }), CFileException_E::invalidFile);
-}
-
-TEST_F(FileTest, RemoveAndRename)
+TEST_F(FileTest, EveryFailureHasItsCause)
 {
     Make("x");
-    EXPECT_EQ(causeOf([&] { CFile_E::Rename(Path("no"), Path("g")); }),
-              CFileException_E::fileNotFound);
-    EXPECT_EQ(causeOf([&] { CFile_E::Rename(Path(), Path()); }),
-              CFileException_E::genericException);
-    CFile_E::Rename(Path(), Path("g"));
-    EXPECT_EQ(Bytes("g"), "x");
-    CFile_E::Remove(Path("g"));
-    EXPECT_EQ(Bytes("g"), "<none>");
-    EXPECT_EQ(causeOf([&] { CFile_E::Remove(Path("g")); }), CFileException_E::fileNotFound);
-    EXPECT_EQ(causeOf([&] { CFile_E::Remove(nullptr); }), CFileException_E::fileNotFound);
-}
-
-TEST_F(FileTest, WorksInAThreadWithoutAnEventLoop)
-{
-    std::thread([this] {
-        CFile_E(Path(), CFile_E::modeWrite | CFile_E::modeCreate).Write("t", 1);
-    }).join();
-    EXPECT_EQ(Bytes(), "t");
-}
-
-using Lines = std::vector<std::wstring>;
-
-Lines linesOf(CStdioFile_E& file)
-{
-    Lines lines;
-    for (CString_E line; file.ReadString(line);)
-        lines.emplace_back(line.GetString());
-    return lines;
-}
-
-Lines piecesOf(CStdioFile_E& file, UINT nMax)
-{
-    Lines pieces;
-    for (wchar_t buffer[64]; file.ReadString(buffer, nMax);)
-        pieces.emplace_back(buffer);
-    return pieces;
-}
-
-TEST_F(FileTest, TextLines)
-{
-    const Row<const char*, UINT, Lines, UINT, Lines> rows[] = {
-        {"", 0, {}, 8, {}},
-        {"ab\ncd", 0, {L"ab", L"cd"}, 8, {L"ab\n", L"cd"}},
-        {"ab\r\n\r\nc\r", 0, {L"ab", L"", L"c\r"}, 8, {L"ab\n", L"\n", L"c\r"}},
-        {"ab\r\nc", CFile_E::typeBinary, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
-        {"ab\r\ncde\n", 0, {L"ab", L"cde"}, 3, {L"ab", L"\n", L"cd", L"e\n"}},
-        {"ab\r\nc", 0, {L"ab", L"c"}, 4, {L"ab\n", L"c"}},
-        {"ä中😀\nx", 0, {L"ä中😀", L"x"}, 3, {L"ä中", L"😀\n", L"x"}},
-        {"\uFEFFa\n", 0, {L"a"}, 8, {L"a\n"}},
-        {"a\xFF\n", 0, {L"a\uFFFD"}, 8, {L"a\uFFFD\n"}},
+    SetFileAttributes_E(Make("x", "locked"), FILE_ATTRIBUTE_READONLY);
+    const std::string endless(300, 'n');
+    const Row<const char*, UINT, Failure> opened[] = {
+        {"no", kRead, kMissing},
+        {"no/f", kRead, kNoFolder},
+        {"no/f", kWrite | kCreate, kNoFolder},
+        {"f/below", kWrite | kCreate, kNoFolder},
+        {".", kRead, kDenied},
+        {".", kWrite | kCreate, kDenied},
+        {"locked", kWrite, kDenied},
+        {"locked", kRead | kCreate, kDenied},
+        {endless.c_str(), kRead, {E::badPath, ERROR_FILENAME_EXCED_RANGE}},
     };
-    forRows(rows,
-            [&](const char* bytes, UINT type, const Lines& lines, UINT nMax, const Lines& pieces) {
-                CStdioFile_E file(Make(bytes), CFile_E::modeRead | type);
-                EXPECT_EQ(linesOf(file), lines);
-                file.SeekToBegin();
-                EXPECT_EQ(piecesOf(file, nMax), pieces);
-            });
+    forRows(opened, [&](const char* name, UINT mode, const Failure& failure) {
+        EXPECT_EQ(failureOf([&] { CFile_E file(Path(name), mode); }), failure);
+    });
+    EXPECT_EQ(failureOf([] { CFile_E file(nullptr, kRead); }), kNoFolder);
+    EXPECT_EQ(failureOf([&] { CFile_E::Remove(Path("no/f")); }), kNoFolder);
+    EXPECT_EQ(failureOf([&] { CFile_E::SetStatus(Path("no"), {}); }), kMissing);
+    EXPECT_EQ(failureOf([&] { CFile_E::Rename(Path(), Path("locked")); }),
+              Failure(E::accessDenied, ERROR_ALREADY_EXISTS));
+    EXPECT_EQ(Bytes() + Bytes("locked"), "xx");
+
+    CFile_E closed;
+    char c = 0;
+    const std::function<void()> uses[] = {
+        [&] { closed.Read(&c, 1); },       [&] { closed.Write(&c, 1); },
+        [&] { closed.GetLength(); },       [&] { closed.SeekToEnd(); },
+        [&] { closed.SetLength(1); },      [&] { closed.LockRange(0, 1); },
+        [&] { delete closed.Duplicate(); }};
+    for (const auto& use : uses)
+        EXPECT_EQ(failureOf(use), kClosed);
+    EXPECT_NO_THROW(closed.Flush());
 }
 
-TEST_F(FileTest, TextIsWrittenAsItStands)
+TEST_F(FileTest, TooManyOpenFiles)
 {
-    CStdioFile_E file(Path(), CFile_E::modeReadWrite | CFile_E::modeCreate);
-    file.WriteString(L"\u00e4\n\U0001F600\n");
-    EXPECT_THROW(file.WriteString(nullptr), CInvalidArgException_E*);
-    file.Flush();
-    EXPECT_EQ(Bytes(), "\u00e4\n\U0001F600\n");
-    wchar_t buffer[4];
-    file.SeekToBegin();
-    EXPECT_EQ(file.ReadString(nullptr, 4), nullptr);
-    EXPECT_EQ(file.ReadString(buffer, 0), nullptr);
-    ASSERT_EQ(file.ReadString(buffer, 1), buffer);
-    EXPECT_STREQ(buffer, L"");
-    EXPECT_EQ(file.GetPosition(), 0U);
+    rlimit limit;
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const CString_E path = Make("x");
+    const int lowest = ::dup(0);
+    ::close(lowest);
+    const rlimit low = {static_cast<rlim_t>(lowest), limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &low), 0);
+    const Failure failure = failureOf([&] { CFile_E file(path, kRead); });
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    EXPECT_EQ(failure, Failure(E::tooManyOpenFiles, ERROR_TOO_MANY_OPEN_FILES));
 }
 
-TEST(MemFile, GrowsAndReadsBack)
+TEST_F(FileTest, FullDisk)
 {
-    CMemFile_E file(3);
-    std::string expected;
-    for (int i = 0; i < 1000; ++i) {
-        const std::string piece = std::to_string(i);
-        file.Write(piece.data(), static_cast<UINT>(piece.size()));
-        expected += piece;
-    }
-    std::string actual(expected.size() + 5, '#');
-    file.SeekToBegin();
-    EXPECT_EQ(file.Read(actual.data(), static_cast<UINT>(actual.size())), expected.size());
-    EXPECT_EQ(actual.substr(0, expected.size()), expected);
-    file.SetLength(2);
-    EXPECT_EQ(file.Seek(2, CFile_E::end), 4U);
-    EXPECT_EQ(file.GetLength(), 2U);
-    file.Write("x", 1);
-    file.SeekToBegin();
-    EXPECT_EQ(file.Read(actual.data(), 9), 5U);
-    EXPECT_EQ(actual.substr(0, 5),
-              std::string("01\0\0x", 5)); // what was cut off does not come back
-    EXPECT_EQ(causeOf([&] { file.Seek(-6, CFile_E::current); }), CFileException_E::badSeek);
-    EXPECT_FALSE(file.Open(L"f", CFile_E::modeRead));
-    file.Close();
-    EXPECT_EQ(file.GetLength(), 0U);
+    CFile_E raw(L"/dev/full", kWrite);
+    EXPECT_EQ(failureOf([&] { raw.Write("x", 1); }), kFull);
+    CStdioFile_E text(L"/dev/full", kWrite);
+    text.WriteString(L"x");
+    EXPECT_EQ(failureOf([&] { text.Close(); }), kFull);
+    EXPECT_EQ(failureOf([&] { text.GetLength(); }), kClosed);
+
+    const QByteArray folder = VxQString(Path("small")).toUtf8();
+    ASSERT_TRUE(CreateDirectory_E(Path("small"), nullptr));
+    if (::mount("tmpfs", folder.constData(), "tmpfs", 0, "size=64k") != 0)
+        GTEST_SKIP() << "cannot mount a small file system";
+    const QByteArray block(40'000, 'b');
+    Make(block, "small/kept");
+    Make(QByteArray(40'000, 'n'), "new");
+    EXPECT_EQ(failureOf([&] { CFile_E(Path("small/f"), kWrite | kCreate).Write(block, 40'000); }),
+              kFull);
+    CFile_E::Remove(Path("small/f"));
+    EXPECT_FALSE(CopyFile_E(Path("new"), Path("small/kept"), FALSE));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_DISK_FULL));
+    EXPECT_EQ(failureOf([&] { CFile_E::Rename(Path("new"), Path("small/f")); }), kFull);
+    EXPECT_EQ(Bytes("new").size(), block.size());
+    EXPECT_EQ(Bytes("small/kept"), block);
+    EXPECT_EQ(QDir(VxQString(Path("small"))).count(),
+              3U); // with "." and "..": nothing is left over
+    CFile_E::Remove(Path("small/kept"));
+    CFile_E::Rename(Path("new"), Path("small/moved")); // to another file system
+    EXPECT_EQ(Bytes("small/moved").size(), block.size());
+    EXPECT_EQ(Bytes("new"), "<none>");
+    EXPECT_FALSE(MoveFileEx_E(Path("small/moved"), Path("back"), MOVEFILE_REPLACE_EXISTING));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_SAME_DEVICE));
+    ::umount(folder.constData());
 }
 
-TEST(MemFile, AttachedBlocks)
+TEST_F(FileTest, VanishedFileIsStillOpen)
 {
-    BYTE fixed[4] = {1, 2, 3, 4};
-    CMemFile_E file(fixed, 4);
-    EXPECT_EQ(file.GetLength(), 4U);
+    CFile_E file(Make("abc"), kBoth);
+    CFile_E::Remove(Path());
     file.SeekToEnd();
-    EXPECT_THROW(file.Write("x", 1), CMemoryException_E*);
-    file.Seek(-1, CFile_E::end);
-    file.Write("x", 1);
-    EXPECT_EQ(fixed[3], 'x');
-    EXPECT_EQ(file.Detach(), fixed);
+    file.Write("d", 1);
+    CFileStatus_E status;
+    EXPECT_FALSE(CFile_E::GetStatus(Path(), status));
+    EXPECT_TRUE(file.GetStatus(status));
+    EXPECT_EQ(status.m_size, 4U);
+}
 
-    file.Attach(static_cast<BYTE*>(std::malloc(2)), 2, 8);
-    EXPECT_EQ(file.GetLength(), 0U);
-    file.Write("abcdef", 6);
-    EXPECT_EQ(file.GetLength(), 6U);
-    BYTE* const pBlock = file.Detach();
-    EXPECT_EQ(std::memcmp(pBlock, "abcdef", 6), 0);
-    std::free(pBlock);
-    EXPECT_EQ(file.Detach(), nullptr);
+TEST_F(FileTest, Sharing)
+{
+    constexpr UINT none = F::shareDenyNone, noWrite = F::shareDenyWrite, noRead = F::shareDenyRead;
+    constexpr UINT exclusive = F::shareExclusive;
+    // the first opening, the second, whether that succeeds; the other way round it is the same
+    // clang-format off
+    const Row<UINT, UINT, bool> rows[] = {
+        {kRead | none, kRead | none, true}, {kBoth | none, kBoth | none, true},
+        {kWrite | none, kWrite | none, true}, {kRead | none, kWrite | none, true},
+        {kRead | noWrite, kRead | noWrite, true}, {kRead | noWrite, kRead | none, true},
+        {kRead | noWrite, kWrite | none, false}, {kRead | noWrite, kBoth | none, false},
+        {kWrite | noWrite, kRead | none, true}, {kWrite | noWrite, kWrite | none, false},
+        {kWrite | noRead, kWrite | none, true}, {kWrite | noRead, kRead | none, false},
+        {kRead | exclusive, kRead | none, false}, {kRead, kRead | none, false},
+        {kWrite | exclusive, kWrite | none, false},
+    };
+    // clang-format on
+    forRows(rows, [&](UINT first, UINT second, bool opens) {
+        for (int turn = 0; turn < 2; ++turn, std::swap(first, second)) {
+            auto pFile = std::make_unique<CFile_E>(Make("abc"), first);
+            const auto open = [&, mode = second] { CFile_E other(Path(), mode); };
+            EXPECT_EQ(failureOf(open), opens ? kNoFailure : kShared);
+            Failure elsewhere; // what another thread finds
+            std::thread([&] { elsewhere = failureOf(open); }).join();
+            EXPECT_EQ(elsewhere, opens ? kNoFailure : kShared);
+            pFile.reset();
+            EXPECT_EQ(failureOf(open), kNoFailure);
+        }
+    });
+}
+
+TEST_F(FileTest, SharingSeesOtherProcessesAndKeepsTheFile)
+{
+    CFile_E file(Make("abc"), kRead | F::shareDenyWrite);
+    const CString_E path = Path();
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(failureOf([&] { CFile_E other(path, kWrite | kCreate | F::shareDenyNone); }).first);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(WEXITSTATUS(status), static_cast<int>(E::sharingViolation));
+    EXPECT_EQ(failureOf([&] { CFile_E other(path, kRead | kCreate | F::shareDenyNone); }), kShared);
+    EXPECT_EQ(Bytes(), "abc");
+    const std::unique_ptr<CFile_E> pCopy(file.Duplicate());
+    file.Close();
+    EXPECT_EQ(failureOf([&] { CFile_E other(path, kWrite | F::shareDenyNone); }), kShared);
+    pCopy->Close();
+    EXPECT_EQ(failureOf([&] { CFile_E other(path, kWrite | F::shareDenyNone); }), kNoFailure);
+}
+
+TEST_F(FileTest, Ranges)
+{
+    constexpr ULONGLONG all = ~0ULL;
+    constexpr ULONGLONG far = 6ULL << 30U;
+    CFile_E first(Make("0123456789"), kBoth | F::shareDenyNone);
+    CFile_E second(Path(), kBoth | F::shareDenyNone);
+    first.LockRange(2, 3);
+    first.LockRange(far, 8);
+    first.LockRange(5, 0); // nothing
+    const Row<ULONGLONG, ULONGLONG, Failure> rows[] = {
+        {0, 2, kNoFailure}, {0, 3, kLocked},       {4, 1, kLocked},      {5, 1, kNoFailure},
+        {0, all, kLocked},  {far + 7, 1, kLocked}, {all, 1, kBadNumber}, {far + 8, 1, kNoFailure}};
+    forRows(rows, [&](ULONGLONG pos, ULONGLONG count, const Failure& expected) {
+        EXPECT_EQ(failureOf([&] { second.LockRange(pos, count); }), expected);
+        if (expected == kNoFailure)
+            second.UnlockRange(pos, count);
+    });
+    EXPECT_EQ(failureOf([&] { first.LockRange(4, 9); }), kLocked); // its own too
+    EXPECT_EQ(failureOf([&] { first.UnlockRange(2, 2); }).second, ERROR_NOT_LOCKED);
+    first.UnlockRange(2, 3);
+    second.LockRange(0, 5);
+    first.Close();
+    second.LockRange(5, all - 5);
+    EXPECT_EQ(failureOf([&] { CFile_E third(Path(), kBoth | F::shareDenyNone); }), kNoFailure);
+}
+
+TEST_F(FileTest, Status)
+{
+    CFileStatus_E status;
+    ASSERT_TRUE(CFile_E::GetStatus(Make("abc", ".h.txt"), status));
+    EXPECT_EQ(status.m_attribute, F::hidden);
+    EXPECT_EQ(status.m_size, 3U);
+    EXPECT_STREQ(status.m_szFullName, Path(".h.txt").GetString());
+    EXPECT_NEAR(static_cast<double>(status.m_ctime), static_cast<double>(std::time(nullptr)), 60);
+
+    status.m_attribute = F::readOnly;
+    status.m_mtime = 1'000'000'000;
+    status.m_atime = 0;
+    CFile_E::SetStatus(Path(".h.txt"), status);
+    CFileStatus_E changed;
+    ASSERT_TRUE(CFile_E(Path(".h.txt"), kRead).GetStatus(changed));
+    EXPECT_EQ(changed.m_mtime, 1'000'000'000);
+    EXPECT_GT(changed.m_atime, 1'500'000'000); // 0 leaves it
+    EXPECT_EQ(changed.m_attribute, F::readOnly | F::hidden);
+    EXPECT_EQ(changed.m_ctime, status.m_ctime);
+    status.m_attribute = F::normal;
+    CFile_E::SetStatus(Path(".h.txt"), status);
+    EXPECT_EQ(failureOf([&] { CFile_E file(Path(".h.txt"), kWrite); }), kNoFailure);
+
+    ASSERT_TRUE(CFile_E::GetStatus(CString_E(m_dir.path()), status));
+    EXPECT_EQ(status.m_attribute, F::directory);
+    EXPECT_FALSE(CFile_E::GetStatus(nullptr, status));
+    EXPECT_EQ(status.m_szFullName[0], L'\0');
 }
 
 } // namespace

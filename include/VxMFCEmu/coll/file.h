@@ -1,13 +1,21 @@
 /// @file file.h
-/// Files on disk, text files and files in memory.
+/// Files on disk.
 ///
-/// Failures throw a CFileException_E whose OS error is the `errno` of the call that failed; using a
-/// file that is not open throws one with the cause invalidFile. Only Open() reports by its result.
+/// Failures throw a CFileException_E: its OS error is the Win32 error number, its cause the one
+/// that OsErrorToException() gives for it, its name that of the file. Using a file that is not open
+/// throws one with the cause invalidFile. Only Open() and GetStatus() report by their results.
 ///
 /// File names may be separated by "/" or "\".
 ///
-/// Differs from Win32: the share flags are taken and not enforced, files are shared as the system
-/// shares them.
+/// Sharing: each open file carries open-file-description locks (`F_OFD_SETLK`) far beyond any data
+/// that tell what it does and what it forbids. They are seen by every process that opens files with
+/// this library, through CFile_E or CreateFile_E(), and go with the file; other programs do not
+/// notice them. A file system without locks is taken as it is.
+///
+/// Differs from Win32:
+/// - What is locked or not shared can still be read, written, deleted and renamed by other means.
+/// - Two processes that open a file at the same moment in ways that exclude each other may both be
+///   refused.
 ///
 /// Threads: a file is used by one thread at a time; any thread may have its own.
 #pragma once
@@ -15,37 +23,56 @@
 #include <VxMFCEmu/core/object.h>
 #include <VxMFCEmu/text/cstring.h>
 
-#include <QtCore/QIODevice>
+#include <ctime>
+#include <vector>
 
 class CFileException_E;
 class QFile;
 
+/// What is known of a file.
+///
+/// Differs from MFC: the times are seconds since 1970, 0 for none.
+struct VXMFC_EXPORT CFileStatus_E
+{
+    static constexpr std::size_t kMaxPath = 4096;
+
+    std::time_t m_ctime = 0; ///< of its making; of its last change where no such time is kept
+    std::time_t m_mtime = 0; ///< of the last writing
+    std::time_t m_atime = 0; ///< of the last reading
+    ULONGLONG m_size = 0;    ///< in bytes
+    BYTE m_attribute = 0;    ///< values of CFile_E::Attribute
+    wchar_t m_szFullName[kMaxPath] = {};
+};
+
 /// A file of bytes, unbuffered.
+///
+/// Its QFile is open on the same descriptor, for Qt functions that want one; the bytes of the
+/// members here pass it by.
 class VXMFC_EXPORT CFile_E : public CObject_E
 {
     Q_OBJECT
     DECLARE_DYNAMIC_E(CFile_E)
 
-    /// How Open() opens; one access mode, and any of the others.
+    /// How Open() opens; one access mode, one share mode, and any of the others.
     enum OpenFlags : UINT
     {
         modeRead = 0x0000,
         modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        shareCompat = 0x0000,
-        shareExclusive = 0x0010,
-        shareDenyWrite = 0x0020,
-        shareDenyRead = 0x0030,
+        shareCompat = 0x0000,    ///< as shareExclusive
+        shareExclusive = 0x0010, ///< nobody else opens it
+        shareDenyWrite = 0x0020, ///< nobody else opens it to write
+        shareDenyRead = 0x0030,  ///< nobody else opens it to read
         shareDenyNone = 0x0040,
         modeNoInherit = 0x0080,  ///< always so
         modeCreate = 0x1000,     ///< makes the file; one that is there is emptied
         modeNoTruncate = 0x2000, ///< with modeCreate: one that is there is kept
         typeText = 0x4000,
         typeBinary = 0x8000,
-        osNoBuffer = 0x10000,
-        osWriteThrough = 0x20000,
-        osRandomAccess = 0x40000,
-        osSequentialScan = 0x80000
+        osNoBuffer = 0x10000,      ///< ignored
+        osWriteThrough = 0x20000,  ///< writing returns when the bytes are on the disk
+        osRandomAccess = 0x40000,  ///< ignored
+        osSequentialScan = 0x80000 ///< ignored
     };
     /// What Seek() counts from.
     enum SeekPosition : UINT
@@ -54,8 +81,29 @@ class VXMFC_EXPORT CFile_E : public CObject_E
         current = 1,
         end = 2
     };
+    /// What CFileStatus_E::m_attribute is made of.
+    ///
+    /// Differs from Win32: a file is readOnly when nobody may write it, and hidden when its name
+    /// begins with a dot; the others but directory and device are never set.
+    enum Attribute : BYTE
+    {
+        normal = 0x00,
+        readOnly = 0x01,
+        hidden = 0x02,
+        system = 0x04,
+        volume = 0x08,
+        directory = 0x10,
+        archive = 0x20,
+        device = 0x40
+    };
+
+    /// What m_hFile is while no file is open.
+    static constexpr INT_PTR hFileNull = -1;
 
     CFile_E();
+    /// Works on an open descriptor, which stays open when the object is destroyed; Close() closes
+    /// it.
+    explicit CFile_E(INT_PTR hFile);
     /// Opens a file or throws a CFileException_E.
     CFile_E(const wchar_t* lpszFileName, UINT nOpenFlags);
     /// Closes the file, without an exception.
@@ -64,10 +112,16 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// Makes a closed QFile below @p pParent and attaches it as owned.
     BOOL AttachDefault(QObject* pParent) override;
 
-    /// Opens a file, closing one that is open. FALSE, filling @p pError if there is one, on
-    /// failure.
+    /// The handle for functions such as ReadFile_E(): the object itself, as long as it lives;
+    /// INVALID_HANDLE_VALUE while no file is open.
+    operator HANDLE() const;
+
+    /// Opens a file, closing one that it opened before. FALSE, filling @p pError if there is one, on
+    /// failure, with the Win32 error number as last error.
     virtual BOOL Open(const wchar_t* lpszFileName, UINT nOpenFlags,
                       CFileException_E* pError = nullptr);
+    /// A new object for the same open file, owned by the caller: position and locks are common.
+    virtual CFile_E* Duplicate() const;
     /// Reads up to @p nCount bytes and returns their number, fewer only at the end of the file.
     virtual UINT Read(void* lpBuf, UINT nCount);
     /// Writes @p nCount bytes.
@@ -79,6 +133,12 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     virtual ULONGLONG GetLength() const;
     /// Cuts or extends the file, with zeros, and moves to its new end.
     virtual void SetLength(ULONGLONG dwNewLen);
+    /// Locks a range, which may lie beyond the end; one that overlaps a locked one is a lock
+    /// violation. Differs from Win32: reading and writing do not look at locks, and a file opened
+    /// only for reading locks out only those that are not.
+    virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    /// Unlocks a range that is exactly one that was locked.
+    virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
     /// Hands what is buffered to the system.
     virtual void Flush();
     /// Closes the file; one that is not open is left alone.
@@ -98,103 +158,44 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// Sets what the three functions above tell.
     virtual void SetFilePath(const wchar_t* lpszNewName) { m_strFileName = lpszNewName; }
 
+    /// What is known of the open file.
+    virtual BOOL GetStatus(CFileStatus_E& rStatus) const;
+    /// What is known of a file or folder; FALSE, and everything empty, when there is none.
+    static BOOL GetStatus(const wchar_t* lpszFileName, CFileStatus_E& rStatus);
+    /// Sets attributes and, where they are not 0, the times of the last reading and writing.
+    /// Differs from Win32: of the attributes only readOnly can be set, and m_ctime cannot.
+    static void SetStatus(const wchar_t* lpszFileName, const CFileStatus_E& status);
     /// Deletes a file.
     static void Remove(const wchar_t* lpszFileName);
-    /// Renames or moves a file; there must be none of the new name.
+    /// Renames or moves a file or folder; there must be none of the new name.
     static void Rename(const wchar_t* lpszOldName, const wchar_t* lpszNewName);
 
+    /// Descriptor of the open file, hFileNull while there is none.
+    INT_PTR m_hFile = hFileNull;
+
 protected:
-    /// What Open() does, with @p extra added to the mode of the QFile.
-    BOOL OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_E* pError,
-                  QIODevice::OpenMode extra);
-    /// The open file; throws when there is none or it cannot be used for @p mode.
-    QFile& File(QIODevice::OpenMode mode = QIODevice::NotOpen) const;
-    [[noreturn]] void ThrowError(int nErrno) const;
+    /// The descriptor; throws when no file is open.
+    int Descriptor() const;
+    /// Throws for a Win32 error number, not for 0.
+    void Check(LONG lOsError) const;
+    /// Opens the file and gives back the Win32 error number, 0 for success.
+    LONG OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags);
+    /// Takes an open descriptor, closed at the end with @p bCloseOnDelete.
+    void Adopt(int fd, bool bCloseOnDelete);
+    /// Lets the descriptor go, which is closed unless somebody else does; the error of closing.
+    LONG ReleaseFile(bool bClose);
+    /// Binds @p pFile to another descriptor of the same file.
+    void DuplicateTo(CFile_E* pFile) const;
 
     CString_E m_strFileName;
+    bool m_bCloseOnDelete = false;
 
 private:
-    QFile* FileOrNull() const;
-};
-
-/// A file of UTF-8 text lines, buffered.
-///
-/// With typeText, and without typeBinary, "\r\n" is read as "\n". Differs from Win32: "\n" is
-/// written as it stands; a byte order mark at the start of the file is skipped by the reading of
-/// strings.
-class VXMFC_EXPORT CStdioFile_E : public CFile_E
-{
-    Q_OBJECT
-    DECLARE_DYNAMIC_E(CStdioFile_E)
-
-    CStdioFile_E();
-    /// Opens a file or throws a CFileException_E.
-    CStdioFile_E(const wchar_t* lpszFileName, UINT nOpenFlags);
-    ~CStdioFile_E() override;
-
-    BOOL Open(const wchar_t* lpszFileName, UINT nOpenFlags,
-              CFileException_E* pError = nullptr) override;
-
-    /// Reads up to @p nMax - 1 characters, up to the end of the line with its "\n", and terminates
-    /// them. Null at the end of the file and for a null or empty buffer, otherwise @p lpsz.
-    virtual wchar_t* ReadString(wchar_t* lpsz, UINT nMax);
-    /// Reads a line without its end; FALSE, and empty, at the end of the file.
-    virtual BOOL ReadString(CString_E& rString);
-    /// Writes text; null throws the invalid-argument exception.
-    virtual void WriteString(const wchar_t* lpsz);
-
-private:
-    QByteArray ReadLine(qint64 nMaxBytes);
-
-    bool m_bText = true;
-};
-
-/// A file in a block of memory that grows as it is written.
-///
-/// Its QFile only stands for it and is never opened.
-class VXMFC_EXPORT CMemFile_E : public CFile_E
-{
-    Q_OBJECT
-    DECLARE_DYNAMIC_E(CMemFile_E)
-
-    /// Starts empty and grows in steps of @p nGrowBytes bytes.
-    explicit CMemFile_E(UINT nGrowBytes = 1024);
-    /// Works on the caller's block; see Attach().
-    CMemFile_E(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
-    /// Frees the block, unless it was attached.
-    ~CMemFile_E() override;
-
-    using CFile_E::Attach;
-    /// Takes a block in place of the present one. With @p nGrowBytes 0 its bytes are the file, and
-    /// it cannot grow; otherwise the file is empty, and the block must come from `malloc`, for it
-    /// may be moved. Either way it is owned by the caller, who gets it back from Detach().
-    void Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
-    /// Closes the file and returns its block, owned by the caller (`free`); null when there is
-    /// none.
-    BYTE* Detach();
-
-    /// Differs from a file on disk: always FALSE, a file in memory is open without it.
-    BOOL Open(const wchar_t* lpszFileName, UINT nOpenFlags,
-              CFileException_E* pError = nullptr) override;
-    UINT Read(void* lpBuf, UINT nCount) override;
-    /// Throws the memory exception when the block cannot grow.
-    void Write(const void* lpBuf, UINT nCount) override;
-    ULONGLONG Seek(LONGLONG lOff, UINT nFrom) override;
-    ULONGLONG GetPosition() const override { return m_nPosition; }
-    ULONGLONG GetLength() const override { return m_nFileSize; }
-    void SetLength(ULONGLONG dwNewLen) override;
-    void Flush() override {}
-    /// Lets the block go and starts empty.
-    void Close() override;
-    void Abort() override { Close(); }
-
-private:
-    void GrowFile(std::size_t nNewSize);
-
-    BYTE* m_lpBuffer = nullptr;
-    std::size_t m_nBufferSize = 0;
-    std::size_t m_nFileSize = 0;
-    std::size_t m_nPosition = 0;
-    UINT m_nGrowBytes;
-    bool m_bAutoDelete = true;
+    struct Range
+    {
+        ULONGLONG first;
+        ULONGLONG count;
+    };
+    std::vector<Range> m_ranges; // what is locked
+    mutable bool m_bIsHandle = false;
 };

@@ -1,12 +1,17 @@
 /// @file filehandle.h
-/// Handles of files.
+/// Files by handle.
+///
+/// Failure is FALSE, or the value that is stated, with the Win32 error number as last error. What
+/// is no handle of an open file, a closed one too, is ERROR_INVALID_HANDLE.
 ///
 /// Differs from Win32: a file handle is a CFile_E*, to be closed with CloseHandle_E(); events,
-/// mutexes and semaphores are closed with VxCloseHandle().
+/// mutexes and semaphores are closed with VxCloseHandle(). Nothing is done in the background: the
+/// record for overlapped work only says where in the file.
 ///
 /// Threads: any; a file is used by one thread at a time.
 #pragma once
 
+#include <VxMFCEmu/coll/fileattributes.h>
 #include <VxMFCEmu/sys/securityattributes.h>
 
 inline constexpr DWORD GENERIC_READ = 0x80000000;
@@ -24,19 +29,85 @@ inline constexpr DWORD OPEN_EXISTING = 3;
 inline constexpr DWORD OPEN_ALWAYS = 4;
 inline constexpr DWORD TRUNCATE_EXISTING = 5;
 
+inline constexpr DWORD FILE_FLAG_WRITE_THROUGH = 0x80000000;
+
+inline constexpr DWORD FILE_BEGIN = 0;
+inline constexpr DWORD FILE_CURRENT = 1;
+inline constexpr DWORD FILE_END = 2;
+
+inline constexpr DWORD INVALID_SET_FILE_POINTER = 0xFFFFFFFF;
+inline constexpr DWORD INVALID_FILE_SIZE = 0xFFFFFFFF;
+
 /// What CreateFile_E() returns on failure.
 inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(INT_PTR{-1});
 
+/// A number of 64 bits and its halves.
+union _LARGE_INTEGER
+{
+    __extension__ struct
+    {
+        DWORD LowPart;
+        LONG HighPart;
+    };
+    struct
+    {
+        DWORD LowPart;
+        LONG HighPart;
+    } u;
+    LONGLONG QuadPart;
+};
+using LARGE_INTEGER = _LARGE_INTEGER;
+using PLARGE_INTEGER = _LARGE_INTEGER*;
+
+/// Where in the file to read or write.
+struct _OVERLAPPED
+{
+    ULONG_PTR Internal;
+    ULONG_PTR InternalHigh;
+    DWORD Offset;
+    DWORD OffsetHigh;
+    HANDLE hEvent;
+};
+using OVERLAPPED = _OVERLAPPED;
+using LPOVERLAPPED = _OVERLAPPED*;
+
 /// Opens or makes a file and returns a CFile_E*, owned by the caller until CloseHandle_E();
-/// INVALID_HANDLE_VALUE on failure, with the system's error number as last error. After
-/// CREATE_ALWAYS and OPEN_ALWAYS the last error is ERROR_ALREADY_EXISTS when the file was there
-/// before, otherwise success leaves 0.
+/// INVALID_HANDLE_VALUE on failure. After CREATE_ALWAYS and OPEN_ALWAYS the last error is
+/// ERROR_ALREADY_EXISTS when the file was there before, otherwise success leaves 0. Sharing is
+/// as in file.h.
 ///
-/// Differs from Win32: share mode, attributes, flags and template are ignored; without any access
-/// the file is opened for reading; folders cannot be opened.
+/// Differs from Win32: of attributes and flags only FILE_ATTRIBUTE_READONLY, for a file that is
+/// made, and FILE_FLAG_WRITE_THROUGH count; the template is ignored; without any access the file is
+/// opened for reading, whatever others forbid; folders cannot be opened (ERROR_ACCESS_DENIED).
 VXMFC_EXPORT HANDLE CreateFile_E(LPCWSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShareMode,
                                  LPSECURITY_ATTRIBUTES pAttributes, DWORD dwCreationDisposition,
                                  DWORD dwFlagsAndAttributes, HANDLE hTemplateFile);
-/// Closes a file and deletes its CFile_E. FALSE for null and INVALID_HANDLE_VALUE, otherwise TRUE,
-/// also when the closing fails. The handle must come from CreateFile_E().
+/// Closes a file and deletes its CFile_E; one that is the caller's own object is closed only. TRUE
+/// also when the closing fails.
 VXMFC_EXPORT BOOL CloseHandle_E(HANDLE hFile);
+
+/// Reads up to a number of bytes and stores how many, fewer only at the end of the file: 0 behind
+/// it, which is FALSE with ERROR_HANDLE_EOF when @p lpOverlapped says where to read.
+VXMFC_EXPORT BOOL ReadFile_E(HANDLE hFile, LPVOID lpBuffer, DWORD nNumberOfBytesToRead,
+                             LPDWORD lpNumberOfBytesRead, LPOVERLAPPED lpOverlapped);
+/// Writes bytes and stores how many, also on failure.
+VXMFC_EXPORT BOOL WriteFile_E(HANDLE hFile, LPCVOID lpBuffer, DWORD nNumberOfBytesToWrite,
+                              LPDWORD lpNumberOfBytesWritten, LPOVERLAPPED lpOverlapped);
+/// Moves the position and returns its lower half, storing the upper one. INVALID_SET_FILE_POINTER
+/// on failure; the position may end with these bits as well, then the last error is NO_ERROR.
+/// Without
+/// @p lpDistanceToMoveHigh the distance is signed, and a position beyond 32 bits is
+/// ERROR_INVALID_PARAMETER.
+VXMFC_EXPORT DWORD SetFilePointer_E(HANDLE hFile, LONG lDistanceToMove, PLONG lpDistanceToMoveHigh,
+                                    DWORD dwMoveMethod);
+/// Moves the position and stores it, if @p lpNewFilePointer is given.
+VXMFC_EXPORT BOOL SetFilePointerEx_E(HANDLE hFile, LARGE_INTEGER liDistanceToMove,
+                                     PLARGE_INTEGER lpNewFilePointer, DWORD dwMoveMethod);
+/// The lower half of the length, storing the upper one; INVALID_FILE_SIZE on failure; the length
+/// may end with these bits as well, then the last error is NO_ERROR.
+VXMFC_EXPORT DWORD GetFileSize_E(HANDLE hFile, LPDWORD lpFileSizeHigh);
+VXMFC_EXPORT BOOL GetFileSizeEx_E(HANDLE hFile, PLARGE_INTEGER lpFileSize);
+/// Cuts or extends the file to the position.
+VXMFC_EXPORT BOOL SetEndOfFile_E(HANDLE hFile);
+/// Returns when what was written is on the disk: ERROR_ACCESS_DENIED for a file that is only read.
+VXMFC_EXPORT BOOL FlushFileBuffers_E(HANDLE hFile);

@@ -2,7 +2,7 @@
 /// The last-error code and the texts of system messages.
 ///
 /// Differs from Win32: the last error is the thread's `errno` itself, so every libc call may change
-/// it and its values are libc's. System messages have one fixed form.
+/// it; only functions that say so store Win32 numbers. System messages have one fixed form.
 ///
 /// Threads: any.
 #pragma once

@@ -1,0 +1,56 @@
+// What the tests of files share: a folder of their own, and what an exception says.
+#pragma once
+
+#include "support/test.h"
+
+#include <QtCore/QTemporaryDir>
+
+namespace vxtest {
+
+/// Cause and Win32 error number of a file exception; {-1, -1} for none.
+using Failure = std::pair<int, LONG>;
+inline constexpr Failure kNoFailure{-1, -1};
+
+/// The file exception that @p work throws.
+template <typename Work>
+Failure failureOf(Work work)
+{
+    try {
+        work();
+    } catch (CFileException_E* e) {
+        const Failure failure(e->m_cause, e->m_lOsError);
+        e->Delete();
+        return failure;
+    }
+    return kNoFailure;
+}
+
+class FileTest : public testing::Test
+{
+protected:
+    CString_E Path(const char* name = "f") const
+    {
+        return CString_E(m_dir.filePath(QString::fromUtf8(name)));
+    }
+    CString_E Make(const QByteArray& bytes, const char* name = "f") const
+    {
+        QFile file{VxQString(Path(name))};
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return Path(name);
+    }
+    QByteArray Bytes(const char* name = "f") const
+    {
+        QFile file{VxQString(Path(name))};
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
+    }
+
+    QTemporaryDir m_dir;
+};
+
+} // namespace vxtest
+
+using vxtest::Failure;
+using vxtest::failureOf;
+using vxtest::FileTest;
+using vxtest::kNoFailure;
