@@ -136,7 +136,12 @@ TEST(PortingExtras, CommandsReachTheWindow)
     button.click();
     EXPECT_EQ(bar.m_nDefaults, 1);
     bar.m_bGrid = TRUE;
-    EXPECT_TRUE(vxtest::waitUntil([&] { return action.isChecked(); }));
+    EXPECT_TRUE(vxtest::waitUntil([&] {
+        QEventLoop loop; // which waits for events, so that the window gets its idle time
+        QTimer::singleShot(10, &loop, &QEventLoop::quit);
+        loop.exec();
+        return action.isChecked();
+    }));
     action.trigger();
     EXPECT_FALSE(bar.m_bGrid);
 }
