@@ -3,11 +3,15 @@
 #   scripts/setup.sh           what building, testing and measuring need
 #   scripts/setup.sh --lint    what scripts/lint.sh needs as well
 #   scripts/setup.sh --fuzz    what scripts/fuzz.sh needs as well
+#   scripts/setup.sh --clang   what scripts/test.sh --clang needs as well
 set -euo pipefail
 
 packages=(
   ccache
   cmake
+  dpkg-dev
+  fakeroot
+  file
   fonts-dejavu-core
   g++
   git
@@ -32,6 +36,9 @@ lint_packages=(
   clang-format
   clang-tidy
 )
+clang_packages=(
+  clang
+)
 fuzz_packages=(
   clang
   libclang-rt-dev
@@ -40,9 +47,10 @@ fuzz_packages=(
 case "${1-}" in
   '') ;;
   --lint) packages+=("${lint_packages[@]}") ;;
+  --clang) packages+=("${clang_packages[@]}") ;;
   --fuzz) packages+=("${fuzz_packages[@]}") ;;
   *)
-    echo "usage: scripts/setup.sh [--lint | --fuzz]" >&2
+    echo "usage: scripts/setup.sh [--lint | --fuzz | --clang]" >&2
     exit 2
     ;;
 esac
