@@ -139,7 +139,7 @@ void CChurnWnd::Draw()
     CBitmap_E* const pOldBitmap = dc.SelectObject(&bitmap);
     CFont_E font;
     font.CreateFont(12, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, 0, 0, 0, 0, 0, L"DejaVu Sans");
-    CFont_E* const pOldFont = dc.SelectObject(&font);
+    const QFont oldFont = dc.SelectObject(&font);
     for (int i = 0; i < 20; ++i) {
         CPen_E pen(PS_SOLID, 1 + i % 3, RGB(i * 12, 0, 80));
         CPen_E* const pOldPen = dc.SelectObject(&pen);
@@ -148,7 +148,7 @@ void CChurnWnd::Draw()
         dc.SelectObject(pOldPen);
     }
     dc.TextOut(4, 4, L"churn", 5);
-    dc.SelectObject(pOldFont);
+    dc.SelectObject(oldFont);
     dc.SelectObject(pOldBitmap);
 }
 

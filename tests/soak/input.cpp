@@ -10,9 +10,9 @@ namespace soak {
 namespace {
 
 constexpr unsigned long kKeys[] = {
-    XK_a,     XK_b,      XK_Z,         XK_1,      XK_5,      XK_space, XK_period, XK_adiaeresis,
-    XK_Tab,   XK_Return, XK_Left,      XK_Right,  XK_Up,     XK_Down,  XK_Home,   XK_End,
-    XK_Prior, XK_Next,   XK_BackSpace, XK_Delete, XK_Escape, XK_F2,    XK_F5,     XK_Menu};
+    XK_a,      XK_b,         XK_Z,      XK_1,      XK_5,    XK_space, XK_period, XK_Tab,
+    XK_Return, XK_Left,      XK_Right,  XK_Up,     XK_Down, XK_Home,  XK_End,    XK_Prior,
+    XK_Next,   XK_BackSpace, XK_Delete, XK_Escape, XK_F2,   XK_F5,    XK_Menu};
 // Not those that close or hide the host's own window.
 constexpr unsigned long kKeysWithControl[] = {XK_a, XK_c, XK_v, XK_x, XK_z, XK_Home, XK_End};
 

@@ -104,7 +104,7 @@ bool Soak::run()
     for (const QString& plugin : m_options.values(QStringLiteral("load")))
         arguments << QStringLiteral("--load") << plugin;
     m_host.start(m_options.value(QStringLiteral("host")), arguments);
-    m_window = m_report.waitFor(QStringLiteral("ready")).hasMatch()
+    m_window = m_host.waitForStarted() && m_report.waitFor(QStringLiteral("ready")).hasMatch()
                    ? vxtest::findWindow("Emulation demo")
                    : 0;
     if (!check(m_window, "the host is ready"))
@@ -116,13 +116,14 @@ bool Soak::run()
 
     m_clock.start();
     bool going = true;
-    while (going && m_clock.elapsed() < seconds * 1000) {
+    while (going && !m_clock.hasExpired(static_cast<qint64>(seconds * 1000))) {
         going = round(user, settings, controls);
         click(clear); // the list of reports is meant to grow
         vxtest::waitUntil([] { return false; }, 100);
         m_samples.push_back(soak::sampleOf(m_host.processId(), double(m_clock.elapsed()) / 1000));
     }
-    check(going, "all windows could be closed, and the host ran on");
+    if (!check(going, "all windows could be closed, and the host ran on"))
+        vxtest::screenshot().save(m_options.value(QStringLiteral("screenshot")));
     vxtest::closeWindow(m_window);
     const bool ended =
         vxtest::waitUntil([this] { return m_host.state() == QProcess::NotRunning; }, kLimitMs);
@@ -130,6 +131,9 @@ bool Soak::run()
         m_host.kill();
     m_host.waitForFinished();
     m_complaints += m_host.readAllStandardError();
+    std::printf("soak: the host %s with %d\n",
+                m_host.exitStatus() == QProcess::NormalExit ? "ended" : "crashed",
+                m_host.exitCode());
     std::fputs(m_complaints.constData(), stderr);
     const bool well = m_host.exitStatus() == QProcess::NormalExit && m_host.exitCode() == 0;
     return check(ended && well, "the host ended well") &
@@ -178,7 +182,7 @@ int main(int argc, char** argv)
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     QCoreApplication app(argc, argv);
     QCommandLineParser options;
-    for (const char* name : {"host", "load", "seconds", "seed"})
+    for (const char* name : {"host", "load", "seconds", "seed", "screenshot"})
         options.addOption({QLatin1String(name), QString(), QStringLiteral("value")});
     options.addOption({QStringLiteral("instrumented"), QStringLiteral("Growth is no fault.")});
     options.process(app);
@@ -187,8 +191,10 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "vxsoak: no X display\n");
         return 2;
     }
-    // Settings of the user are neither read nor changed.
+    // Settings of the user are neither read nor changed; without a folder for its files Qt
+    // complains.
     QTemporaryDir scratch;
-    qputenv("XDG_CONFIG_HOME", scratch.path().toLocal8Bit());
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, scratch.path().toLocal8Bit());
     return Soak(options, scratch).run() ? 0 : 1;
 }
