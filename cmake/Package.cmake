@@ -9,18 +9,16 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_PACKAGE_CONTACT "VxMFCEmu developers <vxmfcemu@localhost>" CACHE STRING "Maintainer of the packages")
-set(CPACK_PACKAGE_DESCRIPTION "Sources written against MFC and Win32 find the classes and functions that they
-call, carried out with Qt 5.")
+set(about "Sources written against MFC and Win32 find the classes and functions that they call,
+carried out with Qt 5. This package holds")
 
 set(runtime "libvxmfcemu${PROJECT_VERSION_MAJOR}")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "${runtime}")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${PROJECT_DESCRIPTION}: shared library\\n${CPACK_PACKAGE_DESCRIPTION}")
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "${PROJECT_DESCRIPTION} (shared library)
+${about} what programs run with.")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
-# The loader's cache is renewed once for all packages of an installation.
-file(WRITE "${PROJECT_BINARY_DIR}/debian/triggers" "activate-noawait ldconfig\n")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_BINARY_DIR}/debian/triggers")
 find_program(VXMFC_SHLIBDEPS dpkg-shlibdeps)
 if(VXMFC_SHLIBDEPS)
   set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
@@ -32,8 +30,8 @@ endif()
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libvxmfcemu-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
-  "${PROJECT_DESCRIPTION}: development files\\n${CPACK_PACKAGE_DESCRIPTION}")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "${PROJECT_DESCRIPTION} (development files)
+${about} what is needed to build programs.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15)")
 
 include(CPack)

@@ -26,8 +26,15 @@ development=$(echo "$scratch"/packages/libvxmfcemu-dev_"$version"_*.deb)
 
 # What is already there meets the dependencies, if it does; but our own packages are not.
 awk -v RS= -v ORS='\n\n' '!/^Package: libvxmfcemu/' /var/lib/dpkg/status >"$root/var/lib/dpkg/status"
+for list in /var/lib/dpkg/info/*.list; do
+  [[ $list = */libvxmfcemu* ]] || : >"$root/var/lib/dpkg/info/${list##*/}"
+done
+# The package's script renews the loader's cache; that of this machine is left alone.
+mkdir "$scratch/bin"
+printf '#!/bin/sh\necho called >>"%s"\n' "$scratch/ldconfig.log" >"$scratch/bin/ldconfig"
+chmod +x "$scratch/bin/ldconfig"
 package() {
-  fakeroot dpkg --root="$root" --force-not-root --force-script-chrootless --log=/dev/null "$@"
+  PATH="$scratch/bin:/usr/sbin:/sbin:$PATH" fakeroot dpkg --root="$root" --force-not-root --force-script-chrootless --log=/dev/null "$@"
 }
 
 if package --install "$development" >"$scratch/alone.log" 2>&1; then
@@ -37,8 +44,12 @@ grep -q "depends on libvxmfcemu1 (= $version)" "$scratch/alone.log" || {
   cat "$scratch/alone.log" >&2
   fail "the development package does not ask for the library's of its version"
 }
-package --purge libvxmfcemu-dev >/dev/null
-package --install "$runtime" "$development"
+package --purge libvxmfcemu-dev >/dev/null 2>&1
+package --install "$runtime" "$development" >"$scratch/install.log" 2>&1 || {
+  cat "$scratch/install.log" >&2
+  fail "the packages cannot be installed"
+}
+[ -s "$scratch/ldconfig.log" ] || fail "the loader is not told of the library"
 
 # Each file in the package of those who need it.
 listed() { package --listfiles "$1" | sort; }
@@ -50,6 +61,6 @@ wrong=$(listed libvxmfcemu-dev | grep -E '\.so\.' || true)
 [ -z "$wrong" ] || fail "needed to run programs:"$'\n'"$wrong"
 
 depends=$(dpkg-deb --field "$runtime" Depends)
-for library in libqt5core5a libqt5widgets5 libqt5printsupport5 libx11-6 libc6; do
+for library in libqt5core5a libqt5widgets5 libx11-6 libc6; do
   grep -q "$library" <<<"$depends" || fail "libvxmfcemu1 does not depend on $library: $depends"
 done
