@@ -92,7 +92,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("build", type=lambda text: pathlib.Path(text).resolve())
     parser.add_argument("--lines", action="store_true")
-    parser.add_argument("folders", nargs="*", choices=[*FOLDERS, []])
+    parser.add_argument("folders", nargs="*")
     arguments = parser.parse_args()
     report(collect(arguments.build), arguments.lines, arguments.folders)
 

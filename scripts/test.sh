@@ -36,6 +36,6 @@ for preset in "${presets[@]}"; do
     failed+=("$preset")
 done
 [ "${#failed[@]}" -eq 0 ] || {
-  echo "test: failures in build/${failed[*]}" >&2
+  echo "test: failures under: ${failed[*]}" >&2
   exit 1
 }
