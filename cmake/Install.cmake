@@ -1,10 +1,12 @@
-# Install rules, CMake package and pkg-config file.
+# Install rules, CMake package and pkg-config file. There are two components: what programs run with,
+# and what is needed to build them.
 include(CMakePackageConfigHelpers)
 
 set(VXMFC_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/VxMFCEmu")
 
 install(TARGETS VxMFCEmu EXPORT VxMFCEmuTargets
-  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/VxMFCEmu" "${PROJECT_BINARY_DIR}/include/VxMFCEmu"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
 install(EXPORT VxMFCEmuTargets NAMESPACE VxMFCEmu:: DESTINATION "${VXMFC_PACKAGE_DIR}")
@@ -21,3 +23,5 @@ file(RELATIVE_PATH VXMFC_PREFIX_FROM_PC "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/"
 string(REGEX REPLACE "/$" "" VXMFC_PREFIX_FROM_PC "${VXMFC_PREFIX_FROM_PC}")
 configure_file("${PROJECT_SOURCE_DIR}/cmake/VxMFCEmu.pc.in" "${PROJECT_BINARY_DIR}/VxMFCEmu.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/VxMFCEmu.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+include("${PROJECT_SOURCE_DIR}/cmake/Package.cmake")

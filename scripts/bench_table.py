@@ -16,10 +16,11 @@ BEGIN = "<!-- table: written by scripts/bench.sh --write -->"
 END = "<!-- end of table -->"
 PLATFORMS = ("xcb", "offscreen")
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
+MEMORY = "KiB"  # a counter of this name makes a row of its own
 
 
 def medians(folder):
-    """Median time in nanoseconds of each row of a platform, in the order in which the binaries have them."""
+    """Median of each row of a platform, in the order in which the binaries have them: nanoseconds, or KiB."""
     times = {}
     for path in sorted(folder.glob("*.json")):
         text = path.read_text()
@@ -30,6 +31,8 @@ def medians(folder):
                 sys.exit(f"{path.name}: {row['name']}: {row.get('error_message', 'failed')}")
             if row.get("aggregate_name") == "median":
                 times[row["run_name"]] = row["real_time"] * NANOSECONDS[row["time_unit"]]
+                if MEMORY in row:
+                    times[f"{row['run_name']} {MEMORY}"] = row[MEMORY]
     return times
 
 
@@ -39,11 +42,13 @@ def raw_name(name):
     return head + "_raw" + slash + arguments
 
 
-def show(nanoseconds):
+def show(name, value):
+    if name.endswith(f" {MEMORY}"):
+        return f"{value:.0f} {MEMORY}"
     for unit, size in (("ms", 1e6), ("µs", 1e3)):
-        if nanoseconds >= size:
-            return f"{nanoseconds / size:.3g} {unit}"
-    return f"{nanoseconds:.3g} ns"
+        if value >= size:
+            return f"{value / size:.3g} {unit}"
+    return f"{value:.3g} ns"
 
 
 def table(results):
@@ -57,8 +62,8 @@ def table(results):
         cells = [name]
         for platform in PLATFORMS:
             time, raw = platforms[platform].get(name), platforms[platform].get(raw_name(name))
-            cells.append(show(time) if time is not None else "")
-            cells.append(show(raw) if raw is not None else "")
+            cells.append(show(name, time) if time is not None else "")
+            cells.append(show(name, raw) if raw is not None else "")
             cells.append(f"{time / raw:.2f}" if time is not None and raw else "")
         rows.append(tuple(cells))
     return rows

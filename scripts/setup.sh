@@ -3,12 +3,16 @@
 #   scripts/setup.sh           what building, testing and measuring need
 #   scripts/setup.sh --lint    what scripts/lint.sh needs as well
 #   scripts/setup.sh --fuzz    what scripts/fuzz.sh needs as well
+#   scripts/setup.sh --clang   what scripts/test.sh --clang needs as well
 #   scripts/setup.sh --docs    what scripts/docs.sh needs, and no more
 set -euo pipefail
 
 packages=(
   ccache
   cmake
+  dpkg-dev
+  fakeroot
+  file
   fonts-dejavu-core
   g++
   git
@@ -33,6 +37,9 @@ lint_packages=(
   clang-format
   clang-tidy
 )
+clang_packages=(
+  clang
+)
 fuzz_packages=(
   clang
   libclang-rt-dev
@@ -44,10 +51,11 @@ docs_packages=(
 case "${1-}" in
   '') ;;
   --lint) packages+=("${lint_packages[@]}") ;;
+  --clang) packages+=("${clang_packages[@]}") ;;
   --fuzz) packages+=("${fuzz_packages[@]}") ;;
   --docs) packages=("${docs_packages[@]}") ;;
   *)
-    echo "usage: scripts/setup.sh [--lint | --fuzz | --docs]" >&2
+    echo "usage: scripts/setup.sh [--lint | --fuzz | --clang | --docs]" >&2
     exit 2
     ;;
 esac

@@ -7,6 +7,8 @@
 #include <dlfcn.h>
 
 #include <cstdio>
+#include <list>
+#include <memory>
 
 namespace {
 
@@ -21,22 +23,47 @@ void* requireSymbol(void* plugin, const char* name)
     return symbol;
 }
 
-int runWithPlugin(const QString& path, const QString& report)
+/// A loaded plug-in; unloaded with its object.
+class Plugin
 {
-    void* const plugin = dlopen(path.toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
-    if (!plugin) {
-        std::fprintf(stderr, "vxdemo_host: %s\n", dlerror());
-        return 2;
+public:
+    bool load(const QString& path, const QString& report)
+    {
+        m_module.reset(dlopen(path.toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL));
+        if (!m_module) {
+            std::fprintf(stderr, "vxdemo_host: %s\n", dlerror());
+            return false;
+        }
+        const auto load = reinterpret_cast<LoadFn>(requireSymbol(m_module.get(), "VxDemoLoad"));
+        const auto unload =
+            reinterpret_cast<UnloadFn>(requireSymbol(m_module.get(), "VxDemoUnload"));
+        if (!load || !unload || !load(report.toStdWString().c_str()))
+            return false;
+        m_unload = unload;
+        return true;
     }
-    const auto load = reinterpret_cast<LoadFn>(requireSymbol(plugin, "VxDemoLoad"));
-    const auto unload = reinterpret_cast<UnloadFn>(requireSymbol(plugin, "VxDemoUnload"));
-    int result = 2;
-    if (load && unload && load(report.toStdWString().c_str())) {
-        result = QApplication::exec();
-        unload();
+
+    ~Plugin()
+    {
+        if (m_unload)
+            m_unload();
     }
-    dlclose(plugin);
-    return result;
+
+    Plugin() = default;
+    Q_DISABLE_COPY_MOVE(Plugin)
+
+private:
+    std::unique_ptr<void, int (*)(void*)> m_module{nullptr, &dlclose};
+    UnloadFn m_unload = nullptr;
+};
+
+int runWithPlugins(const QStringList& paths, const QString& report)
+{
+    std::list<Plugin> plugins;
+    for (const QString& path : paths)
+        if (!plugins.emplace_back().load(path, report))
+            return 2;
+    return QApplication::exec();
 }
 
 } // namespace
@@ -49,7 +76,8 @@ int main(int argc, char** argv)
 
     QCommandLineParser options;
     options.addHelpOption();
-    const QCommandLineOption plugin(QStringLiteral("load"), QStringLiteral("The plug-in to load."),
+    const QCommandLineOption plugin(QStringLiteral("load"),
+                                    QStringLiteral("A plug-in to load; may be repeated."),
                                     QStringLiteral("so"));
     const QCommandLineOption report(QStringLiteral("report"),
                                     QStringLiteral("Where the plug-in writes what it handled."),
@@ -59,5 +87,5 @@ int main(int argc, char** argv)
 
     CTolmMainFrame frame;
     frame.show();
-    return runWithPlugin(options.value(plugin), options.value(report));
+    return runWithPlugins(options.values(plugin), options.value(report));
 }

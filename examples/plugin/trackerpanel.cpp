@@ -326,6 +326,7 @@ void CTrackerPanel::ReportReady()
     WriteGeometry(L"plot", m_wndPlot);
     WriteGeometry(L"tracker", m_wndTracker);
     WriteGeometry(L"post", GetDlgItem(IDC_POST, nullptr));
+    WriteGeometry(L"clear", GetDlgItem(IDC_CLEAR, nullptr));
     WriteGeometry(L"settings", GetDlgItem(IDC_SETTINGS, nullptr));
     WriteGeometry(L"controls", GetDlgItem(IDC_CONTROLS, nullptr));
     WriteGeometry(L"save", GetDlgItem(IDC_SAVE, nullptr));

@@ -12,7 +12,7 @@ fail() {
 }
 
 soname=$(readelf -d "$library" | sed -n 's/.*SONAME.*\[\(.*\)\]/\1/p')
-[ "$soname" = libVxMFCEmu.so.0 ] || fail "soname is '$soname'"
+[ "$soname" = libVxMFCEmu.so.1 ] || fail "soname is '$soname'"
 [ -e "$1/$soname" ] || fail "$soname is not installed"
 # shellcheck disable=SC2016 # the loader expands it
 if readelf -d "$library" | grep -E 'R(UN)?PATH' | grep -vF '[$ORIGIN]'; then
