@@ -40,7 +40,8 @@ BOOL ReleaseSemaphore(HANDLE hSemaphore, int lReleaseCount, long* lpPreviousCoun
     auto* const pSemaphore = vx::detail::objectOf<SemaphoreObject>(hSemaphore);
     if (!pSemaphore || lReleaseCount < 1)
         return FALSE;
-    const long nCount = pSemaphore->count.atMost();
+    // Waiters may for a moment have taken more units than are counted.
+    const long nCount = std::max(0L, pSemaphore->count.atMost());
     const long nRoom = pSemaphore->nMaximum - lReleaseCount;
     if (nCount > nRoom && pSemaphore->count.atLeast() > nRoom)
         return FALSE;
@@ -61,13 +62,21 @@ namespace vx::detail {
 
 namespace {
 
-/// For when no unit is counted. One may be there all the same: another process may have given it.
-int acquire(SemaphoreObject& semaphore, DWORD dwMilliseconds)
+/// Takes a unit that is there. That there is none is no error to be left behind.
+bool takeAtOnce(SemaphoreObject& semaphore)
 {
     const int nError = errno;
     if (sem_trywait(semaphore.pSemaphore) == 0)
-        return 0;
+        return true;
     errno = nError;
+    return false;
+}
+
+/// For when no unit is counted. One may be there all the same: another process may have given it.
+int acquire(SemaphoreObject& semaphore, DWORD dwMilliseconds)
+{
+    if (takeAtOnce(semaphore))
+        return 0;
     if (dwMilliseconds == INFINITE)
         return sem_wait(semaphore.pSemaphore);
     const timespec deadline = deadlineIn(dwMilliseconds);
@@ -91,7 +100,7 @@ DWORD wait(VxHandle& handle, SemaphoreObject& semaphore, DWORD dwMilliseconds)
 {
     if (semaphore.pSemaphore == SEM_FAILED)
         return WAIT_FAILED;
-    if (semaphore.count.atMost() <= 0 || sem_trywait(semaphore.pSemaphore) != 0)
+    if (semaphore.count.atMost() <= 0 || !takeAtOnce(semaphore))
         return sleepAndTake(handle, dwMilliseconds);
     semaphore.count.down();
     return WAIT_OBJECT_0;

@@ -3,6 +3,7 @@
 #include "text/vxtranscode_p.h"
 
 #include <array>
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -44,6 +45,19 @@ private:
 };
 
 OpenLocales g_openLocales;
+
+// What the C library looks for and does not find is none of the caller's business.
+class LastErrorKeeper
+{
+public:
+    LastErrorKeeper() = default;
+    ~LastErrorKeeper() { errno = m_nError; }
+    LastErrorKeeper(const LastErrorKeeper&) = delete;
+    LastErrorKeeper& operator=(const LastErrorKeeper&) = delete;
+
+private:
+    const int m_nError = errno;
+};
 
 // Converts as after `setlocale(LC_ALL, name)`, without making other threads do so too.
 class LocaleScope
@@ -96,12 +110,14 @@ std::basic_string<Target> convert(const Source* source, std::size_t most, Conver
 
 std::string WideCharToMultiByte_E(const std::wstring& s, const char* locale)
 {
+    const LastErrorKeeper keeper;
     const LocaleScope scope(locale);
     return convert<char>(s.c_str(), s.size() * MB_CUR_MAX, std::wcstombs);
 }
 
 std::wstring MultiByteToWideChar_E(const std::string& s, const char* locale)
 {
+    const LastErrorKeeper keeper;
     const LocaleScope scope(locale);
     return convert<wchar_t>(s.c_str(), s.size(), std::mbstowcs);
 }
@@ -115,6 +131,7 @@ std::string _W2A(const wchar_t* p)
 
 double _wtof(const wchar_t* p)
 {
+    const LastErrorKeeper keeper;
     double value = 0;
     // NOLINTNEXTLINE(cert-err34-c): what cannot be read leaves the 0
     return std::sscanf(_W2A(p).c_str(), "%lf", &value) == 1 ? value : 0;

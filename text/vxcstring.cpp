@@ -46,10 +46,19 @@ const char* CString_E::Utf8Ptr() const
 wchar_t* CString_E::GetBuffer(int nMin)
 {
     const std::size_t length = m_text.size();
-    const std::size_t room = clampCount(nMin);
-    m_text.reserve(std::max(room, length));
+    const std::size_t room = std::max(clampCount(nMin), length);
+    // Without a zero there, something was written through an earlier buffer.
+    const std::size_t written =
+        m_text.data()[length] == L'\0' ? length : wcsnlen(m_text.data(), m_text.capacity());
+    if (room > m_text.capacity()) {
+        std::wstring larger;
+        larger.reserve(room);
+        larger.assign(m_text, 0, length);
+        std::copy(m_text.data() + length, m_text.data() + written, larger.data() + length);
+        m_text.swap(larger);
+    }
     // Zeros show ReleaseBuffer() where writing ended.
-    for (std::size_t i = length; i <= room; ++i)
+    for (std::size_t i = written; i <= room; ++i)
         m_text.data()[i] = L'\0';
     return m_text.data();
 }

@@ -136,6 +136,16 @@ CString_E& CString_E::TrimRightOf(std::wstring_view set)
     return *this;
 }
 
+CString_E& CString_E::TrimOf(std::wstring_view set)
+{
+    // Both ends are found first: the set may be a part of the text.
+    const std::size_t end = m_text.find_last_not_of(set) + 1;
+    const std::size_t start = std::min(m_text.find_first_not_of(set), end);
+    m_text.resize(end);
+    m_text.erase(0, start);
+    return *this;
+}
+
 namespace {
 
 template <typename Text>

@@ -284,7 +284,7 @@ QString wideToQString(std::wstring_view text)
 {
     const std::size_t n = text.size();
     if (n == 0)
-        return {};
+        return QString(0, Qt::Uninitialized); // empty, not null
     // At the start Qt takes these for byte order marks.
     if (codeOf(text[0]) == 0xFEFF || codeOf(text[0]) == 0xFFFE0000)
         return QString::fromUcs4(reinterpret_cast<const uint*>(text.data()), static_cast<int>(n));

@@ -32,6 +32,12 @@ BOOL offsetPoint(LPPOINT ppt, const QPoint& by)
     return TRUE;
 }
 
+bool isPlaceOfItsOwn(HWND hWndInsertAfter)
+{
+    return hWndInsertAfter == HWND_BOTTOM || hWndInsertAfter == HWND_TOPMOST ||
+           hWndInsertAfter == HWND_NOTOPMOST;
+}
+
 void restack(QWidget* pWidget, HWND hWndInsertAfter)
 {
     if (hWndInsertAfter == HWND_BOTTOM)
@@ -86,8 +92,10 @@ BOOL SetWindowPos_E(HWND hWnd, HWND hWndInsertAfter, int x, int y, int cx, int c
 {
     if (!hWnd)
         return FALSE;
-    // Handlers of the events below may delete the window.
+    // Handlers of the events below may delete the window, or the other one.
     const QPointer<QWidget> pAlive(hWnd);
+    const bool isSibling = hWndInsertAfter && !isPlaceOfItsOwn(hWndInsertAfter);
+    const QPointer<QWidget> pSibling(isSibling ? hWndInsertAfter : nullptr);
     const auto wants = [&pAlive, uFlags](UINT flag) { return pAlive && (uFlags & flag) != 0; };
     const auto lets = [&pAlive, uFlags](UINT flag) { return pAlive && (uFlags & flag) == 0; };
     if (lets(SWP_NOSIZE))
@@ -100,7 +108,8 @@ BOOL SetWindowPos_E(HWND hWnd, HWND hWndInsertAfter, int x, int y, int cx, int c
         hWnd->show();
     if (wants(SWP_HIDEWINDOW))
         hWnd->hide();
-    if (hWndInsertAfter && lets(SWP_NOOWNERZORDER | SWP_NOZORDER))
+    if (hWndInsertAfter && isSibling == !pSibling.isNull() &&
+        lets(SWP_NOOWNERZORDER | SWP_NOZORDER))
         restack(hWnd, hWndInsertAfter);
     return TRUE;
 }

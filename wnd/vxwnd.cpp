@@ -17,6 +17,8 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QScrollBar>
 
+#include <algorithm>
+
 IMPLEMENT_DYNCREATE_E(CWnd_E, CCmdTarget_E, QWidget)
 
 namespace {
@@ -75,6 +77,13 @@ BOOL CWnd_E::OnAttach()
 
 void CWnd_E::OnMessageMap()
 {
+    // These replace earlier entries, as any that are made again.
+    m_messages.erase(std::remove_if(m_messages.begin(), m_messages.end(),
+                                    [](const auto& entry) {
+                                        return entry.first == WM_NCDESTROY ||
+                                               entry.first == WM_DESTROY || entry.first == WM_SIZE;
+                                    }),
+                     m_messages.end());
     m_bBaseMap = true;
     m_bIdleSlot = true;
     if (hasOwnIdleSlot(metaObject()) || isSignalConnected(updateCmdUiSignal()))

@@ -60,6 +60,8 @@ const AFX_MSGMAP_ENTRY_E* baseEntry(UINT message)
 bool CWnd_E::eventFilter(QObject* watched, QEvent* e)
 {
     tagMSG msg;
+    if (!e)
+        return false;
     const bool isMessage = vx::detail::translateEvent(watched, e, &msg);
     if (!isMessage && e->type() != VxMsgBoxEvent::EventType) {
         ForgetPending(e);
@@ -107,6 +109,7 @@ bool CWnd_E::DispatchMessage(const vx::detail::DispatchGuard& guard, QObject* wa
             static_cast<VxWinMsgEvent*>(e)->result = result;
         return true;
     }
+    // Intended: also after a handler has cleared the flag, for binding changes nothing for widgets.
     e->setAccepted(wasAccepted);
     return e->type() == VxWinMsgEvent::EventType && guard.wrapperAlive() && guard.objectAlive() &&
            AnswerAsControl(static_cast<VxWinMsgEvent&>(*e));

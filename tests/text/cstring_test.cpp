@@ -218,8 +218,20 @@ TEST(CString, Changing)
     }
 }
 
+TEST(CString, ASecondBufferKeepsWhatWasWrittenThroughTheFirst)
+{
+    CString_E s = L"a";
+    wcscpy(s.GetBuffer(30), L"written once");
+    s.GetBuffer();
+    s.GetBuffer(500);
+    s.ReleaseBuffer();
+    EXPECT_EQ(s, L"written once");
+}
+
 TEST(CString, TrimmingAndSeparators)
 {
+    CString_E own = L"xabx";
+    EXPECT_EQ(own.Trim(own.GetString() + 3), L"ab") << "its own end as the set";
     const auto text = [](const wchar_t* p) { return CString_E(p); };
     const Text rows[] = {{text(L" \t").Trim(), L""},          {text(L" \t").TrimLeft(), L""},
                          {text(L"xxaxx").Trim(L'x'), L"a"},   {text(L"xyaxy").Trim(L"yx"), L"a"},

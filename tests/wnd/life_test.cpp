@@ -199,6 +199,27 @@ TEST(HandleMapTest, TheWindowMapMakesWindowsOverAHandle)
     EXPECT_EQ(pMap->LookupTemporary(&widget), nullptr);
 }
 
+TEST(HandleMapTest, ATemporaryObjectBoundToItsOwnHandleIsForgottenThere)
+{
+    QWidget widget;
+    auto* const pWindow = static_cast<CWnd_E*>(afxMapHWND_E(TRUE)->FromHandle(&widget));
+    ASSERT_TRUE(pWindow->SubclassWindow(&widget));
+    CWnd_E::DeleteTempMap();
+    EXPECT_FALSE(CWnd_E::FromHandlePermanent(&widget));
+
+    QMenu menu;
+    CMenu_E::FromHandle(&menu)->Attach(&menu, nullptr, true);
+    CMenu_E::DeleteTempMap();
+    EXPECT_FALSE(afxMapHMENU_E()->LookupPermanent(&menu));
+
+    CMenu_E first;
+    CMenu_E second;
+    first.Attach(&menu, nullptr, true);
+    second.Attach(&menu, nullptr, true);
+    first.Detach();
+    EXPECT_EQ(CMenu_E::FromHandle(&menu), &second);
+}
+
 TEST(DestroyTest, ParentsHearFirstAndEndLast)
 {
     QStringList trace;

@@ -51,11 +51,13 @@ public:
     QObject* GetImpQObject() const { return m_pImpQObject; }
     /// Stores @p pImp without any of Attach()'s work and returns the previous one.
     QObject* SetImpQObject(QObject* pImp);
-    /// Binds @p pImp with @p pParent as its "parent"; an earlier one is detached first. FALSE for
+    /// Binds @p pImp with @p pParent as its "parent"; an earlier one is detached first, and so is a
+    /// temporary wrapper of @p pImp. FALSE for
     /// null, for an object of a Qt class that cannot implement this class (deleted unless @p
     /// bExternal) and when OnAttach() refuses.
     BOOL Attach(QObject* pImp, QObject* pParent, bool bExternal);
-    /// Lets go of the implementation object; an owned one is deleted later by the event loop.
+    /// Lets go of the implementation object; an owned one is deleted later by the event loop. Where
+    /// another wrapper has been bound to it meanwhile, that binding stays.
     void Detach();
 
     /// Hands this object to the temporary-object pool, which deletes it at idle time.
@@ -63,6 +65,8 @@ public:
     bool IsTemporary() const { return (m_nObjectFlags & TemporaryFlag) != 0; }
     bool IsExternalImpObj() const { return (m_nObjectFlags & ExternalFlag) != 0; }
 
+    /// Whether archives can hold objects of this class.
+    bool IsSerializable() const { return GetRuntimeClass()->m_wSchema != VX_NO_SCHEMA; }
     /// Whether this object is of the class or of one derived from it; false for null.
     bool IsKindOf(const CRuntimeClass_E* pClass) const;
     /// The same by class name, as `qt_metacast` knows it; false for null.

@@ -23,5 +23,6 @@ VXMFC_EXPORT HANDLE CreateMutexEx(LPSECURITY_ATTRIBUTES pAttributes, LPCWSTR lpN
 /// The mutex of that name; access and inheritance are ignored. Null with the last error ENOENT when
 /// there is nothing of that name, ENXIO when it is no mutex.
 VXMFC_EXPORT HANDLE OpenMutex(DWORD dwDesiredAccess, BOOL bInheritHandle, LPCWSTR lpName);
-/// Unlocks a mutex; FALSE when there is no such mutex. Differs from Win32: the owner is not tested.
+/// Unlocks a mutex; FALSE when there is no such mutex. Differs from Win32: the owner is not tested,
+/// and after a release too many the mutex cannot be destroyed, see VxCloseHandle().
 VXMFC_EXPORT BOOL ReleaseMutex(HANDLE hMutex);

@@ -227,7 +227,7 @@ public:
     /// Remove every character that is in @p set.
     CString_E& TrimLeft(const wchar_t* set) { return TrimLeftOf(vx::detail::orEmpty(set)); }
     CString_E& TrimRight(const wchar_t* set) { return TrimRightOf(vx::detail::orEmpty(set)); }
-    CString_E& Trim(const wchar_t* set) { return TrimRight(set).TrimLeft(set); }
+    CString_E& Trim(const wchar_t* set) { return TrimOf(vx::detail::orEmpty(set)); }
     /// @}
 
     /// Copy with each "\n" as "\r\n". Intended: the "\n" of an "\r\n" too.
@@ -239,8 +239,8 @@ public:
     /// Copy with each "\" as "/".
     CString_E ToUnixSeperator() const;
 
-    /// The writable text with room for @p nMin characters, zero behind the present ones; the length
-    /// stays. Valid until the next change; call ReleaseBuffer() after writing.
+    /// The writable text with room for @p nMin characters, zero behind the present ones and what was
+    /// written through an earlier buffer; the length stays. Valid until the next change; call ReleaseBuffer() after writing.
     wchar_t* GetBuffer(int nMin = 0);
     /// Sets the length to @p n, new characters being zero, and returns the writable text.
     wchar_t* GetBufferSetLength(int n);
@@ -301,6 +301,7 @@ private:
     }
     CString_E& TrimLeftOf(std::wstring_view set);
     CString_E& TrimRightOf(std::wstring_view set);
+    CString_E& TrimOf(std::wstring_view set);
     bool PointsInto(const wchar_t* p) const noexcept;
     int ReplaceInPlace(std::wstring_view old, std::wstring_view replacement, std::size_t hit);
     int ReplaceGrowing(std::wstring_view old, std::wstring_view replacement, std::size_t hit);
