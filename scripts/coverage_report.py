@@ -93,7 +93,7 @@ def main():
     parser.add_argument("build", type=lambda text: pathlib.Path(text).resolve())
     parser.add_argument("--lines", action="store_true")
     parser.add_argument("folders", nargs="*")
-    arguments = parser.parse_args()
+    arguments = parser.parse_intermixed_args()
     report(collect(arguments.build), arguments.lines, arguments.folders)
 
 
