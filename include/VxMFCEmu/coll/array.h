@@ -19,6 +19,10 @@
 
 namespace vx::detail {
 
+template <class TYPE>
+// NOLINTNEXTLINE(bugprone-sizeof-expression): pointers are elements, too.
+inline constexpr std::size_t kSizeOf = sizeof(TYPE);
+
 /// The block @p p, null for none, with room for @p nCount elements of @p cbElement bytes; throws
 /// the memory exception, leaving the block alone, when there is none. Owned by the caller (`free`).
 VXMFC_EXPORT void* resizeBlock(void* p, INT_PTR nCount, std::size_t cbElement);
@@ -241,7 +245,7 @@ void CArray_E<TYPE, ARG_TYPE>::Serialize(CArchive_E& ar)
 template <class TYPE, class ARG_TYPE>
 void CArray_E<TYPE, ARG_TYPE>::Load(CArchive_E& ar, DWORD_PTR nCount)
 {
-    constexpr DWORD_PTR nPiece = std::max<DWORD_PTR>(0x10000 / sizeof(TYPE), 1);
+    constexpr DWORD_PTR nPiece = std::max<DWORD_PTR>(0x10000 / vx::detail::kSizeOf<TYPE>, 1);
     DWORD_PTR nDone = 0;
     do {
         const DWORD_PTR nNow = std::min(nCount - nDone, std::max(nPiece, nDone));
@@ -284,16 +288,16 @@ void CArray_E<TYPE, ARG_TYPE>::MakeRoomFor(INT_PTR nNeeded)
 template <class TYPE, class ARG_TYPE>
 void CArray_E<TYPE, ARG_TYPE>::Reallocate(INT_PTR nMaxSize)
 {
+    using namespace vx::detail;
     static_assert(alignof(TYPE) <= alignof(std::max_align_t));
     if constexpr (std::is_trivially_copyable_v<TYPE>) {
-        m_pData = static_cast<TYPE*>(vx::detail::resizeBlock(m_pData, nMaxSize, sizeof(TYPE)));
+        m_pData = static_cast<TYPE*>(resizeBlock(m_pData, nMaxSize, kSizeOf<TYPE>));
     } else {
-        auto* const pNew =
-            static_cast<TYPE*>(vx::detail::resizeBlock(nullptr, nMaxSize, sizeof(TYPE)));
+        auto* const pNew = static_cast<TYPE*>(resizeBlock(nullptr, nMaxSize, kSizeOf<TYPE>));
         INT_PTR nMade = 0;
         try {
             for (; nMade < m_nSize; ++nMade)
-                vx::detail::makeElement(pNew + nMade, std::move_if_noexcept(m_pData[nMade]));
+                makeElement(pNew + nMade, std::move_if_noexcept(m_pData[nMade]));
         } catch (...) {
             std::destroy_n(pNew, nMade);
             std::free(pNew);

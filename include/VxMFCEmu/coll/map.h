@@ -70,7 +70,8 @@ private:
     /// Spreads hashes that differ in a few bits only over all buckets, whatever their number.
     UINT IndexOf(UINT nHash) const
     {
-        return static_cast<UINT>((std::uint64_t{nHash * 0x9E3779B1U} * m_nSize) >> 32);
+        const UINT nSpread = nHash * 0x9E3779B1U;
+        return static_cast<UINT>((std::uint64_t{nSpread} * m_nSize) >> 32);
     }
     HashLink* FirstFrom(UINT nBucket) const;
     void Grow();
