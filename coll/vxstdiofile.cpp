@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <cwchar>
 #include <utility>
 
 #include <fcntl.h>
@@ -23,6 +24,7 @@ using namespace vx::detail;
 
 namespace {
 
+constexpr std::size_t kBufferSize = 0x4000; // the C library's own is a quarter of it
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 
 const char* streamMode(int fd)
@@ -72,6 +74,9 @@ BOOL CStdioFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileExcep
         return failWith(ERROR_NOT_ENOUGH_MEMORY);
     }
     ::__fsetlocking(m_pStream, FSETLOCKING_BYCALLER);
+    if (!m_pBuffer)
+        m_pBuffer.reset(new char[kBufferSize]);
+    std::setvbuf(m_pStream, m_pBuffer.get(), _IOFBF, kBufferSize);
     m_use = Use::None;
     m_bText = (nOpenFlags & typeBinary) == 0;
     m_bAtStart = true;
@@ -305,11 +310,14 @@ void CStdioFile_E::WriteString(const wchar_t* lpsz)
     if (!lpsz)
         AfxThrowInvalidArgException_E();
     StreamFor(Use::Writing);
-    m_text.clear();
+    const std::size_t most = std::wcslen(lpsz) * kLongestCharacter;
+    if (m_text.size() < most)
+        m_text.resize(most);
+    char* out = m_text.data();
     for (const wchar_t* p = lpsz; *p; ++p) {
         if (*p == L'\n' && m_bText)
-            m_text += '\r';
-        encodeCharacter(m_text, *p);
+            *out++ = '\r';
+        out = encodeCharacter(out, static_cast<char32_t>(*p));
     }
-    WriteBytes(m_text.data(), m_text.size());
+    WriteBytes(m_text.data(), static_cast<std::size_t>(out - m_text.data()));
 }

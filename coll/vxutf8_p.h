@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 
 namespace vx::detail {
 
@@ -38,30 +37,22 @@ inline wchar_t decodeCharacter(const char* p, std::size_t nBytes, int& nTaken)
     return static_cast<wchar_t>(code);
 }
 
-/// Appends a character.
-inline void encodeCharacter(std::string& text, wchar_t character)
+inline constexpr std::size_t kLongestCharacter = 4;
+
+/// Writes a character, at most kLongestCharacter bytes, and returns the place behind it.
+inline char* encodeCharacter(char* p, char32_t code)
 {
-    auto code = static_cast<unsigned>(character);
     if (code < 0x80) {
-        text += static_cast<char>(code);
-        return;
+        *p++ = static_cast<char>(code);
+        return p;
     }
     if (code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
-        code = kReplacement;
-    const auto tail = [&](unsigned shift) {
-        text += static_cast<char>(0x80U | ((code >> shift) & 0x3FU));
-    };
-    if (code < 0x800) {
-        text += static_cast<char>(0xC0U | code >> 6U);
-    } else if (code < 0x10000) {
-        text += static_cast<char>(0xE0U | code >> 12U);
-        tail(6);
-    } else {
-        text += static_cast<char>(0xF0U | code >> 18U);
-        tail(12);
-        tail(6);
-    }
-    tail(0);
+        code = static_cast<char32_t>(kReplacement);
+    const unsigned tails = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    *p++ = static_cast<char>((0xF80U >> tails & 0xFFU) | code >> 6U * tails);
+    for (unsigned i = tails; i-- > 0;)
+        *p++ = static_cast<char>(0x80U | ((code >> 6U * i) & 0x3FU));
+    return p;
 }
 
 } // namespace vx::detail

@@ -124,6 +124,13 @@ void readValue(CArchive_E& ar)
     ar >> value;
 }
 
+template <typename Collection>
+void readCollection(CArchive_E& ar)
+{
+    Collection collection;
+    collection.Serialize(ar);
+}
+
 void readAnything(CArchive_E& ar)
 {
     static constexpr void (*readers[])(CArchive_E&) = {
@@ -133,6 +140,11 @@ void readAnything(CArchive_E& ar)
         &readValue<long>,
         &readValue<wchar_t>,
         &readValue<CString_E>,
+        &readCollection<CByteArray_E>,
+        &readCollection<CObArray_E>,
+        &readCollection<CStringList_E>,
+        &readCollection<CMapWordToOb_E>,
+        &readCollection<CMapStringToString_E>,
         [](CArchive_E& archive) { archive.ReadCount(); },
         [](CArchive_E& archive) {
             CString_E line;

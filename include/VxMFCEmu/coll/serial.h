@@ -10,6 +10,8 @@
 /// The schema number is written with the class. An archive with another number is refused, unless
 /// the class is versionable: then its Serialize() asks CArchive_E::GetObjectSchema().
 ///
+/// The library's own collections have their MFC names in archives, without the suffix.
+///
 /// Differs from MFC: a class in a plug-in is known while the plug-in is loaded; a second class of
 /// the same name is not known as long as the first one is.
 #pragma once
@@ -46,13 +48,16 @@ T* serialCast(const CArchive_E& ar, CObject_E* pOb)
         return ar;                                                                                 \
     }
 
-/// In a source file: the record, the factory and the schema of a serial class. It is implemented by
-/// the Qt class of its base.
-#define IMPLEMENT_SERIAL_E(theClass, baseClass, wSchema)                                           \
+#define VXMFC_IMPLEMENT_SERIAL(theClass, baseClass, pszName, wSchema)                              \
     VXMFC_IMPLEMENT_CREATE_OBJECT(theClass)                                                        \
     VXMFC_IMPLEMENT_RUNTIME_CLASS(theClass, baseClass::GetImpMetaObject(),                         \
                                   baseClass::GetImpMetaObject(), &theClass::CreateObject,          \
                                   baseClass::GetImpMetaList())                                     \
     const AFX_CLASSINIT_E theClass::s_classInit(                                                   \
-        RUNTIME_CLASS_E(theClass), #theClass, wSchema,                                             \
+        RUNTIME_CLASS_E(theClass), pszName, wSchema,                                               \
         [](const CObject_E* pOb) { return dynamic_cast<const theClass*>(pOb) != nullptr; });
+
+/// In a source file: the record, the factory and the schema of a serial class. It is implemented by
+/// the Qt class of its base.
+#define IMPLEMENT_SERIAL_E(theClass, baseClass, wSchema)                                           \
+    VXMFC_IMPLEMENT_SERIAL(theClass, baseClass, #theClass, wSchema)

@@ -17,6 +17,7 @@
 #include <VxMFCEmu/coll/file.h>
 
 #include <cstdio>
+#include <memory>
 #include <string>
 
 /// A buffered file of text lines.
@@ -80,6 +81,7 @@ private:
     bool m_bText = true;
     bool m_bAtStart = false;
     std::string m_text;      // what is being written
+    std::unique_ptr<char[]> m_pBuffer;
     char* m_pLine = nullptr; // what is being read, from the C library's heap
     std::size_t m_nLine = 0;
 };
