@@ -32,6 +32,7 @@ namespace vx::detail {
 class ArchiveTables;
 }
 
+/// Writes values and objects to a file or reads them from one.
 class VXMFC_EXPORT CArchive_E
 {
 public:
@@ -52,8 +53,12 @@ public:
     ~CArchive_E();
     Q_DISABLE_COPY_MOVE(CArchive_E)
 
+    /// @{
+    /// The direction: every archive has exactly one.
     bool IsLoading() const { return (m_nMode & load) != 0; }
     bool IsStoring() const { return !IsLoading(); }
+    /// @}
+    /// Always false: numbers are little-endian in memory and in the archive.
     bool IsByteSwapping() const { return false; }
     /// Whether the buffer has neither bytes to be read nor bytes to be written.
     bool IsBufferEmpty() const
@@ -77,9 +82,11 @@ public:
     /// Lets go of the file, without an exception; what is in the buffer is dropped.
     void Abort() noexcept;
 
+    /// @{
     /// A count of elements: 2 bytes, 6 from 0xFFFF on, 14 from 0xFFFFFFFF on.
     void WriteCount(DWORD_PTR dwCount);
     DWORD_PTR ReadCount();
+    /// @}
 
     /// Writes a text as UTF-16 code units, with neither length nor end.
     void WriteString(const wchar_t* lpsz);
@@ -90,6 +97,8 @@ public:
     /// Reads a line without its end; FALSE, and empty, at the end of the file.
     BOOL ReadString(CString_E& rString);
 
+    /// @{
+    /// Writes the bytes of a number, the lowest first.
     CArchive_E& operator<<(BYTE by) { return Put(by); }
     CArchive_E& operator<<(char ch) { return Put(ch); }
     CArchive_E& operator<<(signed char ch) { return Put(ch); }
@@ -103,6 +112,7 @@ public:
     CArchive_E& operator<<(ULONGLONG n) { return Put(n); }
     CArchive_E& operator<<(float f) { return Put(f); }
     CArchive_E& operator<<(double d) { return Put(d); }
+    /// @}
     /// One byte, 0 or 1. A template so that no pointer is written as a bool.
     template <typename Bool, std::enable_if_t<std::is_same_v<Bool, bool>, int> = 0>
     CArchive_E& operator<<(Bool b)
@@ -114,8 +124,11 @@ public:
     {
         return static_cast<UINT>(ch) < 0x10000 ? Put(static_cast<WORD>(ch)) : PutSupplementary(ch);
     }
+    /// Writes a text as UTF-16 with its length in front.
     CArchive_E& operator<<(const CString_E& str);
 
+    /// @{
+    /// Reads the bytes of a number; one that is cut off throws endOfFile.
     CArchive_E& operator>>(BYTE& by) { return Get(by); }
     CArchive_E& operator>>(char& ch) { return Get(ch); }
     CArchive_E& operator>>(signed char& ch) { return Get(ch); }
@@ -129,6 +142,7 @@ public:
     CArchive_E& operator>>(ULONGLONG& n) { return Get(n); }
     CArchive_E& operator>>(float& f) { return Get(f); }
     CArchive_E& operator>>(double& d) { return Get(d); }
+    /// @}
     /// Any byte but 0 is true.
     CArchive_E& operator>>(bool& b)
     {
@@ -139,6 +153,7 @@ public:
     }
     /// A pair of surrogates is one character; a lone one stays as it is.
     CArchive_E& operator>>(wchar_t& ch);
+    /// Reads a text of 8-bit or UTF-16 units; after a failure the string may be cut short.
     CArchive_E& operator>>(CString_E& str);
 
     /// Writes an object, its class before it at its first time; null is written as such. Throws the
@@ -164,11 +179,14 @@ public:
     /// The schema of the object being read. Intended: only the first call for an object tells,
     /// further ones give 0xFFFFFFFF.
     UINT GetObjectSchema();
+    /// Sets what the next GetObjectSchema() tells.
     void SetObjectSchema(UINT nSchema) { m_nObjectSchema = nSchema; }
-    /// Make room for so many objects before any is loaded or stored. Differs from MFC: this is the
+    /// @{
+    /// Makes room for so many objects before any is loaded or stored. Differs from MFC: this is the
     /// whole meaning, the tables grow by doubling.
     void SetLoadParams(UINT nGrowBy = 1024);
     void SetStoreParams(UINT nHashSize = 2053, UINT nBlockSize = 128);
+    /// @}
 
     /// The document that is being stored or loaded, for its objects; the archive does not use it.
     CObject_E* m_pDocument = nullptr;
@@ -247,11 +265,14 @@ private:
     std::unique_ptr<vx::detail::ArchiveTables> m_pTables;
 };
 
+/// CArchive_E::WriteObject().
 inline CArchive_E& operator<<(CArchive_E& ar, const CObject_E* pOb)
 {
     ar.WriteObject(pOb);
     return ar;
 }
+/// @{
+/// CArchive_E::ReadObject() for any class: a new object is owned by the caller.
 inline CArchive_E& operator>>(CArchive_E& ar, CObject_E*& pOb)
 {
     pOb = ar.ReadObject(nullptr);
@@ -262,3 +283,4 @@ inline CArchive_E& operator>>(CArchive_E& ar, const CObject_E*& pOb)
     pOb = ar.ReadObject(nullptr);
     return ar;
 }
+/// @}

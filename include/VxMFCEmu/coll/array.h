@@ -38,14 +38,17 @@ template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray_E : public CObject_E
 {
 public:
-    using BASE_TYPE = TYPE;
-    using BASE_ARG_TYPE = ARG_TYPE;
+    using BASE_TYPE = TYPE;         ///< what the array keeps
+    using BASE_ARG_TYPE = ARG_TYPE; ///< what its members take
 
     CArray_E() = default;
     ~CArray_E() override { RemoveAll(); }
 
+    /// The number of elements.
     INT_PTR GetSize() const { return m_nSize; }
+    /// As GetSize().
     INT_PTR GetCount() const { return m_nSize; }
+    /// Whether there are no elements.
     BOOL IsEmpty() const { return m_nSize == 0; }
     /// The last index; -1 for an empty array.
     INT_PTR GetUpperBound() const { return m_nSize - 1; }
@@ -57,18 +60,26 @@ public:
     /// Drops all elements and frees the memory.
     void RemoveAll() { SetSize(0); }
 
+    /// The element at an index; a reference is valid until elements are added or removed.
     const TYPE& GetAt(INT_PTR nIndex) const { return m_pData[Checked(nIndex)]; }
+    /// The same, to be changed.
     TYPE& GetAt(INT_PTR nIndex) { return m_pData[Checked(nIndex)]; }
+    /// Overwrites an element that is there; see SetAtGrow() for others.
     void SetAt(INT_PTR nIndex, ARG_TYPE newElement)
     {
         m_pData[Checked(nIndex)] = std::forward<ARG_TYPE>(newElement);
     }
+    /// As GetAt().
     const TYPE& ElementAt(INT_PTR nIndex) const { return m_pData[Checked(nIndex)]; }
+    /// As GetAt().
     TYPE& ElementAt(INT_PTR nIndex) { return m_pData[Checked(nIndex)]; }
+    /// As GetAt().
     const TYPE& operator[](INT_PTR nIndex) const { return m_pData[Checked(nIndex)]; }
+    /// As GetAt().
     TYPE& operator[](INT_PTR nIndex) { return m_pData[Checked(nIndex)]; }
-    /// The elements, valid until the array grows; null when there was never one.
+    /// The elements, valid until the array's size changes; null while there is no memory for any.
     const TYPE* GetData() const { return m_pData; }
+    /// The same, to be changed.
     TYPE* GetData() { return m_pData; }
 
     /// Sets an element, first growing the array when it does not reach that far.

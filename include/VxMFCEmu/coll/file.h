@@ -3,7 +3,8 @@
 ///
 /// Failures throw a CFileException_E: its OS error is the Win32 error number, its cause the one
 /// that OsErrorToException() gives for it, its name that of the file. Using a file that is not open
-/// throws one with the cause invalidFile. Only Open() and GetStatus() report by their results.
+/// throws one with the cause invalidFile. Only Open() and the GetStatus() that takes a
+/// name report by their results.
 ///
 /// File names may be separated by "/" or "\".
 ///
@@ -34,6 +35,7 @@ class QFile;
 /// Differs from MFC: the times are seconds since 1970, 0 for none.
 struct VXMFC_EXPORT CFileStatus_E
 {
+    /// The room of m_szFullName, in characters with the terminator.
     static constexpr std::size_t kMaxPath = 4096;
 
     std::time_t m_ctime = 0; ///< of its making; of its last change where no such time is kept
@@ -41,7 +43,7 @@ struct VXMFC_EXPORT CFileStatus_E
     std::time_t m_atime = 0; ///< of the last reading
     ULONGLONG m_size = 0;    ///< in bytes
     BYTE m_attribute = 0;    ///< values of CFile_E::Attribute
-    wchar_t m_szFullName[kMaxPath] = {};
+    wchar_t m_szFullName[kMaxPath] = {}; ///< the absolute path
 };
 
 /// A file of bytes, unbuffered.
@@ -116,8 +118,8 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// INVALID_HANDLE_VALUE while no file is open.
     operator HANDLE() const;
 
-    /// Opens a file, closing one that it opened before. FALSE, filling @p pError if there is one, on
-    /// failure, with the Win32 error number as last error.
+    /// Opens a file, closing one that it opened before. FALSE, filling @p pError if there is one,
+    /// on failure, with the Win32 error number as last error.
     virtual BOOL Open(const wchar_t* lpszFileName, UINT nOpenFlags,
                       CFileException_E* pError = nullptr);
     /// A new object for the same open file, owned by the caller: position and locks are common.
@@ -129,7 +131,9 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// Moves to @p lOff bytes from @p nFrom and returns the new position, which may lie beyond the
     /// end.
     virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
+    /// The position, in bytes from the start of the file.
     virtual ULONGLONG GetPosition() const;
+    /// The length in bytes.
     virtual ULONGLONG GetLength() const;
     /// Cuts or extends the file, with zeros, and moves to its new end.
     virtual void SetLength(ULONGLONG dwNewLen);
@@ -146,7 +150,9 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// Closes the file, without an exception.
     virtual void Abort();
 
+    /// Moves to the first byte.
     void SeekToBegin() { Seek(0, begin); }
+    /// Moves behind the last byte and returns the length.
     ULONGLONG SeekToEnd() { return Seek(0, end); }
 
     /// Name of the file without its folder; empty when none is open.
@@ -187,8 +193,8 @@ protected:
     /// Binds @p pFile to another descriptor of the same file.
     void DuplicateTo(CFile_E* pFile) const;
 
-    CString_E m_strFileName;
-    bool m_bCloseOnDelete = false;
+    CString_E m_strFileName;       ///< the absolute path, or what SetFilePath() was given
+    bool m_bCloseOnDelete = false; ///< whether the destructor closes the descriptor
 
 private:
     struct Range

@@ -48,6 +48,7 @@ class VXMFC_EXPORT CFileFind_E : public CObject_E
     /// Ends the search.
     void Close();
 
+    /// The size in bytes; 0 for a folder.
     ULONGLONG GetLength() const;
     /// Name of the file without its folder.
     virtual CString_E GetFileName() const;
@@ -60,19 +61,23 @@ class VXMFC_EXPORT CFileFind_E : public CObject_E
     /// The folder that is searched, with "/" at its end.
     virtual CString_E GetRoot() const;
 
-    /// The times, in units of 100 nanoseconds since 1601 or in seconds since 1970; FALSE without a
-    /// file and for null.
+    /// @{
+    /// Stores a time, in units of 100 nanoseconds since 1601 or in seconds since 1970; FALSE
+    /// without a file and for null.
     virtual BOOL GetCreationTime(FILETIME* pTimeStamp) const;
     virtual BOOL GetCreationTime(std::time_t& refTime) const;
     virtual BOOL GetLastAccessTime(FILETIME* pTimeStamp) const;
     virtual BOOL GetLastAccessTime(std::time_t& refTime) const;
     virtual BOOL GetLastWriteTime(FILETIME* pTimeStamp) const;
     virtual BOOL GetLastWriteTime(std::time_t& refTime) const;
+    /// @}
 
     /// Whether the file has one of the attributes (`FILE_ATTRIBUTE_*`).
     virtual BOOL MatchesMask(DWORD dwMask) const;
     /// Whether it is "." or "..".
     virtual BOOL IsDots() const;
+    /// @{
+    /// Whether the file has the attribute; fileattributes.h tells which ones there are.
     BOOL IsReadOnly() const { return MatchesMask(FILE_ATTRIBUTE_READONLY); }
     BOOL IsDirectory() const { return MatchesMask(FILE_ATTRIBUTE_DIRECTORY); }
     BOOL IsCompressed() const { return MatchesMask(FILE_ATTRIBUTE_COMPRESSED); }
@@ -81,6 +86,7 @@ class VXMFC_EXPORT CFileFind_E : public CObject_E
     BOOL IsTemporary() const { return MatchesMask(FILE_ATTRIBUTE_TEMPORARY); }
     BOOL IsNormal() const { return MatchesMask(FILE_ATTRIBUTE_NORMAL); }
     BOOL IsArchived() const { return MatchesMask(FILE_ATTRIBUTE_ARCHIVE); }
+    /// @}
 
 private:
     HANDLE m_hContext = nullptr;

@@ -13,8 +13,11 @@
 #include <VxMFCEmu/coll/fileattributes.h>
 #include <VxMFCEmu/sys/securityattributes.h>
 
+/// @{
+/// A flag of MoveFileEx_E().
 inline constexpr DWORD MOVEFILE_REPLACE_EXISTING = 0x00000001;
 inline constexpr DWORD MOVEFILE_COPY_ALLOWED = 0x00000002;
+/// @}
 
 /// Deletes a file: ERROR_ACCESS_DENIED for a folder and for a read-only file.
 VXMFC_EXPORT BOOL DeleteFile_E(LPCWSTR lpFileName);

@@ -14,29 +14,42 @@
 #include <VxMFCEmu/coll/fileattributes.h>
 #include <VxMFCEmu/sys/securityattributes.h>
 
+/// @{
+/// An access for CreateFile_E(): GENERIC_ALL reads and writes, GENERIC_EXECUTE counts as none.
 inline constexpr DWORD GENERIC_READ = 0x80000000;
 inline constexpr DWORD GENERIC_WRITE = 0x40000000;
 inline constexpr DWORD GENERIC_EXECUTE = 0x20000000;
 inline constexpr DWORD GENERIC_ALL = 0x10000000;
+/// @}
 
+/// @{
+/// What others may do with an open file. Deleting is never forbidden.
 inline constexpr DWORD FILE_SHARE_READ = 0x00000001;
 inline constexpr DWORD FILE_SHARE_WRITE = 0x00000002;
 inline constexpr DWORD FILE_SHARE_DELETE = 0x00000004;
+/// @}
 
-inline constexpr DWORD CREATE_NEW = 1;
-inline constexpr DWORD CREATE_ALWAYS = 2;
-inline constexpr DWORD OPEN_EXISTING = 3;
-inline constexpr DWORD OPEN_ALWAYS = 4;
-inline constexpr DWORD TRUNCATE_EXISTING = 5;
+inline constexpr DWORD CREATE_NEW = 1;        ///< ERROR_FILE_EXISTS for a file that is there
+inline constexpr DWORD CREATE_ALWAYS = 2;     ///< empties a file that is there
+inline constexpr DWORD OPEN_EXISTING = 3;     ///< ERROR_FILE_NOT_FOUND without a file
+inline constexpr DWORD OPEN_ALWAYS = 4;       ///< makes a file where there is none
+inline constexpr DWORD TRUNCATE_EXISTING = 5; ///< empties it; needs GENERIC_WRITE
 
+/// A flag of CreateFile_E(): writing returns when the bytes are on the disk.
 inline constexpr DWORD FILE_FLAG_WRITE_THROUGH = 0x80000000;
 
+/// @{
+/// What SetFilePointer_E() counts from.
 inline constexpr DWORD FILE_BEGIN = 0;
 inline constexpr DWORD FILE_CURRENT = 1;
 inline constexpr DWORD FILE_END = 2;
+/// @}
 
+/// @{
+/// A failure of SetFilePointer_E() or GetFileSize_E(), unless the last error is NO_ERROR.
 inline constexpr DWORD INVALID_SET_FILE_POINTER = 0xFFFFFFFF;
 inline constexpr DWORD INVALID_FILE_SIZE = 0xFFFFFFFF;
+/// @}
 
 /// What CreateFile_E() returns on failure.
 inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(INT_PTR{-1});
@@ -46,30 +59,37 @@ union _LARGE_INTEGER
 {
     __extension__ struct
     {
-        DWORD LowPart;
-        LONG HighPart;
+        DWORD LowPart; ///< bits 0 to 31
+        LONG HighPart; ///< bits 32 to 63, with the sign
     };
+    /// The halves.
     struct
     {
-        DWORD LowPart;
-        LONG HighPart;
-    } u;
-    LONGLONG QuadPart;
+        DWORD LowPart; ///< bits 0 to 31
+        LONG HighPart; ///< bits 32 to 63, with the sign
+    } u;               ///< the halves once more
+    LONGLONG QuadPart; ///< all bits
 };
+/// @{
+/// Another name of the number, or a pointer to one.
 using LARGE_INTEGER = _LARGE_INTEGER;
 using PLARGE_INTEGER = _LARGE_INTEGER*;
+/// @}
 
 /// Where in the file to read or write.
 struct _OVERLAPPED
 {
-    ULONG_PTR Internal;
-    ULONG_PTR InternalHigh;
-    DWORD Offset;
-    DWORD OffsetHigh;
-    HANDLE hEvent;
+    ULONG_PTR Internal;     ///< not used
+    ULONG_PTR InternalHigh; ///< set to the number of bytes read or written
+    DWORD Offset;           ///< lower half of the position in bytes
+    DWORD OffsetHigh;       ///< upper half of it
+    HANDLE hEvent;          ///< not used
 };
+/// @{
+/// Another name of the record, or a pointer to one.
 using OVERLAPPED = _OVERLAPPED;
 using LPOVERLAPPED = _OVERLAPPED*;
+/// @}
 
 /// Opens or makes a file and returns a CFile_E*, owned by the caller until CloseHandle_E();
 /// INVALID_HANDLE_VALUE on failure. After CREATE_ALWAYS and OPEN_ALWAYS the last error is
@@ -95,8 +115,7 @@ VXMFC_EXPORT BOOL WriteFile_E(HANDLE hFile, LPCVOID lpBuffer, DWORD nNumberOfByt
                               LPDWORD lpNumberOfBytesWritten, LPOVERLAPPED lpOverlapped);
 /// Moves the position and returns its lower half, storing the upper one. INVALID_SET_FILE_POINTER
 /// on failure; the position may end with these bits as well, then the last error is NO_ERROR.
-/// Without
-/// @p lpDistanceToMoveHigh the distance is signed, and a position beyond 32 bits is
+/// Without @p lpDistanceToMoveHigh the distance is signed, and a position beyond 32 bits is
 /// ERROR_INVALID_PARAMETER.
 VXMFC_EXPORT DWORD SetFilePointer_E(HANDLE hFile, LONG lDistanceToMove, PLONG lpDistanceToMoveHigh,
                                     DWORD dwMoveMethod);
@@ -106,6 +125,7 @@ VXMFC_EXPORT BOOL SetFilePointerEx_E(HANDLE hFile, LARGE_INTEGER liDistanceToMov
 /// The lower half of the length, storing the upper one; INVALID_FILE_SIZE on failure; the length
 /// may end with these bits as well, then the last error is NO_ERROR.
 VXMFC_EXPORT DWORD GetFileSize_E(HANDLE hFile, LPDWORD lpFileSizeHigh);
+/// Stores the length in bytes; null is ERROR_INVALID_PARAMETER.
 VXMFC_EXPORT BOOL GetFileSizeEx_E(HANDLE hFile, PLARGE_INTEGER lpFileSize);
 /// Cuts or extends the file to the position.
 VXMFC_EXPORT BOOL SetEndOfFile_E(HANDLE hFile);

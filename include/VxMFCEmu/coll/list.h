@@ -63,54 +63,74 @@ template <class TYPE, class ARG_TYPE = const TYPE&>
 class CList_E : public CObject_E
 {
 public:
-    using BASE_TYPE = TYPE;
-    using BASE_ARG_TYPE = ARG_TYPE;
+    using BASE_TYPE = TYPE;         ///< what the list keeps
+    using BASE_ARG_TYPE = ARG_TYPE; ///< what its members take
 
     /// Memory is taken for @p nBlockSize elements at a time; below 2 means 64.
     explicit CList_E(INT_PTR nBlockSize = 10) : m_pool(nBlockSize) {}
     ~CList_E() override { RemoveAll(); }
 
+    /// The number of elements.
     INT_PTR GetCount() const { return m_chain.Count(); }
+    /// As GetCount().
     INT_PTR GetSize() const { return m_chain.Count(); }
+    /// Whether there are no elements.
     BOOL IsEmpty() const { return m_chain.Count() == 0; }
 
+    /// The first element; a reference is valid until that is removed.
     TYPE& GetHead() { return Data(m_chain.Head()); }
+    /// The same, to be read.
     const TYPE& GetHead() const { return Data(m_chain.Head()); }
+    /// The last element; a reference is valid until that is removed.
     TYPE& GetTail() { return Data(m_chain.Tail()); }
+    /// The same, to be read.
     const TYPE& GetTail() const { return Data(m_chain.Tail()); }
+    /// Takes out the first element and returns it.
     TYPE RemoveHead() { return TakeOut(m_chain.Head()); }
+    /// Takes out the last element and returns it.
     TYPE RemoveTail() { return TakeOut(m_chain.Tail()); }
 
+    /// Adds a first element and returns its position.
     POSITION AddHead(ARG_TYPE newElement)
     {
         return Insert(m_chain.Head(), std::forward<ARG_TYPE>(newElement));
     }
+    /// Adds a last element and returns its position.
     POSITION AddTail(ARG_TYPE newElement)
     {
         return Insert(nullptr, std::forward<ARG_TYPE>(newElement));
     }
-    /// Add the elements of a list, in their order; it may be this one. Null throws the
-    /// invalid-argument exception.
+    /// Adds the elements of a list before the first, in their order; it may be this one. Null
+    /// throws the invalid-argument exception.
     void AddHead(const CList_E* pNewList) { InsertList(m_chain.Head(), pNewList); }
+    /// The same behind the last element.
     void AddTail(const CList_E* pNewList) { InsertList(nullptr, pNewList); }
     /// Drops all elements and frees the memory.
     void RemoveAll();
 
     /// The first element's position; null for an empty list.
     POSITION GetHeadPosition() const { return ToPosition(m_chain.Head()); }
+    /// The last element's position; null for an empty list.
     POSITION GetTailPosition() const { return ToPosition(m_chain.Tail()); }
     /// The element at @p rPosition, which moves on to the next one, null at the end.
     TYPE& GetNext(POSITION& rPosition) { return Step(rPosition, &Link::pNext); }
+    /// The same, to be read.
     const TYPE& GetNext(POSITION& rPosition) const { return Step(rPosition, &Link::pNext); }
+    /// The element at @p rPosition, which moves on to the previous one, null at the start.
     TYPE& GetPrev(POSITION& rPosition) { return Step(rPosition, &Link::pPrev); }
+    /// The same, to be read.
     const TYPE& GetPrev(POSITION& rPosition) const { return Step(rPosition, &Link::pPrev); }
 
+    /// The element at a position; a reference is valid until that is removed.
     TYPE& GetAt(POSITION position) { return Data(ToLink(position)); }
+    /// The same, to be read.
     const TYPE& GetAt(POSITION position) const { return Data(ToLink(position)); }
+    /// Overwrites an element, which keeps its position.
     void SetAt(POSITION position, ARG_TYPE newElement)
     {
         Data(ToLink(position)) = std::forward<ARG_TYPE>(newElement);
     }
+    /// Drops an element; the position means nothing from then on.
     void RemoveAt(POSITION position) { Drop(&Required(ToLink(position))); }
     /// Inserts before an element; before null, at the head.
     POSITION InsertBefore(POSITION position, ARG_TYPE newElement)

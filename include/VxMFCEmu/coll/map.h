@@ -89,18 +89,22 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 class CMap_E : public CObject_E
 {
 public:
+    /// @{
+    /// The types that the template was given.
     using BASE_KEY = KEY;
     using BASE_ARG_KEY = ARG_KEY;
     using BASE_VALUE = VALUE;
     using BASE_ARG_VALUE = ARG_VALUE;
+    /// @}
 
     /// An association; belongs to its map.
     struct CPair
     {
-        const KEY key;
-        VALUE value;
+        const KEY key; ///< fixed, for it decides the bucket
+        VALUE value;   ///< may be overwritten
 
     protected:
+        /// Made by the map alone, with a default value.
         explicit CPair(ARG_KEY keyval) : key(std::forward<ARG_KEY>(keyval)), value() {}
     };
 
@@ -108,15 +112,20 @@ public:
     explicit CMap_E(INT_PTR nBlockSize = 10) : m_pool(nBlockSize) {}
     ~CMap_E() override { RemoveAll(); }
 
+    /// @{
+    /// The number of associations, or whether there are none.
     INT_PTR GetCount() const { return m_table.Count(); }
     INT_PTR GetSize() const { return m_table.Count(); }
     BOOL IsEmpty() const { return m_table.Count() == 0; }
+    /// @}
 
     /// Copies the value of @p key; FALSE, leaving @p rValue alone, when it is not there.
     BOOL Lookup(ARG_KEY key, VALUE& rValue) const;
+    /// @{
     /// The association of @p key; null when it is not there.
     const CPair* PLookup(ARG_KEY key) const { return Find(key, Hash(key)); }
     CPair* PLookup(ARG_KEY key) { return Find(key, Hash(key)); }
+    /// @}
     /// The value of @p key, entered with a default one when it is not there.
     VALUE& operator[](ARG_KEY key);
     /// Enters or overwrites.
@@ -134,12 +143,14 @@ public:
     /// Copies the association at @p rNextPosition, which moves on, to null at the end. A null
     /// position gives nothing.
     void GetNextAssoc(POSITION& rNextPosition, KEY& rKey, VALUE& rValue) const;
+    /// @{
     /// The same walk over the associations themselves: the first one, and the one after @p pAssoc,
     /// which must still be there; null at the end and for null.
     const CPair* PGetFirstAssoc() const { return First(); }
     CPair* PGetFirstAssoc() { return First(); }
     const CPair* PGetNextAssoc(const CPair* pAssoc) const { return After(pAssoc); }
     CPair* PGetNextAssoc(const CPair* pAssoc) { return After(pAssoc); }
+    /// @}
 
     /// The number of buckets.
     UINT GetHashTableSize() const { return m_table.Size(); }

@@ -14,7 +14,7 @@ class VXMFC_EXPORT CMemFile_E : public CFile_E
     Q_OBJECT
     DECLARE_DYNAMIC_E(CMemFile_E)
 
-    /// Starts empty and grows in steps of @p nGrowBytes bytes.
+    /// Starts empty. The block grows to a multiple of @p nGrowBytes bytes, at least doubling.
     explicit CMemFile_E(UINT nGrowBytes = 1024);
     /// Works on the caller's block; see Attach().
     CMemFile_E(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
@@ -48,26 +48,30 @@ class VXMFC_EXPORT CMemFile_E : public CFile_E
     using CFile_E::GetStatus;
     /// Gives the length and the name; there are no times.
     BOOL GetStatus(CFileStatus_E& rStatus) const override;
-    /// These three throw the not-supported exception.
+    /// @{
+    /// Throws the not-supported exception.
     CFile_E* Duplicate() const override;
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    /// @}
 
 protected:
+    /// @{
     /// Where the block comes from and goes to; by default the C library's heap. Null means that
     /// memory is out. A class that overrides these calls Close() in its destructor.
     virtual BYTE* Alloc(SIZE_T nBytes);
     virtual BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes);
     virtual void Free(BYTE* lpMem);
+    /// @}
     /// Copies between the block and the caller's memory.
     virtual BYTE* Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, SIZE_T nBytes);
     /// Makes room for @p dwNewLen bytes or throws the memory exception.
     virtual void GrowFile(SIZE_T dwNewLen);
 
-    UINT m_nGrowBytes;
-    SIZE_T m_nPosition = 0;
-    SIZE_T m_nBufferSize = 0;
-    SIZE_T m_nFileSize = 0;
-    BYTE* m_lpBuffer = nullptr;
-    bool m_bAutoDelete = true;
+    UINT m_nGrowBytes;          ///< the step of growing in bytes; 0 when the file cannot grow
+    SIZE_T m_nPosition = 0;     ///< in bytes, perhaps beyond the end
+    SIZE_T m_nBufferSize = 0;   ///< the room of the block in bytes
+    SIZE_T m_nFileSize = 0;     ///< the length of the file in bytes
+    BYTE* m_lpBuffer = nullptr; ///< the block; null while there is none
+    bool m_bAutoDelete = true;  ///< whether Close() frees the block
 };

@@ -45,10 +45,12 @@ class VXMFC_EXPORT CStdioFile_E : public CFile_E
     void Flush() override;
     void Close() override;
     void Abort() override;
-    /// These three throw the not-supported exception.
+    /// @{
+    /// Throws the not-supported exception.
     CFile_E* Duplicate() const override;
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    /// @}
 
     /// Reads up to @p nMax - 1 characters, up to the end of the line with its "\n", and terminates
     /// them. Null at the end of the file and for a null or empty buffer, otherwise @p lpsz.

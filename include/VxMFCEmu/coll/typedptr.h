@@ -40,6 +40,8 @@ class CTypedPtrArray_E : public BASE_CLASS
     using Stored = typename BASE_CLASS::BASE_TYPE;
 
 public:
+    /// @{
+    /// As the members of CArray_E, for pointers of the type.
     TYPE GetAt(INT_PTR nIndex) const { return static_cast<TYPE>(BASE_CLASS::GetAt(nIndex)); }
     TYPE& ElementAt(INT_PTR nIndex)
     {
@@ -60,6 +62,7 @@ public:
     }
     TYPE operator[](INT_PTR nIndex) const { return GetAt(nIndex); }
     TYPE& operator[](INT_PTR nIndex) { return ElementAt(nIndex); }
+    /// @}
 };
 
 /// CPtrList_E or CObList_E with elements of the pointer type @p TYPE.
@@ -70,8 +73,11 @@ class CTypedPtrList_E : public BASE_CLASS
     using Stored = typename BASE_CLASS::BASE_TYPE;
 
 public:
+    /// Memory is taken for @p nBlockSize elements at a time; below 2 means 64.
     explicit CTypedPtrList_E(INT_PTR nBlockSize = 10) : BASE_CLASS(nBlockSize) {}
 
+    /// @{
+    /// As the members of CList_E, for pointers of the type.
     TYPE& GetHead() { return vx::detail::asTyped<TYPE>(BASE_CLASS::GetHead()); }
     TYPE GetHead() const { return static_cast<TYPE>(BASE_CLASS::GetHead()); }
     TYPE& GetTail() { return vx::detail::asTyped<TYPE>(BASE_CLASS::GetTail()); }
@@ -104,6 +110,7 @@ public:
     }
     TYPE GetAt(POSITION position) const { return static_cast<TYPE>(BASE_CLASS::GetAt(position)); }
     void SetAt(POSITION position, TYPE newElement) { BASE_CLASS::SetAt(position, newElement); }
+    /// @}
 };
 
 /// A ready map with keys of type @p KEY and values of type @p VALUE, pointers where those of the
@@ -116,8 +123,11 @@ class CTypedPtrMap_E : public BASE_CLASS
         typename vx::detail::MapMember<decltype(&BASE_CLASS::operator[])>::ResultType>;
 
 public:
+    /// Memory is taken for @p nBlockSize associations at a time; below 2 means 64.
     explicit CTypedPtrMap_E(INT_PTR nBlockSize = 10) : BASE_CLASS(nBlockSize) {}
 
+    /// @{
+    /// As the members of CMap_E, for keys and values of the types.
     BOOL Lookup(BaseKey key, VALUE& rValue) const
     {
         BaseValue value{};
@@ -146,6 +156,7 @@ public:
         rKey = static_cast<KEY>(key);
         rValue = static_cast<VALUE>(value);
     }
+    /// @}
 
 private:
     // Texts are handed in as pointers and kept as strings.

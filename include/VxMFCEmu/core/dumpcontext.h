@@ -22,7 +22,7 @@ public:
     Q_DISABLE_COPY_MOVE(CDumpContext_E)
 
     /// @{
-    /// How deep objects are dumped; only kept.
+    /// How deep objects are dumped: above 0, collections write their elements too.
     int GetDepth() const { return m_nDepth; }
     void SetDepth(int nDepth) { m_nDepth = nDepth; }
     /// @}

@@ -19,21 +19,25 @@
 /// What an automation call reports about its failure.
 struct tagEXCEPINFO
 {
-    WORD wCode;
-    WORD wReserved;
-    BSTR bstrSource; ///< owned by the record's user, like the next two
-    BSTR bstrDescription;
-    BSTR bstrHelpFile;
-    DWORD dwHelpContext;
-    void* pvReserved;
-    HRESULT (*pfnDeferredFillIn)(tagEXCEPINFO*);
-    SCODE scode;
+    WORD wCode;                                  ///< the code of the failure
+    WORD wReserved;                              ///< 0 from Process()
+    BSTR bstrSource;                             ///< owned by the record's user, like the next two
+    BSTR bstrDescription;                        ///< empty rather than null from Process()
+    BSTR bstrHelpFile;                           ///< null when there is no help
+    DWORD dwHelpContext;                         ///< 0 for none
+    void* pvReserved;                            ///< null from Process()
+    HRESULT (*pfnDeferredFillIn)(tagEXCEPINFO*); ///< null from Process()
+    SCODE scode;                                 ///< 0 from Process(): wCode tells
 };
+/// The same record.
 using EXCEPINFO = tagEXCEPINFO;
 
+/// @{
+/// A status code of failure, which is negative.
 inline constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001U);
 inline constexpr HRESULT E_UNEXPECTED = static_cast<HRESULT>(0x8000FFFFU);
 inline constexpr HRESULT E_OUTOFMEMORY = static_cast<HRESULT>(0x8007000EU);
+/// @}
 
 /// Base of the family.
 class VXMFC_EXPORT CException_E : public QException, public CObject_E
@@ -60,14 +64,16 @@ class VXMFC_EXPORT CException_E : public QException, public CObject_E
     /// Deletes the object when it deletes itself.
     void Delete();
 
-    BOOL m_bAutoDelete;
+    BOOL m_bAutoDelete; ///< whether Delete() deletes: above 0
 };
 
 /// An exception that is known by a string resource.
 class VXMFC_EXPORT CSimpleException_E : public CException_E
 {
 public:
+    /// One that Delete() deletes.
     CSimpleException_E() = default;
+    /// See CException_E for @p bAutoDelete; the number of the resource is only kept.
     explicit CSimpleException_E(BOOL bAutoDelete, UINT nResourceID = 0)
         : CException_E(bAutoDelete), m_nResourceID(nResourceID)
     {
@@ -88,6 +94,7 @@ private:
     [[maybe_unused]] UINT m_nResourceID = 0;
 };
 
+/// Memory is out.
 class VXMFC_EXPORT CMemoryException_E : public CSimpleException_E
 {
 public:
@@ -95,6 +102,7 @@ public:
     ~CMemoryException_E() override;
 };
 
+/// What was asked for is not there.
 class VXMFC_EXPORT CNotSupportedException_E : public CSimpleException_E
 {
 public:
@@ -102,6 +110,7 @@ public:
     ~CNotSupportedException_E() override;
 };
 
+/// An argument is none that the function takes.
 class VXMFC_EXPORT CInvalidArgException_E : public CSimpleException_E
 {
 public:
@@ -109,6 +118,7 @@ public:
     ~CInvalidArgException_E() override;
 };
 
+/// A resource was not found or could not be made.
 class VXMFC_EXPORT CResourceException_E : public CSimpleException_E
 {
 public:
@@ -116,6 +126,7 @@ public:
     ~CResourceException_E() override;
 };
 
+/// Stops what the user asked for, once the user has been told.
 class VXMFC_EXPORT CUserException_E : public CSimpleException_E
 {
 public:
@@ -123,11 +134,14 @@ public:
     ~CUserException_E() override;
 };
 
+/// @{
+/// A shared exception, there before the static objects of the program are made.
 extern VXMFC_EXPORT CNotSupportedException_E _simpleNotSupportedException;
 extern VXMFC_EXPORT CResourceException_E _simpleResourceException;
 extern VXMFC_EXPORT CMemoryException_E _simpleMemoryException;
 extern VXMFC_EXPORT CUserException_E _simpleUserException;
 extern VXMFC_EXPORT CInvalidArgException_E _simpleInvalidArgException;
+/// @}
 
 /// A failure of a file operation.
 class VXMFC_EXPORT CFileException_E : public CException_E
@@ -153,6 +167,7 @@ public:
         endOfFile
     };
 
+    /// Null @p lpszFileName is an empty name.
     explicit CFileException_E(int cause = none, LONG lOsError = -1,
                               const wchar_t* lpszFileName = nullptr)
         : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszFileName)
@@ -174,9 +189,9 @@ public:
     /// Throws the exception for a Win32 error number; 0 throws nothing.
     static void ThrowOsError(LONG lOsError, const wchar_t* lpszFileName = nullptr);
 
-    int m_cause;
-    LONG m_lOsError;
-    CString_E m_strFileName;
+    int m_cause;             ///< what kind of failure
+    LONG m_lOsError;         ///< the Win32 error number; -1 when none was given
+    CString_E m_strFileName; ///< of the file; empty when it is not known
 };
 
 /// A failure of reading or writing an archive.
@@ -197,6 +212,7 @@ public:
         bufferFull
     };
 
+    /// Null @p lpszArchiveName is an empty name.
     explicit CArchiveException_E(int cause = none, const wchar_t* lpszArchiveName = nullptr)
         : m_cause(cause), m_strFileName(lpszArchiveName)
     {
@@ -208,8 +224,8 @@ public:
     BOOL GetErrorMessage(wchar_t* lpszError, UINT nMaxError,
                          UINT* pnHelpContext = nullptr) const override;
 
-    int m_cause;
-    CString_E m_strFileName;
+    int m_cause;             ///< what kind of failure
+    CString_E m_strFileName; ///< of the archive; empty when it is not known
 };
 
 /// A failure that a status code describes.
@@ -231,7 +247,7 @@ class VXMFC_EXPORT COleException_E : public CException_E
     /// an exception whose class adds no member.
     static SCODE Process(const CException_E* pAnyException);
 
-    SCODE m_sc = 0;
+    SCODE m_sc = 0; ///< the status code
 };
 
 /// A failure of an automation call.
@@ -253,11 +269,11 @@ public:
     /// a dispatch exception is not copied, the record's is empty.
     static void Process(EXCEPINFO* pInfo, const CException_E* pAnyException);
 
-    WORD m_wCode;
-    CString_E m_strDescription;
-    DWORD m_dwHelpContext;
-    CString_E m_strHelpFile;
-    CString_E m_strSource;
+    WORD m_wCode;               ///< the code of the failure
+    CString_E m_strDescription; ///< the message
+    DWORD m_dwHelpContext;      ///< 0 for none
+    CString_E m_strHelpFile;    ///< empty until it is set
+    CString_E m_strSource;      ///< empty until it is set
 
 private:
     LONGLONG m_scError = 0;
@@ -267,20 +283,31 @@ static_assert(sizeof(CException_E) == 40 && sizeof(CFileException_E) == 88 &&
               sizeof(CArchiveException_E) == 88 && sizeof(COleException_E) == 48 &&
               sizeof(COleDispatchException_E) == 184);
 
+/// @{
+/// Throws the shared exception of that kind.
 [[noreturn]] VXMFC_EXPORT void AfxThrowMemoryException_E();
 [[noreturn]] VXMFC_EXPORT void AfxThrowNotSupportedException_E();
 [[noreturn]] VXMFC_EXPORT void AfxThrowInvalidArgException_E();
 [[noreturn]] VXMFC_EXPORT void AfxThrowResourceException_E();
 [[noreturn]] VXMFC_EXPORT void AfxThrowUserException_E();
+/// @}
+/// Throws a new file exception, which its catcher deletes. CFileException_E::ThrowOsError() finds
+/// the cause itself.
 [[noreturn]] VXMFC_EXPORT void AfxThrowFileException_E(int cause, LONG lOsError = -1,
                                                        const wchar_t* lpszFileName = nullptr);
+/// Throws a new archive exception, which its catcher deletes.
 [[noreturn]] VXMFC_EXPORT void AfxThrowArchiveException_E(int cause,
                                                           const wchar_t* lpszArchiveName = nullptr);
+/// @{
+/// Throws a new exception with a status code, of which 32 bits are kept; its catcher deletes it.
 [[noreturn]] VXMFC_EXPORT void AfxThrowOleException_E(int sc);
 [[noreturn]] VXMFC_EXPORT void AfxThrowOleException_E(long sc);
+/// @}
 /// Throws for a negative status code. Differs from Win32: `long` has 64 bits, so a failure code
 /// must come sign-extended.
 VXMFC_EXPORT void AfxCheckError_E(long sc);
+/// Throws a new dispatch exception, which its catcher deletes; the arguments are those of its
+/// constructor.
 [[noreturn]] VXMFC_EXPORT void
 AfxThrowOleDispatchException_E(WORD wCode, const wchar_t* lpszDescription, UINT nHelpID = 0);
 /// Differs from Win32: the description is one fixed text whatever @p nDescriptionID, which only

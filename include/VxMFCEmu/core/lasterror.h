@@ -2,7 +2,8 @@
 /// The last-error code and the texts of system messages.
 ///
 /// Differs from Win32: the last error is the thread's `errno` itself, so every libc call may change
-/// it; only functions that say so store Win32 numbers. System messages have one fixed form.
+/// it. It is a Win32 number after functions that say so, as those for files do, otherwise what libc
+/// left. System messages have one fixed form.
 ///
 /// Threads: any.
 #pragma once

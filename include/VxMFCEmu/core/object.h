@@ -8,7 +8,7 @@
 /// when it lets go of it. *External*: it never deletes it. *Temporary*: the wrapper itself belongs
 /// to the temporary-object pool and goes at the next idle time.
 ///
-/// Threads: GUI thread only.
+/// Threads: GUI thread only, except where a derived class says otherwise.
 #pragma once
 
 #include <VxMFCEmu/core/runtimeclass.h>
@@ -19,6 +19,7 @@ class CArchive_E;
 class CDumpContext_E;
 class CHandleMap_E;
 
+/// The root: a wrapper of one Qt object.
 class VXMFC_EXPORT CObject_E : public QObject
 {
     Q_OBJECT
@@ -28,6 +29,7 @@ public:
     /// Detaches; see Detach().
     ~CObject_E() override;
 
+    /// The record of this class; derived ones have theirs from the macros.
     static CRuntimeClass_E s_classInfo;
 
     /// Makes the class's default implementation object below @p pParent and attaches it as owned.
@@ -52,9 +54,8 @@ public:
     /// Stores @p pImp without any of Attach()'s work and returns the previous one.
     QObject* SetImpQObject(QObject* pImp);
     /// Binds @p pImp with @p pParent as its "parent"; an earlier one is detached first, and so is a
-    /// temporary wrapper of @p pImp. FALSE for
-    /// null, for an object of a Qt class that cannot implement this class (deleted unless @p
-    /// bExternal) and when OnAttach() refuses.
+    /// temporary wrapper of @p pImp. FALSE for null, for an object of a Qt class that cannot
+    /// implement this class (deleted unless @p bExternal) and when OnAttach() refuses.
     BOOL Attach(QObject* pImp, QObject* pParent, bool bExternal);
     /// Lets go of the implementation object; an owned one is deleted later by the event loop. Where
     /// another wrapper has been bound to it meanwhile, that binding stays.
@@ -62,7 +63,9 @@ public:
 
     /// Hands this object to the temporary-object pool, which deletes it at idle time.
     void SetTemporary();
+    /// Whether this wrapper belongs to the temporary-object pool.
     bool IsTemporary() const { return (m_nObjectFlags & TemporaryFlag) != 0; }
+    /// Whether Detach() leaves the implementation object alive.
     bool IsExternalImpObj() const { return (m_nObjectFlags & ExternalFlag) != 0; }
 
     /// Whether archives can hold objects of this class.
@@ -77,7 +80,10 @@ public:
     /// none.
     BOOL FindSlotMethod(const QString& strName, QMetaMethod& method) const;
 
+    /// The Qt class that implements this class.
     static const QMetaObject* GetImpMetaObject();
+    /// The Qt classes that this class is registered for, a new list owned by the caller; null when
+    /// GetImpMetaObject() is the only one.
     static QList<const QMetaObject*>* GetImpMetaList();
     /// A new wrapper, owned by the caller, for the nearest registered class of @p pMeta's chain;
     /// null when none is registered.

@@ -78,10 +78,12 @@ public:
     static bool RegisterCreateObjectMethod(const QMetaObject* pMeta,
                                            VxCreateObjectFn pfnCreateObject);
 
+    /// @{
     /// The class that is registered for archives by that name, the first of several; null for null
     /// and when there is none. Any thread may ask.
     static CRuntimeClass_E* FromName(const char* lpszClassName);
     static CRuntimeClass_E* FromName(const wchar_t* lpszClassName);
+    /// @}
     /// Writes schema and name as an archive has them. Throws the not-supported exception for a
     /// class without a name in archives.
     void Store(CArchive_E& ar) const;
@@ -113,9 +115,9 @@ struct VXMFC_EXPORT AFX_CLASSINIT_E
     ~AFX_CLASSINIT_E();
     Q_DISABLE_COPY_MOVE(AFX_CLASSINIT_E)
 
-    CRuntimeClass_E* const m_pClass;
-    const char* const m_pszName;
-    bool (*const m_pfnIsInstance)(const CObject_E*);
+    CRuntimeClass_E* const m_pClass; ///< the record of the class
+    const char* const m_pszName;     ///< its name in archives, text of the module that enters it
+    bool (*const m_pfnIsInstance)(const CObject_E*); ///< tells objects of the class
 };
 
 /// The class record of a class.

@@ -355,6 +355,7 @@ constexpr CRect_E CPoint_E::operator-(const tagRECT* prc) const noexcept
 static_assert(sizeof(CPoint_E) == sizeof(tagPOINT) && sizeof(CSize_E) == sizeof(tagSIZE) &&
               sizeof(CRect_E) == sizeof(tagRECT));
 
+/// @{
 /// Two or four LONGs, in the order of the members.
 VXMFC_EXPORT CArchive_E& operator<<(CArchive_E& ar, tagPOINT point);
 VXMFC_EXPORT CArchive_E& operator<<(CArchive_E& ar, tagSIZE size);
@@ -362,3 +363,4 @@ VXMFC_EXPORT CArchive_E& operator<<(CArchive_E& ar, const tagRECT& rect);
 VXMFC_EXPORT CArchive_E& operator>>(CArchive_E& ar, tagPOINT& point);
 VXMFC_EXPORT CArchive_E& operator>>(CArchive_E& ar, tagSIZE& size);
 VXMFC_EXPORT CArchive_E& operator>>(CArchive_E& ar, tagRECT& rect);
+/// @}
