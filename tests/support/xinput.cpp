@@ -141,6 +141,7 @@ void resizeWindow(unsigned long window, QSize size)
 
 void closeWindow(unsigned long window)
 {
+    const IgnoreErrors ignore;
     XEvent e{};
     e.xclient.type = ClientMessage;
     e.xclient.window = window;
