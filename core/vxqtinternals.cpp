@@ -141,6 +141,16 @@ __attribute__((no_sanitize("vptr"))) void forgetLineEdit(QAbstractSpinBox* pBox)
     static_cast<QAbstractSpinBoxPrivate*>(QObjectPrivate::get(pBox))->edit = nullptr;
 }
 
+void forgetUnsaved(const QSettings& settings)
+{
+    for (QConfFile* pFile : filesOf(settings)) {
+        const std::lock_guard lock(pFile->mutex);
+        pFile->addedKeys.clear();
+        pFile->removedKeys.clear();
+        pFile->size = 0; // such a record is not kept for the next store
+    }
+}
+
 struct SettingsContents::Files
 {
     struct File

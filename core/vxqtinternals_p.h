@@ -47,6 +47,9 @@ void setDynamicProperty(QObject* pObject, const QByteArray& name, const QVariant
 /// new one at once.
 void forgetLineEdit(QAbstractSpinBox* pBox);
 
+/// Drops what could not be written to the file of a store, and what is remembered of it.
+void forgetUnsaved(const QSettings& settings);
+
 /// The contents of a store of INI settings at one moment, to find out cheaply whether they have
 /// changed, whoever did it: stores of one file in one process share them.
 ///

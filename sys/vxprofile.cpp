@@ -1,5 +1,7 @@
 #include <VxMFCEmu/sys/profile.h>
 
+#include "core/vxqtinternals_p.h"
+
 #include <VxMFCEmu/text/vxqstring.h>
 
 #include <QtCore/QSettings>
@@ -18,13 +20,33 @@
 
 namespace {
 
-/// The file during one call; what was set is written at its end.
+QString pathOf(LPCWSTR lpFileName)
+{
+    const QString name = VxQString(lpFileName);
+    // Qt has resources under such names.
+    return name.startsWith(QLatin1Char(':')) ? QLatin1String("./") + name : name;
+}
+
+/// The file during one call.
 class Profile : public QSettings
 {
 public:
-    explicit Profile(LPCWSTR lpFileName) : QSettings(VxQString(lpFileName), QSettings::IniFormat)
+    explicit Profile(LPCWSTR lpFileName) : QSettings(pathOf(lpFileName), QSettings::IniFormat)
     {
         setIniCodec("UTF-8");
+    }
+};
+
+/// What was set is written at its end, or forgotten: a later call would write it.
+class WrittenProfile : public Profile
+{
+public:
+    using Profile::Profile;
+    ~WrittenProfile() override
+    {
+        sync();
+        if (status() != NoError)
+            vx::detail::forgetUnsaved(*this);
     }
 };
 
@@ -82,7 +104,7 @@ INT GetPrivateProfileInt_E(LPCWSTR lpSection, LPCWSTR lpKey, INT nDefault, LPCWS
 DWORD GetPrivateProfileSection_E(LPCWSTR lpSection, LPWSTR lpBuffer, DWORD nSize,
                                  LPCWSTR lpFileName)
 {
-    Profile file(lpFileName);
+    WrittenProfile file(lpFileName);
     file.beginGroup(VxQString(lpSection));
     DWORD nPosition = 0;
     const QStringList keys = file.childKeys();
@@ -129,7 +151,7 @@ BOOL WritePrivateProfileString_E(LPCWSTR lpSection, LPCWSTR lpKey, LPCWSTR lpVal
 {
     if (!exists(lpFileName))
         return FALSE;
-    Profile file(lpFileName);
+    WrittenProfile file(lpFileName);
     file.beginGroup(VxQString(lpSection));
     file.setValue(VxQString(lpKey), QString(VxQString(lpValue)));
     return TRUE;
@@ -139,7 +161,7 @@ BOOL WritePrivateProfileSection_E(LPCWSTR lpSection, LPCWSTR lpLines, LPCWSTR lp
 {
     if (!exists(lpFileName))
         return FALSE;
-    Profile file(lpFileName);
+    WrittenProfile file(lpFileName);
     const QStringList lines = VxQString(lpLines).split(QLatin1Char('\r'), Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         QStringList parts = line.split(QLatin1Char('='));
@@ -155,7 +177,7 @@ BOOL WritePrivateProfileStruct_E(LPCWSTR lpSection, LPCWSTR lpKey, LPCVOID lpStr
     constexpr auto kMaxSize = static_cast<UINT>(std::numeric_limits<int>::max());
     if ((!lpStruct && nSize != 0) || nSize > kMaxSize || !exists(lpFileName))
         return FALSE;
-    Profile file(lpFileName);
+    WrittenProfile file(lpFileName);
     file.setValue(keyPath(lpSection, lpKey),
                   QByteArray(static_cast<const char*>(lpStruct), static_cast<int>(nSize)));
     return TRUE;

@@ -64,8 +64,9 @@ LONG renameOpenKey(HKEY hKey, const QString& path, LPCWSTR pNewName)
 
 LONG RegDeleteKey_E(HKEY hKey, LPCWSTR pSubKey)
 {
-    // Intended: another number than elsewhere for null.
-    return hKey && pSubKey ? removeBelow(hKey, pSubKey) : ERROR_PATH_NOT_FOUND;
+    // Intended: another number than elsewhere for what is no key.
+    const bool isRemoved = pSubKey && removeBelow(hKey, pSubKey) == ERROR_SUCCESS;
+    return isRemoved ? ERROR_SUCCESS : ERROR_PATH_NOT_FOUND;
 }
 
 LONG RegDeleteTree_E(HKEY hKey, LPCWSTR pSubKey) { return removeBelow(hKey, pSubKey); }

@@ -148,20 +148,22 @@ LONG queryValue(const QString& path, const Output& output)
     return ERROR_SUCCESS;
 }
 
-bool isKey(HKEY hKey)
+QString queryPath(HKEY hKey, LPCWSTR pValueName)
 {
-    const RegistryLock lock(g_registryMutex);
-    return !registryPath(hKey).isEmpty();
+    return pValueName ? narrowRegistryPath(hKey, pValueName) : valuePath(hKey, LPCWSTR());
 }
 
 // The data as RegQueryValueExA_E() gives them, and a terminator in any case.
 std::vector<BYTE> dataOf(HKEY hKey, LPCSTR pName, LONG& result)
 {
+    // Held for both steps, or the value may have grown in between.
+    const RegistryLock lock(g_registryMutex);
+    const QString path = valuePath(hKey, pName);
     DWORD size = 0;
-    result = RegQueryValueExA_E(hKey, pName, nullptr, nullptr, nullptr, &size);
+    result = queryValue(path, {nullptr, nullptr, &size});
     std::vector<BYTE> data(size + std::size_t(1));
     if (size > 0)
-        result = RegQueryValueExA_E(hKey, pName, nullptr, nullptr, data.data(), nullptr);
+        result = queryValue(path, {nullptr, data.data(), nullptr});
     data.resize(size);
     return data;
 }
@@ -204,9 +206,7 @@ LONG RegQueryValueExW_E(HKEY hKey, LPCWSTR pValueName, LPDWORD /*pReserved*/, LP
                         BYTE* pData, LPDWORD pcbData)
 {
     const RegistryLock lock(g_registryMutex);
-    const QString path =
-        pValueName ? narrowRegistryPath(hKey, pValueName) : valuePath(hKey, LPCWSTR());
-    return queryValue(path, {pdwType, pData, pcbData});
+    return queryValue(queryPath(hKey, pValueName), {pdwType, pData, pcbData});
 }
 
 LONG RegGetValue_E(HKEY hKey, LPCWSTR pSubKey, LPCWSTR /*pValue*/, DWORD /*dwFlags*/,
@@ -246,7 +246,8 @@ LONG RegQueryMultipleValues_E(HKEY hKey, PVALENT pValues, DWORD nValues, LPWSTR 
                               LPDWORD pdwTotalSize)
 {
     constexpr std::size_t kAlignment = 8;
-    if (!isKey(hKey))
+    const RegistryLock lock(g_registryMutex);
+    if (registryPath(hKey).isEmpty())
         return ERROR_INVALID_HANDLE;
     if (!pValues || !pdwTotalSize)
         return ERROR_INVALID_PARAMETER;
@@ -254,13 +255,13 @@ LONG RegQueryMultipleValues_E(HKEY hKey, PVALENT pValues, DWORD nValues, LPWSTR 
     std::vector<VALENT> found(pValues, pValues + nValues);
     for (VALENT& value : found) {
         DWORD size = 0;
-        RegQueryValueExW_E(hKey, value.ve_valuename, nullptr, &value.ve_type, nullptr, &size);
+        const QString path = queryPath(hKey, value.ve_valuename);
+        queryValue(path, {&value.ve_type, nullptr, &size});
         if (size == 0)
             return ERROR_FILE_NOT_FOUND;
         const std::size_t offset = (data.size() + kAlignment - 1) / kAlignment * kAlignment;
         data.resize(offset + size);
-        RegQueryValueExW_E(hKey, value.ve_valuename, nullptr, nullptr, data.data() + offset,
-                           nullptr);
+        queryValue(path, {nullptr, data.data() + offset, nullptr});
         value.ve_valuelen = size;
         value.ve_valueptr = reinterpret_cast<DWORD_PTR>(pValueBuf) + offset;
     }

@@ -254,6 +254,11 @@ TEST_F(Profile, WhatCannotBeWrittenStaysAsItIs)
     setfsuid(geteuid());
     ASSERT_EQ(chmod(folder.constData(), 0755), 0);
     EXPECT_EQ(contentOf(file), "[s]\nk=old\n");
+    // It is forgotten: a later reading neither tells nor writes it.
+    ASSERT_EQ(chmod(file.Utf8Ptr(), 0644), 0);
+    make("[s]\nk=else\n");
+    EXPECT_EQ(stringOf(L"s", L"k", file), L"else");
+    EXPECT_EQ(contentOf(file), "[s]\nk=else\n");
 }
 
 TEST_F(Profile, TenThousandKeysByARelativeName)

@@ -181,8 +181,7 @@ TEST_F(Registry, HandlesThatAreNone)
     for (HKEY hKey : {HKEY(), closed, HKEY(&value), HKEY(0x80000001UL), HKEY(~0UL), HKEY(1UL)}) {
         for (const auto& call : calls) {
             const bool isDeleteKey = &call == &calls[13];
-            EXPECT_EQ(call(hKey),
-                      isDeleteKey && !hKey ? ERROR_PATH_NOT_FOUND : ERROR_INVALID_HANDLE)
+            EXPECT_EQ(call(hKey), isDeleteKey ? ERROR_PATH_NOT_FOUND : ERROR_INVALID_HANDLE)
                 << &call - calls;
         }
         EXPECT_EQ(RegOpenKeyExW_E(hKey, L"a", 0, 0, &closed), ERROR_FILE_NOT_FOUND);
@@ -291,6 +290,14 @@ TEST_F(Registry, ThreadsShareIt)
             RegQueryValueExW_E(hKey, name, nullptr, nullptr, reinterpret_cast<BYTE*>(&read),
                                nullptr);
             EXPECT_EQ(read, i);
+            // Short and long in turn, so that the length may change while it is asked for.
+            const std::string text(i % 2 * 5000, 'x');
+            RegSetValueExA_E(m_hKey, "text", 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                             0);
+            char buffer[5001];
+            LONG nLength = 0;
+            RegQueryValueA_E(m_hKey, "text", buffer, &nLength);
+            EXPECT_EQ(static_cast<LONG>(std::strlen(buffer)) + 1, nLength);
             EXPECT_EQ(RegCloseKey_E(hKey), ERROR_SUCCESS);
         }
     };

@@ -2,7 +2,8 @@
 /// Profile files: sections of keys and values in an INI file.
 ///
 /// Each call opens the file as `QSettings` in its INI format, in UTF-8, and has written it when it
-/// returns; nothing is kept in between. A null section, key, value or default is an empty text.
+/// returns, or forgets what it could not write. What `QSettings` remembers of a file is used while its
+/// size and time of writing stay the same. A null section, key, value or default is an empty text.
 ///
 /// Differs from Win32:
 /// - The file name is the path itself: a relative one starts at the current directory, no folder is
@@ -10,6 +11,7 @@
 /// - Buffer sizes do not protect the buffer: what is written past them is said below.
 /// - A null section or key lists nothing, a null key or value deletes nothing.
 /// - Sections and keys are case-sensitive.
+/// - Writing drops the comments of the file.
 /// - Lines of a section are separated by a carriage return each, not by zeros.
 /// - The syntax is that of `QSettings`. The keys before the first section and those of [General]
 ///   are in the section with the empty name; the name "General" is that of a section [%General]. A

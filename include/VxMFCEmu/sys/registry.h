@@ -32,12 +32,13 @@
 /// the process's locale cannot encode comes out empty as a whole, which makes a sub-key the root
 /// itself; in a locale that is not UTF-8 only ASCII gets through.
 ///
-/// A handle that is neither a predefined root nor open gives ERROR_INVALID_HANDLE, and nothing is
-/// touched. Writes reach the file when `QSettings` writes it: at the next turn of the event loop,
+/// A handle that is neither a predefined root nor open gives ERROR_INVALID_HANDLE, with
+/// RegDeleteKey_E() ERROR_PATH_NOT_FOUND, and nothing is touched. Writes reach the file when `QSettings` writes it: at the next turn of the event loop,
 /// in RegFlushKey_E() and at exit. Its errors are not reported.
 ///
 /// Threads: any. A call is not interrupted by another one's change of the store, RegRenameKey_E()
-/// and RegCopyTree_E() included.
+/// and RegCopyTree_E() included. What another thread than the one that loaded the library has
+/// stored is in the file after RegFlushKey_E(), a later change or the end of the program.
 #pragma once
 
 #include <VxMFCEmu/sys/registrytypes.h>
@@ -167,7 +168,7 @@ VXMFC_EXPORT LONG RegQueryInfoKey_E(HKEY hKey, LPWSTR pClass, LPDWORD pcchClass,
 /// byte.
 VXMFC_EXPORT LONG RegDeleteValue_E(HKEY hKey, LPCWSTR pValueName);
 /// Deletes the key @p pSubKey and all below it; "" is @p hKey itself. ERROR_PATH_NOT_FOUND for a
-/// null @p hKey or @p pSubKey. Differs from Win32: a missing key is no error.
+/// @p hKey that is no key and a null @p pSubKey. Differs from Win32: a missing key is no error.
 VXMFC_EXPORT LONG RegDeleteKey_E(HKEY hKey, LPCWSTR pSubKey);
 /// The same; a null @p pSubKey is @p hKey itself, and a null @p hKey gives ERROR_INVALID_HANDLE.
 VXMFC_EXPORT LONG RegDeleteTree_E(HKEY hKey, LPCWSTR pSubKey);
