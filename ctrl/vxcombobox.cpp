@@ -124,11 +124,15 @@ int CComboBox_E::DeleteString(UINT nIndex)
         const int nRow = static_cast<int>(nIndex);
         if (!hasRow(combo, nRow))
             return CB_ERR;
-        if (nRow == combo.currentIndex()) {
+        const bool isCurrent = nRow == combo.currentIndex();
+        if (isCurrent && combo.currentText() == combo.itemText(nRow)) {
             const QSignalBlocker quiet(&combo);
-            combo.setCurrentIndex(-1);
+            const QSignalBlocker quietEdit(combo.lineEdit());
+            combo.setCurrentIndex(-1); // its text goes with it
         }
-        const QuietItems quiet(combo);
+        const QuietItems quiet(combo); // what the user has typed stays
+        if (isCurrent)
+            combo.setCurrentIndex(-1);
         combo.removeItem(nRow);
         return combo.count();
     });

@@ -79,7 +79,8 @@ int CListBox_E::DeleteString(UINT nIndex)
     return askListItem(*this, nRow, LB_ERR, [nRow](auto& list, auto& item) {
         if (list.currentRow() == nRow) {
             const QSignalBlocker quiet(&list);
-            list.setCurrentRow(-1); // the widget would go on to the next item
+            // The widget would go on to the next item. What else is selected stays so.
+            list.setCurrentRow(-1, QItemSelectionModel::NoUpdate);
         }
         list.removeItemWidget(&item);
         delete &item;

@@ -1,6 +1,8 @@
 #include <VxMFCEmu/dlg/ddv.h>
 
 #include <VxMFCEmu/text/vxqstring.h>
+#include <VxMFCEmu/wnd/controlmessages.h>
+#include <VxMFCEmu/wnd/sendmessage.h>
 #include <VxMFCEmu/wnd/windowtext.h>
 
 #include <QtCore/QLocale>
@@ -72,7 +74,9 @@ void DDV_MaxChars(CDataExchange_E* pDX, const CString_E& value, int nChars)
         pDX->Fail(QStringLiteral("请填入不多于%1个的字符。").arg(nChars));
     // Qt counts UTF-16 units, and would cut through a character that has two.
     const int nUnits = VxQString(value.Left(nChars)).size();
-    SetEditLimitText_E(pDX->m_pLastControl, std::max(nChars, nUnits));
+    const int nLimit = std::max(nChars, nUnits);
+    if (!SetEditLimitText_E(pDX->m_pLastControl, nLimit)) // an edit of several lines, perhaps
+        SendMessage_E(pDX->m_pLastControl, EM_SETLIMITTEXT, static_cast<WPARAM>(nLimit), 0);
 }
 
 // clang-format off

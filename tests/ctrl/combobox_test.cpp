@@ -68,6 +68,7 @@ const Step<Box> kEditable[] = {
     // The selection goes
     {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(99)}; }, "-1", "ABC,1,abd,2.9 @-1 "},
     {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), b.DeleteString(1)}; }, "1 3", "ABC,abd,2.9 @-1 "},
+    {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), (b.GetEditBox()->setText("typed"_q), b.DeleteString(1))}; }, "1 2", "ABC,2.9 @-1 typed"},
     {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), send(b, CB_RESETCONTENT, 0)}; }, "1 0", " @-1 "},
 };
 

@@ -103,6 +103,11 @@ TEST(ListBox, EveryMember)
         form.widget->setItemWidget(form.widget->item(1), cell);
         EXPECT_EQ(form.control.DeleteString(1), 3);
         EXPECT_TRUE(waitUntil([&] { return !cell; }));
+        form.control.SetSel(-1, FALSE);
+        form.control.SetSel(0);
+        form.control.SetCaretIndex(2);
+        EXPECT_EQ(form.control.DeleteString(2), 2);
+        EXPECT_EQ(form.control.GetSel(0), 1) << "selected as before";
     }
 }
 

@@ -1,6 +1,8 @@
 // Every exchange function in its three forms and both directions, and every check.
 #include "support/test.h"
 
+#include <QtTest/QTest>
+
 namespace {
 
 /// A dialog with one control of each kind, and the message that it is asked to show.
@@ -295,6 +297,17 @@ TEST(Ddv, Messages)
         EXPECT_EQ(form.failure(checkOf), QString::fromUtf8(message));
         EXPECT_EQ(form.failure(checkOf, FALSE), QString()) << "loading checks nothing";
     }
+}
+
+TEST(Ddv, LimitsAnEditOfSeveralLines)
+{
+    Form form;
+    QTextEdit several(&form.widget);
+    CDataExchange_E dx(&form.window, FALSE);
+    dx.PrepareCtrl(&several);
+    DDV_MaxChars(&dx, L"", 3);
+    QTest::keyClicks(&several, QStringLiteral("abcdefg"));
+    EXPECT_EQ(several.toPlainText(), "abc"_q);
 }
 
 TEST(Ddv, LimitsTheControl)
