@@ -26,6 +26,21 @@ UINT hashOf(const Char* psz) noexcept
 UINT hashText(const wchar_t* psz) noexcept { return hashOf(psz); }
 UINT hashText(const char* psz) noexcept { return hashOf(psz); }
 
+void serializeUnits(CArchive_E& ar, wchar_t* pElements, INT_PTR nCount)
+{
+    for (wchar_t* const pEnd = pElements + nCount; pElements != pEnd; ++pElements) {
+        WORD unit = static_cast<WORD>(*pElements);
+        if (ar.IsLoading()) {
+            ar >> unit;
+            *pElements = unit;
+            continue;
+        }
+        if (*pElements != static_cast<wchar_t>(unit))
+            AfxThrowNotSupportedException_E();
+        ar << unit;
+    }
+}
+
 void serializeBytes(CArchive_E& ar, void* pElements, std::size_t nBytes)
 {
     constexpr std::size_t nMost = 1U << 30;

@@ -5,6 +5,7 @@
 #include <VxMFCEmu/core/exceptions.h>
 
 #include <algorithm>
+#include <new>
 
 // Numbers go into the buffer as they lie in memory.
 static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__);
@@ -23,7 +24,9 @@ CArchive_E::CArchive_E(CFile_E* pFile, UINT nMode, int nBufSize, void* lpBuf)
     m_strFileName = pFile->GetFilePath();
     if (!lpBuf || nBufSize < kMinBufferSize) {
         nBufSize = std::max(nBufSize, kMinBufferSize);
-        m_pOwnBuffer.reset(new BYTE[static_cast<std::size_t>(nBufSize)]);
+        m_pOwnBuffer.reset(new (std::nothrow) BYTE[static_cast<std::size_t>(nBufSize)]);
+        if (!m_pOwnBuffer)
+            AfxThrowMemoryException_E();
         lpBuf = m_pOwnBuffer.get();
     }
     m_pBuffer = static_cast<BYTE*>(lpBuf);
@@ -152,6 +155,9 @@ void CArchive_E::CheckLoading() const
 void CArchive_E::MakeRoom()
 {
     CheckStoring();
+    // How much of the buffer is in the file is not known.
+    if (m_bWriteFailed)
+        Throw(CArchiveException_E::genericException);
     if (const auto nBytes = static_cast<UINT>(m_pWrite - m_pBuffer); nBytes != 0)
         WriteFile(m_pBuffer, nBytes);
     m_pWrite = m_pBuffer;

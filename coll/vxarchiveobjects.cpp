@@ -49,6 +49,38 @@ struct CArchive_E::LoadingObject
     UINT nOuterSchema;
 };
 
+namespace {
+
+/// An object while it is written. What is written must be read again, which takes more of the
+/// stack: writing is refused first.
+class StoringObject
+{
+public:
+    explicit StoringObject(ArchiveTables& tables) : m_tables(tables)
+    {
+        if (m_tables.depth++ == 0)
+            m_tables.stackAtFirst = vx::detail::stackLeft();
+    }
+    ~StoringObject() { --m_tables.depth; }
+    Q_DISABLE_COPY_MOVE(StoringObject)
+
+    bool isTooDeep() const
+    {
+        const std::size_t first = m_tables.stackAtFirst;
+        const std::size_t used = first - std::min(first, vx::detail::stackLeft());
+        return vx::detail::stackIsLow() || m_tables.depth > first / kLeastOfReading ||
+               used > first / kReadingToWriting;
+    }
+
+private:
+    static constexpr std::size_t kLeastOfReading = 512; // bytes for an object in an object
+    static constexpr std::size_t kReadingToWriting = 6;
+
+    ArchiveTables& m_tables;
+};
+
+} // namespace
+
 void CArchive_E::WriteObject(const CObject_E* pOb)
 {
     CheckStoring();
@@ -60,7 +92,8 @@ void CArchive_E::WriteObject(const CObject_E* pOb)
         PutIndex(nIndex, false);
         return;
     }
-    if (vx::detail::stackIsLow())
+    const StoringObject storing(Tables());
+    if (storing.isTooDeep())
         Throw(CArchiveException_E::genericException);
     WriteClass(pOb->GetRuntimeClass());
     Remember(pOb);

@@ -95,6 +95,8 @@ public:
     /// Storing. Objects and classes are counted together, from 1.
     PointerNumbers numbers;
     DWORD nNext = 1;
+    std::size_t depth = 0;                       // of the object that is being written
+    std::size_t stackAtFirst = 0;                // what was left of the stack for the outermost one
     const CRuntimeClass_E* pLastClass = nullptr; // mostly the next one too
     DWORD nLastClass = 0;
 

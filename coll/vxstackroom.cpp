@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 
 #include <pthread.h>
 
@@ -13,7 +14,7 @@ constexpr std::size_t kReserve = 128 * 1024;
 struct StackBounds
 {
     std::uintptr_t lowest = 0;
-    std::uintptr_t enough = 0; // from here on
+    std::size_t size = 0; // 0: not known
 };
 
 StackBounds measure()
@@ -26,17 +27,26 @@ StackBounds measure()
     std::size_t size;
     if (pthread_attr_getstack(&attributes, &pLowest, &size) == 0) {
         bounds.lowest = reinterpret_cast<std::uintptr_t>(pLowest);
-        bounds.enough = bounds.lowest + std::min(kReserve, size / 4);
+        bounds.size = size;
     }
     pthread_attr_destroy(&attributes);
     return bounds;
 }
 
-} // namespace
-
-bool vx::detail::stackIsLow()
+const StackBounds& boundsHere()
 {
     thread_local const StackBounds bounds = measure();
-    const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-    return here >= bounds.lowest && here < bounds.enough;
+    return bounds;
 }
+
+} // namespace
+
+std::size_t vx::detail::stackLeft()
+{
+    const StackBounds& bounds = boundsHere();
+    const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+    const std::uintptr_t left = here - bounds.lowest;
+    return left < bounds.size ? left : std::numeric_limits<std::size_t>::max();
+}
+
+bool vx::detail::stackIsLow() { return stackLeft() < std::min(kReserve, boundsHere().size / 4); }

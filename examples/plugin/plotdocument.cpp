@@ -1,5 +1,8 @@
 #include "plotdocument.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 // Both ways, so that they cannot differ.
@@ -30,6 +33,19 @@ void exchange(CArchive_E& ar, PlotItem::Kind& kind)
 template <typename T>
 void exchange(CArchive_E& ar, std::vector<T>& elements);
 
+/// Whether an item of a file that may be damaged can be drawn without leaving the range of numbers.
+bool isDrawable(const PlotItem& item)
+{
+    constexpr LONG kFarthest = 1 << 28;
+    const auto isNear = [](LONG n) { return n > -kFarthest && n < kFarthest; };
+    const auto isSmall = [](double d) { return std::abs(d) < 1e8; }; // not for what is no number
+    // Arcs and texts are where their first point is.
+    return !item.points.empty() && isSmall(item.radius) && isSmall(item.start) &&
+           isSmall(item.sweep) && isSmall(item.height) &&
+           std::all_of(item.points.begin(), item.points.end(),
+                       [&](const CPoint_E& point) { return isNear(point.x) && isNear(point.y); });
+}
+
 void exchange(CArchive_E& ar, PlotItem& item)
 {
     exchange(ar, item.kind);
@@ -42,8 +58,7 @@ void exchange(CArchive_E& ar, PlotItem& item)
     exchange(ar, item.hatch);
     exchange(ar, item.height);
     exchange(ar, item.text);
-    // Arcs and texts are where their first point is.
-    if (item.points.empty())
+    if (ar.IsLoading() && !isDrawable(item))
         AfxThrowArchiveException_E(CArchiveException_E::badIndex, ar.m_strFileName);
 }
 
@@ -71,15 +86,23 @@ void CPlotDocument::Serialize(CArchive_E& ar)
     exchange(ar, m_items);
     exchange(ar, m_ptCentre);
     exchange(ar, m_dZoom);
+    // Where nothing of the plot can be in view.
+    if (ar.IsLoading() && (std::abs(static_cast<double>(m_ptCentre.x)) > 1e8 ||
+                           std::abs(static_cast<double>(m_ptCentre.y)) > 1e8))
+        AfxThrowArchiveException_E(CArchiveException_E::badIndex, ar.m_strFileName);
 }
 
 void SaveDocument(const CPlotDocument& document, const wchar_t* lpszPath)
 {
-    CFile_E file(lpszPath, CFile_E::modeCreate | CFile_E::modeWrite | CFile_E::shareExclusive);
+    // Beside it first: a good document is not lost to a full disk.
+    const CString_E strNew = CString_E(lpszPath) + L".new";
+    CFile_E file(strNew, CFile_E::modeCreate | CFile_E::modeWrite | CFile_E::shareExclusive);
     CArchive_E ar(&file, CArchive_E::store);
     ar << &document;
     ar.Close();
     file.Close();
+    if (!MoveFileEx_E(strNew, lpszPath, MOVEFILE_REPLACE_EXISTING))
+        CFileException_E::ThrowOsError(static_cast<LONG>(GetLastError()), lpszPath);
 }
 
 std::unique_ptr<CPlotDocument> OpenDocument(const wchar_t* lpszPath)

@@ -32,7 +32,8 @@ public:
     static inline int s_nMade = 0;
 };
 using Maps =
-    testing::Types<CMap_E<CString_E, LPCWSTR, int, int>, CMap_E<Key, const Key&, int, const int&>>;
+    testing::Types<CMap_E<CString_E, LPCWSTR, int, int>, CMap_E<CString_E, CString_E, int, int>,
+                   CMap_E<Key, const Key&, int, const int&>>;
 TYPED_TEST_SUITE(MapOf, Maps);
 
 TYPED_TEST(MapOf, AgreesWithAnUnorderedMap)
@@ -66,6 +67,8 @@ TYPED_TEST(MapOf, AgreesWithAnUnorderedMap)
         auto key = this->keyOf(0);
         int value = 0;
         map.GetNextAssoc(position, key, value);
+        const auto wanted = this->keyOf(value % 1000);
+        ASSERT_TRUE(CompareElements(&key, &wanted));
         walked[value % 1000] = value;
         EXPECT_TRUE(map.RemoveKey(key));
     }

@@ -14,10 +14,11 @@
 ///
 /// Failures throw a CArchiveException_E, and let those of the file pass: readOnly and writeOnly for
 /// the wrong direction, endOfFile where bytes are missing, badIndex, badClass and badSchema for
-/// what an archive of the program's classes does not have, genericException for a closed archive,
-/// for objects nested too deeply for the stack and for a text longer than a string can be. Memory
-/// is taken only as the bytes come in. An object whose reading fails is deleted; those that it had
-/// been handed before belong to whoever stored them.
+/// what an archive of the program's classes does not have, genericException for a closed archive
+/// and one whose file has refused a part, for a text longer than a string can be, and for objects
+/// nested too deeply for the stack; writing refuses them before they are too deep for reading.
+/// Memory is taken only as the bytes come in. An object whose reading fails is deleted; those that
+/// it had been handed before belong to whoever stored them.
 ///
 /// Threads: an archive is used by one thread at a time; any thread may have its own.
 #pragma once

@@ -126,10 +126,11 @@ private:
     void MakeRoomFor(INT_PTR nNeeded);
     void Reallocate(INT_PTR nMaxSize);
 
-    TYPE* m_pData = nullptr;
-    INT_PTR m_nSize = 0;
-    INT_PTR m_nMaxSize = 0;
-    INT_PTR m_nGrowBy = 0;
+protected:
+    TYPE* m_pData = nullptr; ///< the elements; owned, from `malloc`
+    INT_PTR m_nSize = 0;     ///< how many there are
+    INT_PTR m_nMaxSize = 0;  ///< for how many there is room
+    INT_PTR m_nGrowBy = 0;   ///< as SetSize() has set it
 };
 
 template <class TYPE, class ARG_TYPE>

@@ -34,6 +34,8 @@ constexpr UINT foldHash(std::uint64_t value) noexcept
 
 /// Writes or reads the bytes of elements, as the archive's direction is.
 VXMFC_EXPORT void serializeBytes(CArchive_E& ar, void* pElements, std::size_t nBytes);
+/// Writes or reads characters as one UTF-16 code unit each.
+VXMFC_EXPORT void serializeUnits(CArchive_E& ar, wchar_t* pElements, INT_PTR nCount);
 
 /// Makes an element at @p pPlace from an argument; one that only takes assignments is made first
 /// and then assigned to.
@@ -117,11 +119,16 @@ UINT HashKey(ARG_KEY key)
         return vx::detail::foldHash(static_cast<DWORD_PTR>(key));
 }
 
-/// Writes or reads elements: strings and objects as the archive has them, others bit by bit.
+/// Writes or reads elements: strings, objects and truth values as the archive has them, characters
+/// as one UTF-16 code unit each, others bit by bit. A character beyond U+FFFF throws the
+/// not-supported exception: a string has room for it.
 template <class TYPE>
 void SerializeElements(CArchive_E& ar, TYPE* pElements, INT_PTR nCount)
 {
-    if constexpr (std::is_same_v<TYPE, CString_E> || std::is_same_v<TYPE, CObject_E*>) {
+    if constexpr (std::is_same_v<TYPE, wchar_t>) {
+        vx::detail::serializeUnits(ar, pElements, nCount);
+    } else if constexpr (std::is_same_v<TYPE, CString_E> || std::is_same_v<TYPE, CObject_E*> ||
+                         std::is_same_v<TYPE, bool>) {
         for (TYPE* const pEnd = pElements + nCount; pElements != pEnd; ++pElements) {
             if (ar.IsStoring())
                 ar << *pElements;

@@ -178,7 +178,8 @@ private:
         }
     };
 
-    static UINT Hash(KeyRef key) { return HashKey<ARG_KEY>(std::forward<ARG_KEY>(key)); }
+    // A copy where HashKey() takes a value: the key itself is still needed.
+    static UINT Hash(KeyRef key) { return HashKey<ARG_KEY>(key); }
     static POSITION ToPosition(Link* pLink) { return reinterpret_cast<POSITION>(pLink); }
     static Assoc* ToAssoc(Link* pLink) { return static_cast<Assoc*>(pLink); }
     Assoc* First() const { return ToAssoc(m_table.First()); }
