@@ -3,13 +3,15 @@
 #include <VxMFCEmu/coll/filehandle.h>
 #include <VxMFCEmu/sys/errorcodes.h>
 
+#include "coll/vxfileio_p.h"
+#include "coll/vxfilename_p.h"
 #include "coll/vxfileopen_p.h"
 #include "coll/vxoserror_p.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 
 #include <fcntl.h>
 #include <sys/sendfile.h>
@@ -27,7 +29,7 @@ public:
     ~Descriptor()
     {
         if (m_fd >= 0)
-            ::close(m_fd);
+            closeFile(m_fd);
     }
     Q_DISABLE_COPY_MOVE(Descriptor)
 
@@ -37,14 +39,31 @@ private:
     const int m_fd;
 };
 
+LONG copyThroughMemory(int from, int to)
+{
+    std::array<char, 0x10000> buffer;
+    std::size_t nRead = 0, nWritten = 0;
+    LONG error;
+    do {
+        error = readBytes(from, buffer.data(), buffer.size(), nRead);
+        if (error == NO_ERROR)
+            error = writeBytes(to, buffer.data(), nRead, nWritten);
+    } while (error == NO_ERROR && nRead != 0);
+    return error;
+}
+
 LONG copyBytes(int from, int to)
 {
     constexpr std::size_t kAtOnce = 1U << 30U;
+    bool bBegun = false;
     ssize_t n;
-    do {
-        n = ::sendfile(to, from, nullptr, kAtOnce);
-    } while (n > 0 || (n < 0 && errno == EINTR));
-    return n == 0 ? NO_ERROR : osErrorOf(errno);
+    while ((n = ::sendfile(to, from, nullptr, kAtOnce)) > 0 || (n < 0 && errno == EINTR))
+        bBegun = bBegun || n > 0;
+    if (n == 0)
+        return NO_ERROR;
+    // Not every file can be sent: those of /proc cannot.
+    return !bBegun && (errno == EINVAL || errno == ENOSYS) ? copyThroughMemory(from, to)
+                                                           : osErrorOf(errno);
 }
 
 /// Contents, attributes and the time of the last writing.
@@ -57,26 +76,25 @@ LONG copyAll(int from, int to)
     if (error != NO_ERROR)
         return error;
     const timespec times[] = {{0, UTIME_NOW}, info.st_mtim};
-    return ::fchmod(to, info.st_mode & 0777U) == 0 && ::futimens(to, times) == 0 ? NO_ERROR
-                                                                                 : osErrorOf(errno);
+    // They cannot be set where the file is somebody else's.
+    return (::fchmod(to, info.st_mode & 0777U) == 0 && ::futimens(to, times) == 0) || errno == EPERM
+               ? NO_ERROR
+               : osErrorOf(errno);
 }
 
-/// The file beside which the copy is made: a link's target stays in its place.
-QByteArray resolved(const QByteArray& name)
+/// Into a new file beside the target that takes its place when all is well; a link stays in its
+/// place. Into the target itself, which is open, where the folder lets nobody make a file.
+LONG replaceFile(int from, const QByteArray& to, int toFd)
 {
-    const std::unique_ptr<char, decltype(&std::free)> path(::realpath(name.constData(), nullptr),
-                                                           &std::free);
-    return path ? QByteArray(path.get()) : name;
-}
-
-/// Into a new file beside the target that takes its place when all is well.
-LONG replaceFile(int from, const QByteArray& to)
-{
-    const QByteArray target = resolved(to);
-    QByteArray name = target + ".XXXXXX";
+    const QByteArray target = resolvedName(to);
+    // A name of its own, for one with an end to it could be too long.
+    QByteArray name = folderOf(target) + ".XXXXXX";
     const Descriptor copy(::mkostemp(name.data(), O_CLOEXEC));
-    if (copy.Get() < 0)
-        return osErrorOf(errno, name);
+    if (copy.Get() < 0) {
+        if (errno != EACCES && errno != EROFS && errno != EPERM)
+            return osErrorOf(errno, name);
+        return ::ftruncate(toFd, 0) == 0 ? copyAll(from, toFd) : osErrorOf(errno);
+    }
     LONG error = copyAll(from, copy.Get());
     if (error == NO_ERROR && ::rename(name.constData(), target.constData()) != 0)
         error = osErrorOf(errno, target);
@@ -102,10 +120,10 @@ LONG vx::detail::copyFile(const QByteArray& from, const QByteArray& to, bool bFa
     struct stat info;
     const bool bReplace =
         opened.bExisted && ::fstat(target.Get(), &info) == 0 && S_ISREG(info.st_mode);
-    error = bReplace          ? replaceFile(source.Get(), to)
+    error = bReplace          ? replaceFile(source.Get(), to, target.Get())
             : opened.bExisted ? copyBytes(source.Get(), target.Get()) // a device
                               : copyAll(source.Get(), target.Get());
     if (error != NO_ERROR && !opened.bExisted)
-        ::unlink(to.constData());
+        ::unlink(resolvedName(to).constData());
     return error;
 }

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -101,13 +102,17 @@ CFile_E::operator HANDLE() const
 
 BOOL CFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileException_E* pError)
 {
-    const LONG error = OpenFile(lpszFileName, nOpenFlags);
-    if (error != NO_ERROR && pError) {
-        pError->m_cause = CFileException_E::OsErrorToException(error);
-        pError->m_lOsError = error;
+    return ReportOpen(OpenFile(lpszFileName, nOpenFlags), lpszFileName, pError);
+}
+
+BOOL CFile_E::ReportOpen(LONG lOsError, const wchar_t* lpszFileName, CFileException_E* pError)
+{
+    if (lOsError != NO_ERROR && pError) {
+        pError->m_cause = CFileException_E::OsErrorToException(lOsError);
+        pError->m_lOsError = lOsError;
         pError->m_strFileName = lpszFileName;
     }
-    return succeeded(error);
+    return succeeded(lOsError);
 }
 
 LONG CFile_E::OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags)
@@ -132,18 +137,46 @@ void CFile_E::Adopt(int fd, bool bCloseOnDelete)
     pFile->open(fd, deviceMode(fd) | QIODevice::Unbuffered, QFileDevice::DontCloseHandle);
     m_hFile = fd;
     m_bCloseOnDelete = bCloseOnDelete;
+    m_nProcess = ::getpid();
+}
+
+void CFile_E::AdoptHandle(HANDLE hFile)
+{
+    const CFile_E* const pFile = fileOfHandle(hFile);
+    if (!pFile || pFile->m_hFile == hFileNull)
+        AfxThrowFileException_E(CFileException_E::invalidFile, ERROR_INVALID_HANDLE);
+    m_strFileName = pFile->m_strFileName;
+    Adopt(static_cast<int>(pFile->m_hFile), false);
+    m_hBorrowed = hFile;
 }
 
 LONG CFile_E::ReleaseFile(bool bClose)
 {
     if (QFile* const pFile = deviceOf(*this))
         pFile->close();
-    const auto fd = static_cast<int>(m_hFile);
-    m_hFile = hFileNull;
+    if (bClose)
+        ReleaseLocks();
+    const auto fd = static_cast<int>(std::exchange(m_hFile, hFileNull));
+    const HANDLE hBorrowed = std::exchange(m_hBorrowed, nullptr);
+    m_pSharers.reset();
     m_bCloseOnDelete = false;
     m_ranges.clear();
     m_strFileName.Empty();
-    return fd != hFileNull && bClose && ::close(fd) != 0 ? osErrorOf(errno) : NO_ERROR;
+    if (fd == hFileNull || !bClose)
+        return NO_ERROR;
+    if (hBorrowed)
+        return CloseHandle_E(hBorrowed) ? NO_ERROR : errno;
+    return ::close(fd) == 0 ? NO_ERROR : osErrorOf(errno);
+}
+
+void CFile_E::ReleaseLocks()
+{
+    const bool bLast = !m_pSharers || m_pSharers->fetch_sub(1) == 1;
+    m_pSharers.reset();
+    // A forked process must leave alone what its parent has locked, and a descriptor that came from
+    // elsewhere may have duplicates that nobody knows.
+    if (bLast && m_bCloseOnDelete && m_hFile != hFileNull && m_nProcess == ::getpid())
+        releaseLocks(static_cast<int>(m_hFile));
 }
 
 CFile_E* CFile_E::Duplicate() const
@@ -159,6 +192,10 @@ void CFile_E::DuplicateTo(CFile_E* pFile) const
     Check(fd < 0 ? osErrorOf(errno) : NO_ERROR);
     pFile->m_strFileName = m_strFileName;
     pFile->Adopt(fd, true);
+    if (!m_pSharers)
+        m_pSharers = std::make_shared<std::atomic<int>>(1);
+    m_pSharers->fetch_add(1);
+    pFile->m_pSharers = m_pSharers;
 }
 
 UINT CFile_E::Read(void* lpBuf, UINT nCount)

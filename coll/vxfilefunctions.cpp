@@ -53,11 +53,34 @@ LONG moveByCopying(const QByteArray& from, const QByteArray& to, const FileInfo&
     const LONG error = copyFile(from, to, !bReplace);
     if (error != NO_ERROR)
         return error == ERROR_FILE_EXISTS ? ERROR_ALREADY_EXISTS : error;
-    return ::unlink(from.constData()) == 0 ? NO_ERROR : osErrorOf(errno, from);
+    ::unlink(from.constData()); // Intended: one that must stay is no failure, as on Windows.
+    return NO_ERROR;
+}
+
+bool isSame(const struct stat& a, const struct stat& b)
+{
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+/// Whether two names are two links to a file: renaming leaves them both. One name can be written in
+/// two ways, and then it is one link.
+bool areTwoLinks(const QByteArray& a, const QByteArray& b)
+{
+    struct stat first, second;
+    if (::lstat(a.constData(), &first) != 0 || ::lstat(b.constData(), &second) != 0 ||
+        !isSame(first, second) || S_ISDIR(first.st_mode) || first.st_nlink < 2)
+        return false;
+    const QByteArray folderA = folderOf(a), folderB = folderOf(b);
+    return a.mid(folderA.size()) != b.mid(folderB.size()) ||
+           ::stat(folderA.isEmpty() ? "." : folderA.constData(), &first) != 0 ||
+           ::stat(folderB.isEmpty() ? "." : folderB.constData(), &second) != 0 ||
+           !isSame(first, second);
 }
 
 LONG moveFile(const QByteArray& from, const QByteArray& to, DWORD dwFlags)
 {
+    if ((dwFlags & MOVEFILE_DELAY_UNTIL_REBOOT) != 0)
+        return ERROR_NOT_SUPPORTED;
     FileInfo info;
     const LONG error = fileInfo(from, info, true);
     if (error != NO_ERROR)
@@ -69,8 +92,9 @@ LONG moveFile(const QByteArray& from, const QByteArray& to, DWORD dwFlags)
     if (bReplace && fileInfo(to, target) == NO_ERROR &&
         (target.attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0)
         return ERROR_ACCESS_DENIED;
-    const int result = bReplace ? ::rename(from.constData(), to.constData())
-                                : renameToNew(from.constData(), to.constData());
+    const int result = !bReplace               ? renameToNew(from.constData(), to.constData())
+                       : areTwoLinks(from, to) ? ::unlink(from.constData())
+                                               : ::rename(from.constData(), to.constData());
     if (result == 0)
         return NO_ERROR;
     if (errno == EXDEV && (dwFlags & MOVEFILE_COPY_ALLOWED) != 0)

@@ -14,6 +14,10 @@
 #include <cerrno>
 #include <limits>
 #include <memory>
+#include <utility>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace vx::detail;
 
@@ -23,12 +27,43 @@ namespace {
 class HandleFile : public CFile_E
 {
 public:
-    HandleFile(int fd, const QString& name)
+    HandleFile(int fd, const QString& name, bool bDeleteOnClose)
     {
         m_strFileName = QFileInfo(name).absoluteFilePath();
+        if (bDeleteOnClose)
+            m_deleted = resolvedName(QFile::encodeName(name));
         Adopt(fd, true);
     }
-    ~HandleFile() override { forgetFileHandle(this); }
+    ~HandleFile() override
+    {
+        forgetFileHandle(this);
+        DeleteFile();
+    }
+
+    void Close() override
+    {
+        DeleteFile();
+        CFile_E::Close();
+    }
+    void Abort() override
+    {
+        DeleteFile();
+        CFile_E::Abort();
+    }
+
+private:
+    /// Deletes the file that is about to be closed, if that was asked for.
+    void DeleteFile()
+    {
+        struct stat own, named;
+        const QByteArray name = std::exchange(m_deleted, {});
+        if (!name.isEmpty() && ::fstat(static_cast<int>(m_hFile), &own) == 0 &&
+            ::lstat(name.constData(), &named) == 0 && own.st_dev == named.st_dev &&
+            own.st_ino == named.st_ino)
+            ::unlink(name.constData());
+    }
+
+    QByteArray m_deleted; // the name to delete; empty for none
 };
 
 /// Does @p work with the descriptor behind a handle; the work gives a Win32 error number.
@@ -89,7 +124,8 @@ HANDLE CreateFile_E(LPCWSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShareMode
         errno = error;
         return INVALID_HANDLE_VALUE;
     }
-    auto pFile = std::make_unique<HandleFile>(opened.fd, name);
+    auto pFile = std::make_unique<HandleFile>(
+        opened.fd, name, (dwFlagsAndAttributes & FILE_FLAG_DELETE_ON_CLOSE) != 0);
     rememberFileHandle(pFile.get(), true);
     const bool bAlways =
         dwCreationDisposition == CREATE_ALWAYS || dwCreationDisposition == OPEN_ALWAYS;

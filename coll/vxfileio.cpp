@@ -42,7 +42,9 @@ LONG writeBytes(int fd, const void* pBuffer, std::size_t nCount, std::size_t& nD
     nDone = 0;
     while (nDone < nCount) {
         const ssize_t n = ::write(fd, static_cast<const char*>(pBuffer) + nDone, nCount - nDone);
-        if (n >= 0)
+        if (n == 0)
+            return ERROR_WRITE_FAULT;
+        if (n > 0)
             nDone += static_cast<std::size_t>(n);
         else if (errno != EINTR)
             return errorOfUse(fd, errno, O_WRONLY);
@@ -95,6 +97,14 @@ LONG setRangeLock(int fd, ULONGLONG nFirst, ULONGLONG nCount, bool bLock) noexce
     if (::fcntl(fd, F_OFD_SETLK, &lock) == 0)
         return NO_ERROR;
     return errno == EACCES ? ERROR_LOCK_VIOLATION : osErrorOf(errno);
+}
+
+void releaseLocks(int fd) noexcept
+{
+    struct flock lock = {};
+    lock.l_type = F_UNLCK;
+    lock.l_whence = SEEK_SET; // a length of 0 reaches to the end
+    ::fcntl(fd, F_OFD_SETLK, &lock);
 }
 
 LONG syncToDisk(int fd) noexcept

@@ -16,6 +16,8 @@ LONG lengthOf(int fd, ULONGLONG& nLength) noexcept;
 LONG setLength(int fd, ULONGLONG nLength) noexcept;
 /// A range that reaches up to the marks of sharing is cut off there.
 LONG setRangeLock(int fd, ULONGLONG nFirst, ULONGLONG nCount, bool bLock) noexcept;
+/// Drops every lock of an open file, the marks of sharing too.
+void releaseLocks(int fd) noexcept;
 /// Waits for the disk.
 LONG syncToDisk(int fd) noexcept;
 

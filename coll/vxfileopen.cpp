@@ -3,6 +3,7 @@
 #include <VxMFCEmu/coll/filehandle.h>
 #include <VxMFCEmu/sys/errorcodes.h>
 
+#include "coll/vxfileio_p.h"
 #include "coll/vxoserror_p.h"
 
 #include <cerrno>
@@ -107,13 +108,22 @@ int systemFlags(const OpenRequest& request)
            ((request.flags & FILE_FLAG_WRITE_THROUGH) != 0 ? O_SYNC : 0);
 }
 
+int openUninterrupted(const QByteArray& name, int flags)
+{
+    int fd;
+    do {
+        fd = ::open(name.constData(), flags, 0666);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
 LONG openDescriptor(const QByteArray& name, const OpenRequest& request,
                     vx::detail::OpenedFile& opened)
 {
     const int flags = systemFlags(request);
     opened = {-1, true};
     if (makes(request)) {
-        opened.fd = ::open(name.constData(), flags | O_CREAT | O_EXCL, 0666);
+        opened.fd = openUninterrupted(name, flags | O_CREAT | O_EXCL);
         opened.bExisted = opened.fd < 0;
         if (opened.fd >= 0)
             return NO_ERROR;
@@ -122,7 +132,11 @@ LONG openDescriptor(const QByteArray& name, const OpenRequest& request,
         if (errno != EEXIST)
             return osErrorOf(errno, name);
     }
-    opened.fd = ::open(name.constData(), flags | (makes(request) ? O_CREAT : 0), 0666);
+    opened.fd = openUninterrupted(name, flags);
+    if (opened.fd < 0 && errno == ENOENT && makes(request)) { // a link that leads nowhere
+        opened.fd = openUninterrupted(name, flags | O_CREAT);
+        opened.bExisted = false;
+    }
     return opened.fd < 0 ? osErrorOf(errno, name) : NO_ERROR;
 }
 
@@ -153,6 +167,12 @@ LONG prepare(const QByteArray& name, const OpenRequest& request,
 
 } // namespace
 
+void vx::detail::closeFile(int fd) noexcept
+{
+    releaseLocks(fd);
+    ::close(fd);
+}
+
 LONG vx::detail::openFile(const QByteArray& name, const OpenRequest& request, OpenedFile& opened)
 {
     if (name.isEmpty())
@@ -165,6 +185,6 @@ LONG vx::detail::openFile(const QByteArray& name, const OpenRequest& request, Op
         return error;
     error = prepare(name, request, opened);
     if (error != NO_ERROR)
-        ::close(opened.fd);
+        closeFile(opened.fd);
     return error;
 }

@@ -26,6 +26,9 @@ struct OpenedFile
 /// file is emptied.
 LONG openFile(const QByteArray& name, const OpenRequest& request, OpenedFile& opened);
 
+/// Closes what openFile() opened; its marks go at once, even while a forked process has it.
+void closeFile(int fd) noexcept;
+
 /// Where the marks of sharing begin in a file, in bytes; what is locked lies below.
 inline constexpr long long kSharingMarks = 1LL << 62;
 

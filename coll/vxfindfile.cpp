@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
+#include <mutex>
+#include <unordered_map>
 #include <vector>
 
 #include <dirent.h>
@@ -19,13 +21,43 @@ using namespace vx::detail;
 
 namespace {
 
+/// A name as the system has it, which need not be UTF-8, and as text.
+struct Name
+{
+    QByteArray bytes;
+    QString text;
+};
+
 /// A search: the names found at its beginning.
 struct Search
 {
     QByteArray folder; // with "/" at its end
-    std::vector<QString> names;
+    std::vector<Name> names;
     std::size_t next = 0;
 };
+
+/// The searches that have begun and not ended.
+struct Searches
+{
+    std::mutex mutex;
+    std::unordered_map<HANDLE, std::unique_ptr<Search>> begun;
+};
+
+/// Never destroyed: static objects of an application may search later than this library's live.
+Searches& searches()
+{
+    static auto* const all = new Searches;
+    return *all;
+}
+
+/// The search behind a handle; null for what is none.
+Search* searchOf(HANDLE hFindFile)
+{
+    Searches& all = searches();
+    const std::lock_guard<std::mutex> guard(all.mutex);
+    const auto found = all.begun.find(hFindFile);
+    return found == all.begun.end() ? nullptr : found->second.get();
+}
 
 std::u32string codePoints(const QString& text)
 {
@@ -43,13 +75,13 @@ LONG findNames(const QString& path, Search& search)
     if (!folder)
         return errno == ENOENT ? ERROR_PATH_NOT_FOUND : osErrorOf(errno);
     while (const dirent* const entry = ::readdir(folder.get())) {
-        QString name = QFile::decodeName(entry->d_name);
-        if (matchesWildcards(pattern, codePoints(name)))
+        Name name = {entry->d_name, QFile::decodeName(entry->d_name)};
+        if (matchesWildcards(pattern, codePoints(name.text)))
             search.names.push_back(std::move(name));
     }
-    std::sort(search.names.begin(), search.names.end(), [](const QString& a, const QString& b) {
-        const int order = a.compare(b, Qt::CaseInsensitive);
-        return order != 0 ? order < 0 : a < b;
+    std::sort(search.names.begin(), search.names.end(), [](const Name& a, const Name& b) {
+        const int order = a.text.compare(b.text, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : a.text < b.text;
     });
     return NO_ERROR;
 }
@@ -72,10 +104,10 @@ void fill(WIN32_FIND_DATA& data, const QString& name, const FileInfo& info)
 bool nextFile(Search& search, WIN32_FIND_DATA& data)
 {
     while (search.next < search.names.size()) {
-        const QString& name = search.names[search.next++];
+        const Name& name = search.names[search.next++];
         FileInfo info;
-        if (fileInfo(search.folder + QFile::encodeName(name), info, true) == NO_ERROR) {
-            fill(data, name, info);
+        if (fileInfo(search.folder + name.bytes, info, true) == NO_ERROR) {
+            fill(data, name.text, info);
             return true;
         }
     }
@@ -101,23 +133,24 @@ HANDLE FindFirstFile_E(LPCWSTR lpFileName, LPWIN32_FIND_DATA lpFindFileData)
         return noSearch(error);
     if (!nextFile(*search, *lpFindFileData))
         return noSearch(ERROR_FILE_NOT_FOUND);
-    return search.release();
+    Searches& all = searches();
+    const std::lock_guard<std::mutex> guard(all.mutex);
+    const HANDLE hFindFile = search.get();
+    all.begun.emplace(hFindFile, std::move(search));
+    return hFindFile;
 }
 
 BOOL FindNextFile_E(HANDLE hFindFile, LPWIN32_FIND_DATA lpFindFileData)
 {
-    if (!hFindFile || hFindFile == INVALID_HANDLE_VALUE)
-        return failWith(ERROR_INVALID_HANDLE);
-    if (!lpFindFileData)
-        return failWith(ERROR_INVALID_PARAMETER);
-    return nextFile(*static_cast<Search*>(hFindFile), *lpFindFileData) ||
-           failWith(ERROR_NO_MORE_FILES);
+    Search* const pSearch = searchOf(hFindFile);
+    if (!pSearch || !lpFindFileData)
+        return failWith(pSearch ? ERROR_INVALID_PARAMETER : ERROR_INVALID_HANDLE);
+    return nextFile(*pSearch, *lpFindFileData) || failWith(ERROR_NO_MORE_FILES);
 }
 
 BOOL FindClose_E(HANDLE hFindFile)
 {
-    if (!hFindFile || hFindFile == INVALID_HANDLE_VALUE)
-        return failWith(ERROR_INVALID_HANDLE);
-    delete static_cast<Search*>(hFindFile);
-    return TRUE;
+    Searches& all = searches();
+    const std::lock_guard<std::mutex> guard(all.mutex);
+    return all.begun.erase(hFindFile) != 0 || failWith(ERROR_INVALID_HANDLE);
 }

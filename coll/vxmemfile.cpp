@@ -3,11 +3,10 @@
 #include <VxMFCEmu/core/exceptions.h>
 #include <VxMFCEmu/sys/errorcodes.h>
 
-#include "coll/vxoserror_p.h"
-
 #include <QtCore/QFile>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -43,12 +42,7 @@ BYTE* CMemFile_E::Detach()
 
 BOOL CMemFile_E::Open(const wchar_t* lpszFileName, UINT, CFileException_E* pError)
 {
-    if (pError) {
-        pError->m_cause = CFileException_E::genericException;
-        pError->m_lOsError = ERROR_NOT_SUPPORTED;
-        pError->m_strFileName = lpszFileName;
-    }
-    return vx::detail::failWith(ERROR_NOT_SUPPORTED);
+    return ReportOpen(ERROR_NOT_SUPPORTED, lpszFileName, pError);
 }
 
 UINT CMemFile_E::Read(void* lpBuf, UINT nCount)
@@ -72,8 +66,15 @@ void CMemFile_E::Write(const void* lpBuf, UINT nCount)
     if (nCount > std::numeric_limits<std::size_t>::max() - m_nPosition)
         AfxThrowMemoryException_E();
     const std::size_t newPosition = m_nPosition + nCount;
-    if (newPosition > m_nBufferSize)
+    if (newPosition > m_nBufferSize) {
+        // What is written may be part of the block, which moves.
+        const auto offset =
+            reinterpret_cast<std::uintptr_t>(lpBuf) - reinterpret_cast<std::uintptr_t>(m_lpBuffer);
+        const bool bOwnBytes = m_lpBuffer && offset < m_nBufferSize;
         GrowFile(newPosition);
+        if (bOwnBytes)
+            lpBuf = m_lpBuffer + offset;
+    }
     if (m_nPosition > m_nFileSize)
         std::memset(m_lpBuffer + m_nFileSize, 0, m_nPosition - m_nFileSize);
     Memcpy(m_lpBuffer + m_nPosition, static_cast<const BYTE*>(lpBuf), nCount);

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
+#include <limits>
 #include <utility>
 
 #include <fcntl.h>
@@ -70,8 +71,9 @@ BOOL CStdioFile_E::Open(const wchar_t* lpszFileName, UINT nOpenFlags, CFileExcep
     const auto fd = static_cast<int>(m_hFile);
     m_pStream = ::fdopen(fd, streamMode(fd));
     if (!m_pStream) {
+        const LONG error = osErrorOf(errno);
         ReleaseFile(true);
-        return failWith(ERROR_NOT_ENOUGH_MEMORY);
+        return ReportOpen(error, lpszFileName, pError);
     }
     ::__fsetlocking(m_pStream, FSETLOCKING_BYCALLER);
     if (!m_pBuffer)
@@ -88,16 +90,21 @@ void CStdioFile_E::Close()
     if (!m_pStream)
         return;
     const CString_E strFileName = m_strFileName;
-    const int error = std::fflush(m_pStream) == 0 ? 0 : errno;
-    CStdioFile_E::Abort();
-    CFileException_E::ThrowOsError(osErrorOf(error), strFileName.GetString());
+    CFileException_E::ThrowOsError(osErrorOf(CloseStream()), strFileName.GetString());
 }
 
-void CStdioFile_E::Abort()
+void CStdioFile_E::Abort() { CloseStream(); }
+
+/// Closes the stream, whatever happens, and gives the first error.
+int CStdioFile_E::CloseStream()
 {
+    // Written before others may open the file.
+    const int flushed = !m_pStream || std::fflush(m_pStream) == 0 ? 0 : errno;
+    ReleaseLocks();
     ReleaseFile(false);
-    if (m_pStream)
-        std::fclose(std::exchange(m_pStream, nullptr));
+    const int closed =
+        !m_pStream || std::fclose(std::exchange(m_pStream, nullptr)) == 0 ? 0 : errno;
+    return flushed != 0 ? flushed : closed;
 }
 
 std::FILE& CStdioFile_E::Stream() const
@@ -111,6 +118,10 @@ std::FILE& CStdioFile_E::Stream() const
 std::FILE& CStdioFile_E::StreamFor(Use use)
 {
     std::FILE& stream = Stream();
+    if (!m_bCloseOnDelete) // the caller's stream, which it may have used itself
+        m_use = ::__fwriting(&stream) != 0   ? Use::Writing
+                : ::__freading(&stream) != 0 ? Use::Reading
+                                             : Use::None;
     if (m_use != use && m_use != Use::None)
         CheckStream(::fseeko(&stream, 0, SEEK_CUR) == 0);
     m_use = use;
@@ -131,6 +142,7 @@ std::FILE& CStdioFile_E::TextStream()
         std::ungetc(byte, &stream);
         while (seen > 0)
             std::ungetc(static_cast<BYTE>(kByteOrderMark[--seen]), &stream);
+        m_bAtStart = byte == EOF && ::feof_unlocked(&stream); // the file is empty as yet
     }
     return stream;
 }
@@ -144,6 +156,13 @@ void CStdioFile_E::CheckStream(bool bGood) const
     Check(m_use == Use::None ? osErrorOf(error)
                              : errorOfUse(static_cast<int>(m_hFile), error,
                                           m_use == Use::Reading ? O_RDONLY : O_WRONLY));
+}
+
+/// The end of the file must not stick to the stream: more may be written.
+void CStdioFile_E::CheckRead(bool bGood)
+{
+    CheckStream(bGood && !::ferror_unlocked(m_pStream));
+    ::clearerr_unlocked(m_pStream);
 }
 
 UINT CStdioFile_E::Read(void* lpBuf, UINT nCount)
@@ -162,7 +181,7 @@ UINT CStdioFile_E::Read(void* lpBuf, UINT nCount)
         for (int byte; done < nCount && (byte = NextByte()) != EOF;)
             pBytes[done++] = static_cast<char>(byte);
     }
-    CheckStream(!::ferror_unlocked(&stream));
+    CheckRead(true);
     return static_cast<UINT>(done);
 }
 
@@ -217,21 +236,22 @@ ULONGLONG CStdioFile_E::GetPosition() const
 
 ULONGLONG CStdioFile_E::GetLength() const
 {
-    if (m_use == Use::Writing)
-        CheckStream(std::fflush(&Stream()) == 0);
+    if (::__fwriting(&Stream()))
+        CheckStream(std::fflush(m_pStream) == 0);
     return CFile_E::GetLength();
 }
 
 void CStdioFile_E::SetLength(ULONGLONG dwNewLen)
 {
-    Flush();
+    // What has been read ahead as well: it may be cut off.
+    CheckStream(std::fflush(&Stream()) == 0);
     Check(vx::detail::setLength(Descriptor(), dwNewLen));
     Seek(static_cast<LONGLONG>(dwNewLen), begin);
 }
 
 void CStdioFile_E::Flush()
 {
-    if (m_pStream && m_use == Use::Writing)
+    if (m_pStream && ::__fwriting(m_pStream))
         CheckStream(std::fflush(m_pStream) == 0);
 }
 
@@ -272,12 +292,12 @@ wchar_t* CStdioFile_E::ReadString(wchar_t* lpsz, UINT nMax)
 {
     if (!lpsz || nMax == 0)
         return nullptr;
-    std::FILE& stream = TextStream();
+    TextStream();
     UINT count = 0;
     int character = 0;
     while (count < nMax - 1 && character != '\n' && (character = NextCharacter()) != EOF)
         lpsz[count++] = character;
-    CheckStream(!::ferror_unlocked(&stream));
+    CheckRead(true);
     lpsz[count] = L'\0';
     return count != 0 || character != EOF ? lpsz : nullptr;
 }
@@ -286,11 +306,13 @@ BOOL CStdioFile_E::ReadString(CString_E& rString)
 {
     std::FILE& stream = TextStream();
     const ssize_t got = ::getdelim(&m_pLine, &m_nLine, '\n', &stream);
-    CheckStream(!::ferror_unlocked(&stream));
+    CheckRead(got >= 0 || ::feof_unlocked(&stream)); // memory may have run out
     if (got <= 0) {
         rString.Empty();
         return FALSE;
     }
+    if (got > std::numeric_limits<int>::max())
+        AfxThrowMemoryException_E();
     auto length = static_cast<std::size_t>(got);
     if (m_pLine[length - 1] == '\n')
         length -= m_bText && length > 1 && m_pLine[length - 2] == '\r' ? 2 : 1;

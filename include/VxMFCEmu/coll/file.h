@@ -24,7 +24,10 @@
 #include <VxMFCEmu/core/object.h>
 #include <VxMFCEmu/text/cstring.h>
 
+#include <atomic>
 #include <ctime>
+#include <memory>
+#include <type_traits>
 #include <vector>
 
 class CFileException_E;
@@ -106,6 +109,14 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// Works on an open descriptor, which stays open when the object is destroyed; Close() closes
     /// it.
     explicit CFile_E(INT_PTR hFile);
+    /// Works on the file of a handle such as one from CreateFile_E(), which stays open when the
+    /// object is destroyed; Close() closes it. What is no handle of an open file throws the
+    /// exception with the cause invalidFile. A template, so that a literal 0 is a descriptor.
+    template <typename Handle, typename = std::enable_if_t<std::is_same_v<Handle, HANDLE>>>
+    explicit CFile_E(Handle hFile) : CFile_E()
+    {
+        AdoptHandle(hFile);
+    }
     /// Opens a file or throws a CFileException_E.
     CFile_E(const wchar_t* lpszFileName, UINT nOpenFlags);
     /// Closes the file, without an exception.
@@ -188,8 +199,15 @@ protected:
     LONG OpenFile(const wchar_t* lpszFileName, UINT nOpenFlags);
     /// Takes an open descriptor, closed at the end with @p bCloseOnDelete.
     void Adopt(int fd, bool bCloseOnDelete);
+    /// Takes the file of a handle, which Close() closes.
+    void AdoptHandle(HANDLE hFile);
+    /// What Open() returns for a Win32 error number, filling @p pError if there is one.
+    static BOOL ReportOpen(LONG lOsError, const wchar_t* lpszFileName, CFileException_E* pError);
     /// Lets the descriptor go, which is closed unless somebody else does; the error of closing.
     LONG ReleaseFile(bool bClose);
+    /// Lets others open and lock the file before it is closed, even while a forked process still
+    /// has it; with duplicates, the last one does.
+    void ReleaseLocks();
     /// Binds @p pFile to another descriptor of the same file.
     void DuplicateTo(CFile_E* pFile) const;
 
@@ -202,6 +220,9 @@ private:
         ULONGLONG first;
         ULONGLONG count;
     };
-    std::vector<Range> m_ranges; // what is locked
+    std::vector<Range> m_ranges;                          // what is locked
+    mutable std::shared_ptr<std::atomic<int>> m_pSharers; // counts duplicates; null without any
+    HANDLE m_hBorrowed = nullptr;                         // the handle whose descriptor this is
+    int m_nProcess = 0;                                   // where the descriptor was taken
     mutable bool m_bIsHandle = false;
 };

@@ -11,7 +11,8 @@
 /// out.
 ///
 /// Differs from Win32: there are no short names that could match; the folder part is
-/// case-sensitive.
+/// case-sensitive. A name that is not UTF-8 is given with U+FFFD for its wrong bytes, and no file
+/// is found by that name.
 ///
 /// Threads: a search is used by one thread at a time.
 #pragma once

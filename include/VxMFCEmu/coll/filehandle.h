@@ -37,6 +37,19 @@ inline constexpr DWORD TRUNCATE_EXISTING = 5; ///< empties it; needs GENERIC_WRI
 
 /// A flag of CreateFile_E(): writing returns when the bytes are on the disk.
 inline constexpr DWORD FILE_FLAG_WRITE_THROUGH = 0x80000000;
+/// A flag of CreateFile_E(): closing the handle deletes the file that it opened, unless another one
+/// has its name meanwhile.
+inline constexpr DWORD FILE_FLAG_DELETE_ON_CLOSE = 0x04000000;
+/// @{
+/// A flag of CreateFile_E() that is ignored.
+inline constexpr DWORD FILE_FLAG_OVERLAPPED = 0x40000000;
+inline constexpr DWORD FILE_FLAG_NO_BUFFERING = 0x20000000;
+inline constexpr DWORD FILE_FLAG_RANDOM_ACCESS = 0x10000000;
+inline constexpr DWORD FILE_FLAG_SEQUENTIAL_SCAN = 0x08000000;
+inline constexpr DWORD FILE_FLAG_BACKUP_SEMANTICS = 0x02000000;
+inline constexpr DWORD FILE_FLAG_POSIX_SEMANTICS = 0x01000000;
+inline constexpr DWORD FILE_FLAG_OPEN_REPARSE_POINT = 0x00200000;
+/// @}
 
 /// @{
 /// What SetFilePointer_E() counts from.
@@ -97,8 +110,9 @@ using LPOVERLAPPED = _OVERLAPPED*;
 /// as in file.h.
 ///
 /// Differs from Win32: of attributes and flags only FILE_ATTRIBUTE_READONLY, for a file that is
-/// made, and FILE_FLAG_WRITE_THROUGH count; the template is ignored; without any access the file is
-/// opened for reading, whatever others forbid; folders cannot be opened (ERROR_ACCESS_DENIED).
+/// made, FILE_FLAG_WRITE_THROUGH and FILE_FLAG_DELETE_ON_CLOSE count; the template is ignored;
+/// without any access the file is opened for reading, whatever others forbid; folders cannot be
+/// opened (ERROR_ACCESS_DENIED).
 VXMFC_EXPORT HANDLE CreateFile_E(LPCWSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShareMode,
                                  LPSECURITY_ATTRIBUTES pAttributes, DWORD dwCreationDisposition,
                                  DWORD dwFlagsAndAttributes, HANDLE hTemplateFile);

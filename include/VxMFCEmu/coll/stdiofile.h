@@ -9,7 +9,8 @@
 /// and "\r\n" is read as "\n", bytes as well as strings. With typeBinary everything stands as it
 /// is.
 ///
-/// Positions and lengths count the bytes of the file.
+/// Positions and lengths count the bytes of the file. Reading goes on behind an end that the file
+/// has outgrown.
 ///
 /// Threads: a file is used by one thread at a time; any thread may have its own.
 #pragma once
@@ -55,7 +56,8 @@ class VXMFC_EXPORT CStdioFile_E : public CFile_E
     /// Reads up to @p nMax - 1 characters, up to the end of the line with its "\n", and terminates
     /// them. Null at the end of the file and for a null or empty buffer, otherwise @p lpsz.
     virtual wchar_t* ReadString(wchar_t* lpsz, UINT nMax);
-    /// Reads a line without its end; FALSE, and empty, at the end of the file.
+    /// Reads a line without its end; FALSE, and empty, at the end of the file. One that no string
+    /// can hold throws the memory exception.
     virtual BOOL ReadString(CString_E& rString);
     /// Writes text; null throws the invalid-argument exception.
     virtual void WriteString(const wchar_t* lpsz);
@@ -75,6 +77,8 @@ private:
     std::FILE& StreamFor(Use use);
     std::FILE& TextStream();
     void CheckStream(bool bGood) const;
+    void CheckRead(bool bGood);
+    int CloseStream();
     int NextByte();
     int NextCharacter();
     void WriteBytes(const char* pBytes, std::size_t nCount);
@@ -82,7 +86,7 @@ private:
     Use m_use = Use::None; // the last one since the position was set
     bool m_bText = true;
     bool m_bAtStart = false;
-    std::string m_text;      // what is being written
+    std::string m_text; // what is being written
     std::unique_ptr<char[]> m_pBuffer;
     char* m_pLine = nullptr; // what is being read, from the C library's heap
     std::size_t m_nLine = 0;
