@@ -6,6 +6,7 @@
 #include "coll/vxfileio_p.h"
 #include "coll/vxoserror_p.h"
 #include "coll/vxutf8_p.h"
+#include "text/vxtranscode_p.h"
 
 #include <QtCore/QFile>
 
@@ -32,6 +33,22 @@ const char* streamMode(int fd)
 {
     static constexpr const char* modes[] = {"r", "w", "r+", "r+"};
     return modes[::fcntl(fd, F_GETFL) & O_ACCMODE];
+}
+
+/// Writes a text, for which there is room, and returns the place behind it.
+char* encode(std::wstring_view text, char* out)
+{
+    while (!text.empty()) {
+        const std::size_t nPlain = narrowAscii(text, out);
+        out += nPlain;
+        text.remove_prefix(nPlain);
+        // The number is rounded down to this.
+        const std::wstring_view next = text.substr(0, 16);
+        for (const wchar_t character : next)
+            out = encodeCharacter(out, static_cast<char32_t>(character));
+        text.remove_prefix(next.size());
+    }
+    return out;
 }
 
 } // namespace
@@ -332,14 +349,19 @@ void CStdioFile_E::WriteString(const wchar_t* lpsz)
     if (!lpsz)
         AfxThrowInvalidArgException_E();
     StreamFor(Use::Writing);
-    const std::size_t most = std::wcslen(lpsz) * kLongestCharacter;
-    if (m_text.size() < most)
-        m_text.resize(most);
+    std::wstring_view text = lpsz;
+    if (m_text.size() < text.size() * kLongestCharacter)
+        m_text.resize(text.size() * kLongestCharacter);
     char* out = m_text.data();
-    for (const wchar_t* p = lpsz; *p; ++p) {
-        if (*p == L'\n' && m_bText)
-            *out++ = '\r';
-        out = encodeCharacter(out, static_cast<char32_t>(*p));
+    while (m_bText) {
+        const std::size_t nLine = text.find(L'\n');
+        if (nLine == std::wstring_view::npos)
+            break;
+        out = encode(text.substr(0, nLine), out);
+        *out++ = '\r';
+        *out++ = '\n';
+        text.remove_prefix(nLine + 1);
     }
+    out = encode(text, out);
     WriteBytes(m_text.data(), static_cast<std::size_t>(out - m_text.data()));
 }

@@ -119,8 +119,8 @@ std::wstring widen(const unsigned char* p, std::size_t n)
     return std::wstring(p, p + n);
 }
 
-// Writes the bytes of the leading ASCII characters and returns their number, which may be rounded
-// down.
+} // namespace
+
 std::size_t narrowAscii(std::wstring_view text, char* out)
 {
     std::size_t done = 0;
@@ -145,6 +145,8 @@ std::size_t narrowAscii(std::wstring_view text, char* out)
         out[done] = static_cast<char>(text[done]);
     return done;
 }
+
+namespace {
 
 // The bytes of a character, the first one lowest.
 

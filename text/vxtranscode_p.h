@@ -17,6 +17,9 @@ inline constexpr char kSimplifiedChinese[] = "chs";
 std::wstring utf8ToWide(std::string_view bytes);
 /// At most @p maxCount characters; each invalid byte becomes U+FFFD.
 std::wstring utf8ToWideLossy(std::string_view bytes, std::size_t maxCount);
+/// Writes the bytes of the leading ASCII characters and returns their number, which may be rounded
+/// down.
+std::size_t narrowAscii(std::wstring_view text, char* out);
 /// A terminated array from new[], owned by the caller. Throws `std::range_error`
 /// ("wstring_convert::to_bytes") for surrogates and values above 0x10FFFF.
 char* wideToUtf8(std::wstring_view text);
