@@ -77,7 +77,8 @@ LONG copyAll(int from, int to)
         return error;
     const timespec times[] = {{0, UTIME_NOW}, info.st_mtim};
     // They cannot be set where the file is somebody else's.
-    return (::fchmod(to, info.st_mode & 0777U) == 0 && ::futimens(to, times) == 0) || errno == EPERM
+    const auto isDone = [](int result) { return result == 0 || errno == EPERM; };
+    return isDone(::fchmod(to, info.st_mode & 0777U)) && isDone(::futimens(to, times))
                ? NO_ERROR
                : osErrorOf(errno);
 }

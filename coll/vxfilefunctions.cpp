@@ -71,9 +71,10 @@ bool areTwoLinks(const QByteArray& a, const QByteArray& b)
         !isSame(first, second) || S_ISDIR(first.st_mode) || first.st_nlink < 2)
         return false;
     const QByteArray folderA = folderOf(a), folderB = folderOf(b);
-    return a.mid(folderA.size()) != b.mid(folderB.size()) ||
-           ::stat(folderA.isEmpty() ? "." : folderA.constData(), &first) != 0 ||
-           ::stat(folderB.isEmpty() ? "." : folderB.constData(), &second) != 0 ||
+    if (a.mid(folderA.size()) != b.mid(folderB.size()))
+        return true;
+    return ::stat(folderA.isEmpty() ? "." : folderA.constData(), &first) == 0 &&
+           ::stat(folderB.isEmpty() ? "." : folderB.constData(), &second) == 0 &&
            !isSame(first, second);
 }
 

@@ -285,6 +285,26 @@ TEST_F(FileTest, SharingSeesOtherProcessesAndKeepsTheFile)
     EXPECT_EQ(failureOf([&] { CFile_E other(path, kWrite | F::shareDenyNone); }), kNoFailure);
 }
 
+TEST_F(FileTest, ClosingEndsSharingForForkedProcessesToo)
+{
+    auto pFile = std::make_unique<CStdioFile_E>(Make("abc"), kBoth);
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    const auto open = [&] { CFile_E other(Path(), kRead); };
+    char c = 0;
+    const pid_t child = ::fork();
+    if (child == 0) { // has the file open until the pipe closes
+        ::close(ends[1]);
+        ::_exit(static_cast<int>(::read(ends[0], &c, 1)));
+    }
+    EXPECT_EQ(failureOf(open), kShared);
+    pFile.reset();
+    EXPECT_EQ(failureOf(open), kNoFailure);
+    ::close(ends[0]);
+    ::close(ends[1]);
+    EXPECT_EQ(::waitpid(child, nullptr, 0), child);
+}
+
 TEST_F(FileTest, Ranges)
 {
     constexpr ULONGLONG all = ~0ULL;

@@ -1,5 +1,8 @@
 #include "filetest.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 /// Runs a call and gives the last error, 0 for success.
@@ -86,6 +89,33 @@ TEST_F(FileTest, CopiesKeepTimesAndLinks)
               ERROR_SHARING_VIOLATION);
 }
 
+TEST_F(FileTest, CopiesOfUnusualFiles)
+{
+    const std::string longest(255, 'n');
+    EXPECT_TRUE(CopyFile_E(Make("new"), Make("old", longest.c_str()), FALSE));
+    EXPECT_EQ(Bytes(longest.c_str()), "new");
+    EXPECT_TRUE(CopyFile_E(L"/proc/self/status", Path("status"), FALSE));
+    EXPECT_TRUE(Bytes("status").startsWith("Name:"));
+    ASSERT_TRUE(QFile::link(VxQString(Path("nothing")), VxQString(Path("link"))));
+    EXPECT_FALSE(CopyFile_E(L"/proc/self/mem", Path("link"), FALSE)); // cannot be read at 0
+    EXPECT_EQ(Bytes("nothing"), "<none>");
+    EXPECT_TRUE(CopyFile_E(Path(), Path("link"), FALSE));
+    EXPECT_EQ(Bytes("nothing"), "new");
+}
+
+TEST_F(FileTest, MovesOverAnotherLink)
+{
+    const QByteArray name = VxQString(Make("x")).toUtf8();
+    ASSERT_EQ(::link(name.constData(), (name + "2").constData()), 0);
+    EXPECT_TRUE(MoveOver(Path(), Path("./f"))); // one link, written in two ways
+    EXPECT_EQ(Bytes(), "x");
+    EXPECT_TRUE(MoveOver(Path(), Path("f2")));
+    EXPECT_EQ(Bytes() + Bytes("f2"), "<none>x");
+    EXPECT_EQ(
+        errorOf([&] { return MoveFileEx_E(Path("f2"), Path("f"), MOVEFILE_DELAY_UNTIL_REBOOT); }),
+        ERROR_NOT_SUPPORTED);
+}
+
 TEST_F(FileTest, Attributes)
 {
     CreateDirectory_E(Path(".d"), nullptr);
@@ -142,6 +172,13 @@ TEST_F(FileFindTest, Wildcards)
         EXPECT_EQ(Find(pattern), names) << pattern;
 }
 
+TEST_F(FileFindTest, NamesThatAreNoText)
+{
+    const QByteArray name = QFile::encodeName(m_dir.path()) + "/a\xFF.txt";
+    ::close(::open(name.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+    EXPECT_EQ(Find("*.txt"), "a\uFFFD.txt");
+}
+
 TEST_F(FileFindTest, TellsOfFiles)
 {
     Make("abc", ".hidden.txt");
@@ -186,6 +223,9 @@ TEST_F(FileFindTest, Failures)
 {
     WIN32_FIND_DATA data;
     CFileFind_E finder;
+    const HANDLE hEnded = FindFirstFile_E(Path("*"), &data);
+    EXPECT_EQ(errorOf([&] { return FindNextFile_E(hEnded, nullptr); }), ERROR_INVALID_PARAMETER);
+    EXPECT_TRUE(FindClose_E(hEnded));
     const Row<std::function<BOOL()>, LONG> rows[] = {
         {[&] { return finder.FindFile(Path("no")); }, kNoFile},
         {[&] { return finder.FindFile(Path("no/*")); }, kNoPath},
@@ -193,6 +233,9 @@ TEST_F(FileFindTest, Failures)
         {[&] { return finder.FindFile(L""); }, kNoPath},
         {[&] { return finder.FindNextFile(); }, ERROR_INVALID_HANDLE},
         {[&] { return FindNextFile_E(INVALID_HANDLE_VALUE, &data); }, ERROR_INVALID_HANDLE},
+        {[&] { return FindNextFile_E(hEnded, &data); }, ERROR_INVALID_HANDLE},
+        {[&] { return FindNextFile_E(&data, &data); }, ERROR_INVALID_HANDLE},
+        {[&] { return FindClose_E(hEnded); }, ERROR_INVALID_HANDLE},
         {[&] { return FindClose_E(nullptr); }, ERROR_INVALID_HANDLE}};
     for (const auto& [call, error] : rows)
         EXPECT_EQ(errorOf(call), error);

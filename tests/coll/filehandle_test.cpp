@@ -145,4 +145,33 @@ TEST_F(FileTest, AFileIsAHandle)
     EXPECT_TRUE(CloseHandle_E(h)); // deleted all the same
 }
 
+TEST_F(FileTest, AHandleIsAFile)
+{
+    const HANDLE h = CreateFile_E(Make("abc"), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_EQ(CFile_E(h).GetLength(), 3U);
+    CFile_E file(h); // still open
+    EXPECT_STREQ(file.GetFileName().GetString(), L"f");
+    file.Close();
+    EXPECT_FALSE(CloseHandle_E(h));
+    for (const HANDLE bad : {h, INVALID_HANDLE_VALUE, HANDLE{}})
+        EXPECT_EQ(failureOf([&] { CFile_E none(bad); }),
+                  Failure(CFileException_E::invalidFile, ERROR_INVALID_HANDLE));
+    EXPECT_EQ(CFile_E(0).m_hFile, 0); // a descriptor
+}
+
+TEST_F(FileTest, DeletesOnClose)
+{
+    for (const bool bRenamed : {false, true}) {
+        const HANDLE h = CreateFile_E(Path(), kReadWrite, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                                      FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        EXPECT_EQ(Bytes(), "");
+        if (bRenamed) {
+            EXPECT_TRUE(MoveFile_E(Path(), Path("moved")));
+            Make("another");
+        }
+        EXPECT_TRUE(CloseHandle_E(h));
+        EXPECT_EQ(Bytes(), bRenamed ? "another" : "<none>");
+    }
+}
+
 } // namespace

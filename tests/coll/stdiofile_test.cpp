@@ -105,6 +105,22 @@ TEST_F(FileTest, ReadingAndWritingTakeTurns)
     EXPECT_EQ(Bytes(), "one\nT!");
 }
 
+TEST_F(FileTest, ReadingFollowsTheFile)
+{
+    CStdioFile_E file(Make("one\ntwo\n"), CFile_E::modeReadWrite | CFile_E::shareDenyNone);
+    CString_E line;
+    EXPECT_TRUE(file.ReadString(line));
+    file.SetLength(5); // of what has been read ahead already
+    file.SeekToBegin();
+    EXPECT_EQ(linesOf(file), (Lines{L"one", L"t"}));
+    CFile_E(Path(), CFile_E::modeWrite | CFile_E::shareDenyNone).SetLength(9); // the file grows
+    EXPECT_EQ(piecesOf(file, 8).size(), 1U);
+    char byte;
+    EXPECT_EQ(file.Read(&byte, 1), 0U);
+    CFile_E(Path(), CFile_E::modeWrite | CFile_E::shareDenyNone).SetLength(10);
+    EXPECT_EQ(file.Read(&byte, 1), 1U);
+}
+
 TEST_F(FileTest, TextFilesTellWhatTheyCannotDo)
 {
     CStdioFile_E file(Make("x"), CFile_E::modeRead);
@@ -131,7 +147,12 @@ TEST_F(FileTest, OpenStreams)
     std::FILE* const pStream = std::tmpfile();
     CStdioFile_E(pStream).WriteString(L"a\n");
     EXPECT_EQ(std::ftell(pStream), 3); // still open
-    CStdioFile_E(pStream).Close();
+    std::fputs("b\n", pStream);
+    CStdioFile_E file(pStream);
+    file.SeekToBegin();
+    std::fputs("A", pStream); // the program's own, between
+    EXPECT_EQ(linesOf(file), (Lines{L"", L"b"}));
+    file.Close();
     EXPECT_EQ(failureOf([] { CStdioFile_E file(static_cast<std::FILE*>(nullptr)); }).first,
               CFileException_E::invalidFile);
 }
@@ -178,6 +199,19 @@ TEST(MemFile, GrowsAndReadsBack)
     EXPECT_EQ(failureOf([&] { file.Seek(-6, CFile_E::current); }).first, CFileException_E::badSeek);
     EXPECT_FALSE(file.Open(L"f", CFile_E::modeRead));
     EXPECT_THROW(file.LockRange(0, 1), CNotSupportedException_E*);
+}
+
+TEST(MemFile, WritesOfItsOwnBlock)
+{
+    CMemFile_E file;
+    file.Write("abcd", 4);
+    BYTE* const pBlock = file.Detach();
+    file.Attach(pBlock, 4, 1);
+    file.Write("abcd", 4);
+    file.Write(pBlock + 1, 3); // and moves
+    BYTE* const pMoved = file.Detach();
+    EXPECT_EQ(std::memcmp(pMoved, "abcdbcd", 7), 0);
+    std::free(pMoved);
 }
 
 TEST(MemFile, AttachedBlocks)
