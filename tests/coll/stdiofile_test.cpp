@@ -153,7 +153,7 @@ TEST_F(FileTest, OpenStreams)
     std::fputs("A", pStream); // the program's own, between
     EXPECT_EQ(linesOf(file), (Lines{L"", L"b"}));
     file.Close();
-    EXPECT_EQ(failureOf([] { CStdioFile_E file(static_cast<std::FILE*>(nullptr)); }).first,
+    EXPECT_EQ(failureOf([] { CStdioFile_E none(static_cast<std::FILE*>(nullptr)); }).first,
               CFileException_E::invalidFile);
 }
 
