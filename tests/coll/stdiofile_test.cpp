@@ -148,12 +148,12 @@ TEST_F(FileTest, OpenStreams)
     CStdioFile_E(pStream).WriteString(L"a\n");
     EXPECT_EQ(std::ftell(pStream), 3); // still open
     std::fputs("b\n", pStream);
-    CStdioFile_E file(pStream);
-    file.SeekToBegin();
+    CStdioFile_E stream(pStream);
+    stream.SeekToBegin();
     std::fputs("A", pStream); // the program's own, between
-    EXPECT_EQ(linesOf(file), (Lines{L"", L"b"}));
-    file.Close();
-    EXPECT_EQ(failureOf([] { CStdioFile_E none(static_cast<std::FILE*>(nullptr)); }).first,
+    EXPECT_EQ(linesOf(stream), (Lines{L"", L"b"}));
+    stream.Close();
+    EXPECT_EQ(failureOf([] { CStdioFile_E file(static_cast<std::FILE*>(nullptr)); }).first,
               CFileException_E::invalidFile);
 }
 

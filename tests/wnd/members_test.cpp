@@ -19,6 +19,7 @@ protected:
         m_top.SubclassWindow(&m_topWidget);
         m_child.SubclassWindow(m_edit);
     }
+    ~MembersTest() override { ClearTempObjectPool(); }
 
     QWidget m_topWidget;
     QCheckBox* const m_check = new QCheckBox(&m_topWidget);
