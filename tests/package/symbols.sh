@@ -4,7 +4,7 @@ set -euo pipefail
 library="$1/libVxMFCEmu.so"
 
 # Helpers of vx::detail that code in public headers calls, and that are exported for it.
-exported_helpers=('vx::detail::'{resizeBlock,grownCapacity,addCounts,hashText,serializeBytes,throwBadClass}'('
+exported_helpers=('vx::detail::'{resizeBlock,grownCapacity,addCounts,hashText,serializeBytes,serializeUnits,throwBadClass}'('
   'vx::detail::HashTable::' 'vx::detail::LinkChain::')
 
 fail() {
