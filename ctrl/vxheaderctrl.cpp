@@ -15,9 +15,8 @@ BOOL CHeaderCtrl_E::AttachDefault(QWidget* pParent)
 
 BOOL CHeaderCtrl_E::Create(DWORD dwStyle, const tagRECT& rect, CWnd_E* pParent, UINT nID)
 {
-    return createWithId(*this, pParent, nID, [&](QWidget* pWidget) {
-        return CWnd_E::Create(dwStyle, rect, pWidget);
-    });
+    return createWithId(*this, pParent, nID,
+                        [&](QWidget* pWidget) { return CWnd_E::Create(dwStyle, rect, pWidget); });
 }
 
 int CHeaderCtrl_E::GetItemCount() const

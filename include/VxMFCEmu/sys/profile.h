@@ -2,8 +2,9 @@
 /// Profile files: sections of keys and values in an INI file.
 ///
 /// Each call opens the file as `QSettings` in its INI format, in UTF-8, and has written it when it
-/// returns, or forgets what it could not write. What `QSettings` remembers of a file is used while its
-/// size and time of writing stay the same. A null section, key, value or default is an empty text.
+/// returns, or forgets what it could not write. What `QSettings` remembers of a file is used while
+/// its size and time of writing stay the same. A null section, key, value or default is an empty
+/// text.
 ///
 /// Differs from Win32:
 /// - The file name is the path itself: a relative one starts at the current directory, no folder is

@@ -33,8 +33,9 @@
 /// itself; in a locale that is not UTF-8 only ASCII gets through.
 ///
 /// A handle that is neither a predefined root nor open gives ERROR_INVALID_HANDLE, with
-/// RegDeleteKey_E() ERROR_PATH_NOT_FOUND, and nothing is touched. Writes reach the file when `QSettings` writes it: at the next turn of the event loop,
-/// in RegFlushKey_E() and at exit. Its errors are not reported.
+/// RegDeleteKey_E() ERROR_PATH_NOT_FOUND, and nothing is touched. Writes reach the file when
+/// `QSettings` writes it: at the next turn of the event loop, in RegFlushKey_E() and at exit. Its
+/// errors are not reported.
 ///
 /// Threads: any. A call is not interrupted by another one's change of the store, RegRenameKey_E()
 /// and RegCopyTree_E() included. What another thread than the one that loaded the library has

@@ -239,8 +239,9 @@ public:
     /// Copy with each "\" as "/".
     CString_E ToUnixSeperator() const;
 
-    /// The writable text with room for @p nMin characters, zero behind the present ones and what was
-    /// written through an earlier buffer; the length stays. Valid until the next change; call ReleaseBuffer() after writing.
+    /// The writable text with room for @p nMin characters, zero behind the present ones and what
+    /// was written through an earlier buffer; the length stays. Valid until the next change; call
+    /// ReleaseBuffer() after writing.
     wchar_t* GetBuffer(int nMin = 0);
     /// Sets the length to @p n, new characters being zero, and returns the writable text.
     wchar_t* GetBufferSetLength(int n);
@@ -260,8 +261,8 @@ public:
     /// @}
 
     /// Replaces the text by formatted arguments, which may point into it. Conversions, C locale
-    /// always: d i u o x X (of short with h, 32 bits with l and I32, 64 with ll and I64, the size of
-    /// a pointer with I), f F e E g G a A of double, c and s wide, C and S narrow (UTF-8,
+    /// always: d i u o x X (of short with h, 32 bits with l and I32, 64 with ll and I64, the size
+    /// of a pointer with I), f F e E g G a A of double, c and s wide, C and S narrow (UTF-8,
     /// invalid bytes as U+FFFD) unless h or l and w say narrow or wide, p as 16 upper-case
     /// hexadecimal digits, %. A null string prints "(null)", an unknown conversion itself. Width
     /// and precision end at a million. As on Windows, l means 32 bits, so that LONG and DWORD are
