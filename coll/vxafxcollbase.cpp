@@ -29,7 +29,7 @@ UINT hashText(const char* psz) noexcept { return hashOf(psz); }
 void serializeUnits(CArchive_E& ar, wchar_t* pElements, INT_PTR nCount)
 {
     for (wchar_t* const pEnd = pElements + nCount; pElements != pEnd; ++pElements) {
-        WORD unit = static_cast<WORD>(*pElements);
+        auto unit = static_cast<WORD>(static_cast<UINT>(*pElements));
         if (ar.IsLoading()) {
             ar >> unit;
             *pElements = unit;

@@ -62,7 +62,7 @@ LONG fileInfo(int fd, const QByteArray& name, FileInfo& info) noexcept
 
 LONG setReadOnly(const QByteArray& name, bool bReadOnly) noexcept
 {
-    FileInfo info;
+    FileInfo info{};
     if (const LONG error = fileInfo(name, info); error != NO_ERROR)
         return error;
     if (S_ISDIR(info.mode) || ((info.mode & 0222U) == 0) == bReadOnly)

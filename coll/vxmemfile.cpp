@@ -107,8 +107,9 @@ void CMemFile_E::SetLength(ULONGLONG dwNewLen)
 
 void CMemFile_E::Close()
 {
+    // The destructor means the base's own.
     if (m_bAutoDelete && m_lpBuffer)
-        Free(m_lpBuffer);
+        Free(m_lpBuffer); // NOLINT(clang-analyzer-optin.cplusplus.VirtualCall)
     m_lpBuffer = nullptr;
     m_nBufferSize = m_nFileSize = m_nPosition = 0;
     m_bAutoDelete = true;

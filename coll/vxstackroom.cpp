@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kReserve = 128 * 1024;
+constexpr std::size_t kReserve = 0x20000;
 
 struct StackBounds
 {

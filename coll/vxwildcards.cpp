@@ -57,11 +57,11 @@ std::u32string vx::detail::wildcardsOf(std::u32string_view name)
         const bool atEnd = i + 1 == name.size();
         const char32_t next = atEnd ? U'\0' : name[i + 1];
         if (name[i] == U'?')
-            pattern += OneOrNone;
+            pattern += char32_t{OneOrNone};
         else if (name[i] == U'*')
             pattern += next == U'.' ? char32_t{AnyUpToTheDot} : char32_t{Any};
         else if (name[i] == U'.' && (next == U'*' || next == U'?'))
-            pattern += DotOrEnd;
+            pattern += char32_t{DotOrEnd};
         else if (name[i] == U'.' && atEnd && i > 0 && name[i - 1] == U'*')
             continue; // "*." wants nothing behind its dot
         else
