@@ -143,8 +143,9 @@ bool Soak::run()
         vxtest::waitUntil([] { return false; }, 100);
         m_samples.push_back(soak::sampleOf(m_host.processId(), double(m_clock.elapsed()) / 1000));
     }
-    if (!check(going, "all windows could be closed, and the host ran on"))
-        vxtest::screenshot().save(m_options.value(QStringLiteral("screenshot")));
+    const QString picture = m_options.value(QStringLiteral("screenshot"));
+    if (!check(going, "all windows could be closed, and the host ran on") && !picture.isEmpty())
+        vxtest::screenshot().save(picture);
     const bool ended = closeHost();
     if (!ended)
         m_host.kill();
