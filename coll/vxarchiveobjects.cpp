@@ -165,8 +165,9 @@ CRuntimeClass_E* CArchive_E::ReadClass(const CRuntimeClass_E* pClassRefRequested
     if (pClassRefRequested && pClassRefRequested->m_wSchema == VX_NO_SCHEMA)
         AfxThrowNotSupportedException_E();
     const WORD wTag = Get<WORD>();
-    const DWORD nTag =
-        wTag == kBigObjectTag ? Get<DWORD>() : (wTag & kClassTag) << 16 | (wTag & ~kClassTag);
+    const DWORD nTag = wTag == kBigObjectTag
+                           ? Get<DWORD>()
+                           : static_cast<DWORD>((wTag & kClassTag) << 16 | (wTag & ~kClassTag));
     if ((nTag & kBigClassTag) == 0) {
         if (!pObTag)
             Throw(CArchiveException_E::badIndex);

@@ -90,6 +90,10 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     ///
     /// Differs from Win32: a file is readOnly when nobody may write it, and hidden when its name
     /// begins with a dot; the others but directory and device are never set.
+#ifdef __clang__
+#    pragma clang diagnostic push
+#    pragma clang diagnostic ignored "-Wshadow" // the C library has a function of such a name
+#endif
     enum Attribute : BYTE
     {
         normal = 0x00,
@@ -101,6 +105,9 @@ class VXMFC_EXPORT CFile_E : public CObject_E
         archive = 0x20,
         device = 0x40
     };
+#ifdef __clang__
+#    pragma clang diagnostic pop
+#endif
 
     /// What m_hFile is while no file is open.
     static constexpr INT_PTR hFileNull = -1;

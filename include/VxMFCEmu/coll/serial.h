@@ -42,7 +42,7 @@ T* serialCast(const CArchive_E& ar, CObject_E* pOb)
 #define DECLARE_SERIAL_E(theClass)                                                                 \
     DECLARE_DYNCREATE_E(theClass)                                                                  \
     static const AFX_CLASSINIT_E s_classInit;                                                      \
-    friend CArchive_E& operator>>(CArchive_E& ar, theClass*& pOb)                                  \
+    [[maybe_unused]] friend CArchive_E& operator>>(CArchive_E& ar, theClass*& pOb)                 \
     {                                                                                              \
         pOb = vx::detail::serialCast<theClass>(ar, ar.ReadObject(RUNTIME_CLASS_E(theClass)));      \
         return ar;                                                                                 \
