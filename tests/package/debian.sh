@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# debian.sh BUILD SCRATCH VERSION: makes the Debian packages and installs them into SCRATCH/root, with
+# debian.sh BUILD SCRATCH VERSION: makes the Debian packages and installs them into SCRATCH/tree, with
 # the packages of this machine counted as installed there. Leaves them installed for the tests that use
 # them. 77 where there is no dpkg.
 set -euo pipefail
 build=$1 scratch=$2 version=$3
-root="$scratch/root"
+root="$scratch/tree"
 packages="$(dirname "$0")/../../scripts/package.sh"
 
 fail() {
