@@ -17,7 +17,7 @@ import pathlib
 import subprocess
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-FOLDERS = ("text", "sys", "core", "coll", "wnd", "gdi", "dlg", "ctrl", "grid")
+FOLDERS = ("text", "sys", "core", "coll", "wnd", "gdi", "dlg", "ctrl")
 WANTED = 85.0
 
 

@@ -4,8 +4,8 @@
 check_docs.py ROOT           the checks; says what is wrong
 check_docs.py ROOT --write   puts the parts of the sources that the pages show into them
 
-- porting.md, README.md: each block of C++ is a part of a source of tests/porting. The line above it
-  names the source and the part; in the source, lines "//! [part]" stand before and after it.
+- porting.md, README.md: each block of C++ is a part of a source of examples/porting or tests/porting. The line
+  above it names the source and the part; in the source, lines "//! [part]" stand before and after it.
 - differences.md: each public header that tells of a difference has a row, and each row a header.
 - every page: what a link leads to is there.
 """
