@@ -156,8 +156,11 @@ bool Soak::run()
                 m_host.exitCode());
     std::fputs(m_complaints.constData(), stderr);
     const bool well = m_host.exitStatus() == QProcess::NormalExit && m_host.exitCode() == 0;
-    return check(ended && well, "the host ended well") &
-           check(m_complaints.isEmpty(), "nothing came on standard error") & going & judge();
+    // Each of them speaks for itself, whatever the others say.
+    const bool results[] = {check(ended && well, "the host ended well"),
+                            check(m_complaints.isEmpty(), "nothing came on standard error"), going,
+                            judge()};
+    return std::count(std::begin(results), std::end(results), false) == 0;
 }
 
 template <typename Member>
@@ -191,8 +194,8 @@ bool Soak::judge() const
                 m_samples.back().residentKiB, memory, minutes, files);
     // A sanitizer keeps for a while what the program gave back.
     const bool flat = m_options.isSet(QStringLiteral("instrumented")) || memory <= kMayGrowKiB;
-    return check(flat, "memory stays as it is") &
-           check(files <= kMayGrowFiles, "no files are left open");
+    const bool closed = check(files <= kMayGrowFiles, "no files are left open");
+    return check(flat, "memory stays as it is") && closed;
 }
 
 } // namespace

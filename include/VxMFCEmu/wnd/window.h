@@ -31,7 +31,6 @@
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
 
-#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -40,7 +39,6 @@ QT_BEGIN_NAMESPACE
 class QAbstractSlider;
 class QMenuBar;
 class QScrollBar;
-class QTimer;
 QT_END_NAMESPACE
 
 namespace vx::detail {
@@ -573,7 +571,6 @@ private:
     friend VXMFC_EXPORT void DisconnectIdleSlot(QObject* pObject);
     QEvent* m_pCurrentEvent = nullptr;
     QList<PendingEvent> m_pendingEvents;
-    std::map<int, QTimer*> m_mapTimers;
     MessageEntries m_messages; // in the order of their numbers; what every window has is elsewhere
     bool m_bBaseMap = false;
     bool m_bIdleSlot = false; // to be connected to idle time when somebody listens
