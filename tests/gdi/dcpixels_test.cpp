@@ -14,12 +14,7 @@ QImage canvas(QImage::Format format)
     return image;
 }
 
-struct Case
-{
-    int line;
-    std::function<void(CDC_E&)> draw;
-    std::function<void(QPainter&)> byHand;
-};
+using Case = Row<int, std::function<void(CDC_E&)>, std::function<void(QPainter&)>>;
 
 CRgn_E& lShape()
 {
@@ -193,17 +188,17 @@ const Case kCases[] = {
 TEST(DcPixels, AreThoseOfThePainter)
 {
     for (int n = 0; n < 3 * int(std::size(kCases)); ++n) {
-        const Case& row = kCases[n / 3];
-        SCOPED_TRACE(row.line);
+        const auto& [line, draw, byHand] = kCases[n / 3];
+        SCOPED_TRACE(line);
         constexpr QImage::Format kFormats[] = {QImage::Format_RGB32, QImage::Format_RGBX8888,
                                                QImage::Format_ARGB32};
         const QImage before = canvas(kFormats[n % 3]);
         QImage drawn = before, expected = before;
         CDC_E dc(&drawn);
-        row.draw(dc);
+        draw(dc);
         dc.DeleteDC();
         QPainter painter(&expected);
-        row.byHand(painter);
+        byHand(painter);
         painter.end();
         EXPECT_EQ(drawn, expected) << kFormats[n % 3];
         EXPECT_NE(drawn, before) << "something was drawn at all";

@@ -6,14 +6,10 @@ namespace {
 /// A memory device context and a bitmap for it.
 struct Memory : testing::Test
 {
-    Memory()
-    {
-        bitmap.CreateCompatibleBitmap(nullptr, 20, 10);
-        dc.CreateCompatibleDC(nullptr);
-    }
+    Memory() { dc.CreateCompatibleDC(nullptr); }
     QImage& image() const { return valueOf<QImage>(bitmap); }
 
-    CBitmap_E bitmap;
+    Bitmap bitmap{20, 10, Qt::white};
     CDC_E dc;
     const std::vector<quint32> pixels = std::vector<quint32>(200, 0x00040506);
 };
@@ -96,8 +92,7 @@ TEST_F(Memory, PixelsWithoutAlphaAreOpaque)
 
 TEST_F(Memory, SavedAttributesOutliveTheChoiceOfABitmap)
 {
-    CRgn_E clip;
-    clip.CreateRectRgn(0, 0, 4, 4);
+    RectRgn clip(0, 0, 4, 4);
     dc.DeleteDC();
     dc.SaveDC(); // without a device: not saved
     dc.CreateCompatibleDC(nullptr);
@@ -235,8 +230,8 @@ TEST(DcResults, WithAndWithoutADevice)
     pWidget.reset();
     CPen_E pen(PS_SOLID, 1, RGB(1, 2, 3));
     CBrush_E brush(RGB(1, 2, 3));
-    CRgn_E region, empty;
-    region.CreateRectRgn(0, 0, 3, 3);
+    RectRgn region(0, 0, 3, 3);
+    CRgn_E empty;
     tagRECT rect{0, 0, 5, 5}, *const pNone = nullptr;
     constexpr tagPOINT kPoints[] = {{0, 0}, {5, 0}, {5, 5}, {0, 5}};
     CDC_E* const all[] = {&none, &noImage, &noWidget, &noWindow, &dead, &image.dc};

@@ -24,8 +24,7 @@ TEST_F(DcValues, ColorsByValueAndByIndex)
     EXPECT_EQ(dc.SetTextColor(0x0000FFUL), Qt::green);
     EXPECT_EQ(dc.SetBkColor(0xFF0000UL), Qt::yellow);
     EXPECT_TRUE(dc.GetTextColor() == Qt::red && dc.GetBkColor() == Qt::blue);
-    CDC_E none;
-    EXPECT_EQ(none.SetTextColor(RGB(1, 1, 1)), none.SetTextColor(CLR_NONE) /* black */);
+    EXPECT_EQ(CDC_E().SetTextColor(RGB(1, 1, 1)), Qt::black); // without a painter
 }
 
 TEST_F(DcValues, ColorsCompareByWhatTheyAre)

@@ -112,21 +112,17 @@ TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
     EXPECT_TRUE(untyped.DeleteObject());
 }
 
-struct Selection : FreshMap
+struct Selection : FreshMap, Canvas
 {
-    Selection() { m_dc.SelectObject(QPen(Qt::darkYellow, 5)); }
-
-    CPen_E* select(CPen_E* pPen) { return m_dc.SelectObject(pPen); }
+    Selection() { dc.SelectObject(QPen(Qt::darkYellow, 5)); }
+    CPen_E* select(CPen_E* pPen) { return dc.SelectObject(pPen); }
     /// The object for a value that the painter has.
     CPen_E* objectOf(const QPen& value)
     {
-        m_dc.SelectObject(value);
+        dc.SelectObject(value);
         return select(nullptr);
     }
-    QPen current() const { return m_dc.m_painter.pen(); }
-
-    Canvas m_canvas;
-    CDC_E& m_dc = m_canvas.dc;
+    QPen current() const { return dc.m_painter.pen(); }
 };
 
 // Such an object owns what it made, and frees it.
@@ -157,7 +153,7 @@ TEST_F(Selection, PreviousObjectHoldsThePreviousValue)
     EXPECT_EQ(select(first), &dots);
     EXPECT_EQ(current(), initial) << "long since, others were selected";
     EXPECT_EQ(select(&red), first);
-    EXPECT_EQ(m_dc.SelectObject(initial), valueOf<QPen>(red)) << "by value";
+    EXPECT_EQ(dc.SelectObject(initial), valueOf<QPen>(red)) << "by value";
     EXPECT_EQ(select(&dots), first) << "one object for equal values";
     first->DeleteObject();
     EXPECT_EQ(valueOf<QPen>(*CPen_E::FromHandle(objectOf(initial)->m_hObject)), initial);
@@ -190,30 +186,29 @@ TEST_F(Selection, OfEveryClass)
     CBrush_E brush(RGB(4, 5, 6));
     CFont_E font;
     font.setPixelSize(31);
-    CRgn_E region;
-    region.CreateRectRgn(0, 0, 3, 3);
+    RectRgn region(0, 0, 3, 3);
     CBitmap_E bitmap;
     CPalette_E palette;
     CGdiObject_E* const none = nullptr;
     EXPECT_EQ(CPen_E::FromHandle(brush), nullptr) << "the handle is one of another class";
     EXPECT_EQ(CBrush_E::FromHandle(nullptr), nullptr);
     EXPECT_TRUE(CGdiObject_E::FromHandle(this)->DeleteObject()) << "of unknown type: not freed";
-    EXPECT_EQ(valueOf<QPen>(*m_dc.SelectObject(static_cast<CGdiObject_E*>(&pen))),
+    EXPECT_EQ(valueOf<QPen>(*dc.SelectObject(static_cast<CGdiObject_E*>(&pen))),
               QPen(Qt::darkYellow, 5));
     for (CGdiObject_E* p :
          std::initializer_list<CGdiObject_E*>{none, &font, &region, &bitmap, &palette})
-        EXPECT_EQ(m_dc.SelectObject(p), nullptr);
-    CGdiObject_E* const noBrush = m_dc.SelectObject(static_cast<CGdiObject_E*>(&brush));
+        EXPECT_EQ(dc.SelectObject(p), nullptr);
+    CGdiObject_E* const noBrush = dc.SelectObject(static_cast<CGdiObject_E*>(&brush));
     EXPECT_EQ(current(), QPen(QColor(1, 2, 3)));
-    EXPECT_EQ(m_dc.m_painter.brush(), QBrush(QColor(4, 5, 6)));
-    EXPECT_EQ(m_dc.m_painter.font().pixelSize(), 31);
-    EXPECT_EQ(m_dc.m_painter.clipRegion(), QRegion(0, 0, 4, 4));
-    EXPECT_EQ(m_dc.SelectObject(noBrush), &brush);
-    EXPECT_EQ(m_dc.m_painter.brush(), QBrush());
-    EXPECT_NE(m_dc.SelectObject(static_cast<CBrush_E*>(nullptr)), nullptr);
-    EXPECT_EQ(m_dc.SelectObject(static_cast<CFont_E*>(nullptr)).pixelSize(), 31);
-    EXPECT_EQ(m_dc.SelectObject(QFont()).pixelSize(), 31);
-    EXPECT_NE(m_dc.m_painter.font().pixelSize(), 31);
+    EXPECT_EQ(dc.m_painter.brush(), QBrush(QColor(4, 5, 6)));
+    EXPECT_EQ(dc.m_painter.font().pixelSize(), 31);
+    EXPECT_EQ(dc.m_painter.clipRegion(), QRegion(0, 0, 4, 4));
+    EXPECT_EQ(dc.SelectObject(noBrush), &brush);
+    EXPECT_EQ(dc.m_painter.brush(), QBrush());
+    EXPECT_NE(dc.SelectObject(static_cast<CBrush_E*>(nullptr)), nullptr);
+    EXPECT_EQ(dc.SelectObject(static_cast<CFont_E*>(nullptr)).pixelSize(), 31);
+    EXPECT_EQ(dc.SelectObject(QFont()).pixelSize(), 31);
+    EXPECT_NE(dc.m_painter.font().pixelSize(), 31);
 }
 
 } // namespace

@@ -34,10 +34,9 @@ TEST(GdiTables, SystemColors)
 TEST(GdiTables, PenStyles)
 {
     for (int style = PS_SOLID; style <= PS_NULL; ++style) {
-        const Qt::PenStyle listed[] = {Qt::SolidLine,   Qt::DashLine,       Qt::DotLine,
-                                       Qt::DashDotLine, Qt::DashDotDotLine, Qt::NoPen};
-        EXPECT_EQ(CPen_E::mapToQtPenStyle(style), listed[style]);
-        EXPECT_EQ(CPen_E::mapToMfcPenStyle(listed[style]), style);
+        const auto expected = Qt::PenStyle((style + 1) % 6); // NoPen comes first there
+        EXPECT_EQ(CPen_E::mapToQtPenStyle(style), expected);
+        EXPECT_EQ(CPen_E::mapToMfcPenStyle(expected), style);
     }
     for (const int other : {-1, PS_INSIDEFRAME, PS_GEOMETRIC | PS_DASH})
         EXPECT_EQ(CPen_E::mapToQtPenStyle(other), Qt::NoPen) << other;

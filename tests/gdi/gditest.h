@@ -23,6 +23,22 @@ T& valueOf(const CGdiObject_E& object)
     return *static_cast<T*>(object.GetSafeHandle());
 }
 
+/// A rectangle with its corners.
+struct RectRgn : CRgn_E
+{
+    RectRgn(int x1, int y1, int x2, int y2) { CreateRectRgn(x1, y1, x2, y2); }
+};
+
+/// A bitmap of one colour.
+struct Bitmap : CBitmap_E
+{
+    Bitmap(int cx, int cy, const QColor& color)
+    {
+        CreateBitmap(cx, cy, 1, 32, nullptr);
+        valueOf<QImage>(*this).fill(color);
+    }
+};
+
 /// A device context on a white image.
 struct Canvas
 {
@@ -33,7 +49,9 @@ struct Canvas
 
 } // namespace vxtest
 
+using vxtest::Bitmap;
 using vxtest::Canvas;
 using vxtest::expectAll;
 using vxtest::expectZeros;
+using vxtest::RectRgn;
 using vxtest::valueOf;

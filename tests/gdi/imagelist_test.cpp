@@ -5,13 +5,6 @@ namespace {
 
 struct ImageLists : testing::Test
 {
-    ImageLists()
-    {
-        m_red.CreateBitmap(4, 4, 1, 32, nullptr);
-        m_blue.CreateBitmap(4, 4, 1, 32, nullptr);
-        valueOf<QImage>(m_red).fill(Qt::red);
-        valueOf<QImage>(m_blue).fill(Qt::blue);
-    }
     static QImage* imageOf(const CImageList_E& list, int i)
     {
         tagIMAGEINFO info{};
@@ -22,7 +15,8 @@ struct ImageLists : testing::Test
         return imageOf(list, i)->pixelColor(1, 1);
     }
 
-    CBitmap_E m_red, m_blue, m_empty;
+    Bitmap m_red{4, 4, Qt::red}, m_blue{4, 4, Qt::blue};
+    CBitmap_E m_empty;
     CImageList_E m_list;
 };
 
@@ -62,12 +56,9 @@ TEST_F(ImageLists, AddTakesTheBitmapItself)
     EXPECT_EQ(imageOf(m_list, 0), nullptr) << "destroyed";
     tagIMAGEINFO info{};
     EXPECT_TRUE(m_list.GetImageInfo(5, &info));
-    EXPECT_EQ(info.hbmImage, m_blue.m_hObject);
-    EXPECT_EQ(info.hbmMask, m_red.m_hObject);
+    EXPECT_TRUE(info.hbmImage == m_blue.m_hObject && info.hbmMask == m_red.m_hObject);
     CBitmap_E* const pNone = nullptr;
-    const int failures[] = {m_list.Add(&m_empty, 0U), m_list.Add(pNone, 0U),
-                            m_list.Add(pNone, &m_red)};
-    EXPECT_THAT(failures, testing::Each(-1));
+    expectAll(-1, {m_list.Add(&m_empty, 0U), m_list.Add(pNone, 0U), m_list.Add(pNone, &m_red)});
     EXPECT_EQ(m_list.SetBkColor(RGB(9, 8, 7)), 0U) << "of the first image, which is gone";
     EXPECT_EQ(valueOf<QImage>(m_blue).pixelColor(2, 2), QColor(9, 8, 7));
     EXPECT_EQ(CImageList_E(m_list).GetImageCount(), 6);

@@ -14,11 +14,6 @@ QImage shown(const QWidget& widget)
         .convertToFormat(QImage::Format_RGB32);
 }
 
-bool comesToShow(const QWidget& widget, const QImage& expected)
-{
-    return vxtest::waitUntil([&] { return shown(widget) == expected; });
-}
-
 // At these places, whatever the scale.
 bool comesToShow(const QWidget& widget, const QVector<std::pair<QPoint, QColor>>& places)
 {
@@ -71,14 +66,14 @@ END_MESSAGE_MAP_E()
 // A window on the screen with a view in it that is not at its origin.
 struct Painting : testing::Test
 {
-    void show()
+    Painting()
     {
         top.setGeometry(50, 50, 200, 150);
-        ASSERT_TRUE(view.Create(&top));
+        view.Create(&top);
         pWidget = view.GetSafeHwnd();
         pWidget->setGeometry(20, 30, 100, 80);
         top.show();
-        ASSERT_TRUE(vxtest::waitUntil([this] {
+        EXPECT_TRUE(vxtest::waitUntil([this] {
             return top.windowHandle()->isExposed() && view.log.contains(QLatin1Char('p'));
         }));
     }
@@ -91,7 +86,7 @@ struct Painting : testing::Test
 
     QWidget top;
     View view;
-    QWidget* pWidget = nullptr;
+    QWidget* pWidget;
 };
 
 TEST_F(Painting, DrawsOnTheScreenWhatItDrawsOnAnImage)
@@ -115,7 +110,6 @@ TEST_F(Painting, DrawsOnTheScreenWhatItDrawsOnAnImage)
         EXPECT_EQ(dc.m_painter.device(), pWidget);
         picture(dc);
     };
-    show();
     repaint();
     EXPECT_EQ(view.log, "ep"_q);
     QImage expected(100, 80, QImage::Format_RGB32);
@@ -123,7 +117,7 @@ TEST_F(Painting, DrawsOnTheScreenWhatItDrawsOnAnImage)
     view.erase(dc);
     picture(dc);
     dc.DeleteDC();
-    EXPECT_TRUE(comesToShow(*pWidget, expected));
+    EXPECT_TRUE(vxtest::waitUntil([&] { return shown(*pWidget) == expected; }));
 }
 
 // The first one goes on after the second has ended.
@@ -146,7 +140,6 @@ TEST_F(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
                                                 second();
                                                 painter.fillRect(40, 10, 20, 20, Qt::blue);
                                             }};
-    show();
     for (const auto& paint : paints) {
         SCOPED_TRACE(&paint - paints);
         view.paint = paint;
@@ -165,11 +158,11 @@ TEST_F(Painting, ContextsOfOtherWidgetsInAPaintMessage)
 {
     QWidget sibling(&top);
     sibling.setGeometry(130, 30, 40, 40);
+    sibling.show();
     const auto mark = [](QWidget* pAny) {
         CClientDC_E(pAny).FillSolidRect(2, 2, 5, 5, RGB(255, 0, 0));
     };
     view.erase = [&](CDC_E&) { mark(&sibling); };
-    show();
     QWidget* const pChild = new QWidget(pWidget);
     pChild->setGeometry(5, 5, 20, 20);
     pChild->show();
@@ -186,7 +179,6 @@ TEST_F(Painting, ContextsOfOtherWidgetsInAPaintMessage)
 TEST_F(Painting, ClientContextReachesTheScreenAtOnce)
 {
     view.paint = [this] { CPaintDC_E(&view).FillSolidRect(0, 0, 100, 80, RGB(0, 128, 0)); };
-    show();
     repaint();
     view.log.clear();
     const QImage before = shown(*pWidget);
@@ -208,7 +200,7 @@ TEST_F(Painting, ClientContextReachesTheScreenAtOnce)
     }
     EXPECT_EQ(view.log, QString()); // nobody was asked to paint
     repaint();
-    EXPECT_TRUE(comesToShow(*pWidget, before));
+    EXPECT_TRUE(vxtest::waitUntil([&] { return shown(*pWidget) == before; }));
     top.hide();
     CClientDC_E hidden(&view);
     EXPECT_GT(hidden.GetTextExtent(L"text", 4).cx, 0);
@@ -217,7 +209,6 @@ TEST_F(Painting, ClientContextReachesTheScreenAtOnce)
 
 TEST_F(Painting, WidgetThatDiesLeavesAnInactivePainter)
 {
-    show();
     struct Dying : QWidget
     {
         using QWidget::QWidget;
@@ -239,7 +230,6 @@ TEST_F(Painting, WidgetThatDiesLeavesAnInactivePainter)
 
 TEST_F(Painting, ControlColorsAreAskedOfTheWindowAround)
 {
-    show();
     auto* const pLabel = new QLabel("label"_q, pWidget);
     auto* const pBox = new QGroupBox(pWidget);
     auto* const pEdit = new QLineEdit(pBox);

@@ -7,12 +7,8 @@ const QRegion& regionOf(const CRgn_E& rgn) { return valueOf<QRegion>(rgn); }
 
 struct Regions : testing::Test
 {
-    Regions()
-    {
-        m_a.CreateRectRgn(0, 0, 9, 9);
-        m_b.CreateRectRgn(5, 5, 14, 14);
-    }
-    CRgn_E m_a, m_b, m_empty;
+    RectRgn m_a{0, 0, 9, 9}, m_b{5, 5, 14, 14};
+    CRgn_E m_empty;
 };
 
 TEST_F(Regions, ShapesIncludeTheirCorners)
@@ -31,8 +27,8 @@ TEST_F(Regions, ShapesIncludeTheirCorners)
     constexpr tagPOINT kStar[] = {{50, 0}, {80, 90}, {5, 35}, {95, 35}, {20, 90}};
     CRgn_E polygon; // crosses itself: its middle is a hole, whatever the mode
     CRgn_E round;   // its corners are 20 wide and 10 high
-    EXPECT_TRUE(polygon.CreatePolygonRgn(kStar, 5, WINDING));
-    EXPECT_TRUE(round.CreateRoundRectRgn(0, 0, 100, 60, 20, 10));
+    expectAll(TRUE, {polygon.CreatePolygonRgn(kStar, 5, WINDING),
+                     round.CreateRoundRectRgn(0, 0, 100, 60, 20, 10)});
     const Row<const CRgn_E*, int, int, bool> rows[] = {
         {&m_a, 10, 10, true},     {&m_a, 11, 10, false},     {&round, 50, 0, true},
         {&round, 5, 10, true},    {&round, 1, 1, false},     {&round, 5, 2, false},
@@ -46,18 +42,16 @@ TEST_F(Regions, ShapesIncludeTheirCorners)
 TEST_F(Regions, CombineComputesBeforeItReplaces)
 {
     const QRegion a = regionOf(m_a), b = regionOf(m_b);
-    const std::pair<int, QRegion> rows[] = {{RGN_AND, a & b},  {RGN_OR, a | b},
-                                            {RGN_XOR, a ^ b},  {RGN_DIFF, a - b},
-                                            {RGN_COPY, a | b}, // Intended: no copy of the first
-                                            {0, {}},           {6, {}}};
+    // Intended: RGN_COPY makes no copy of the first.
+    const std::pair<int, QRegion> rows[] = {
+        {RGN_AND, a & b},  {RGN_OR, a | b}, {RGN_XOR, a ^ b}, {RGN_DIFF, a - b},
+        {RGN_COPY, a | b}, {0, {}},         {6, {}},
+    };
     for (const auto& [mode, expected] : rows) {
         SCOPED_TRACE(mode);
-        CRgn_E left, right;
-        left.SetRectRgn(0, 0, 9, 9);
-        right.SetRectRgn(5, 5, 14, 14);
+        RectRgn left(0, 0, 9, 9), right(5, 5, 14, 14);
         EXPECT_TRUE(left.CombineRgn(&left, &m_b, mode) && right.CombineRgn(&m_a, &right, mode));
-        EXPECT_EQ(regionOf(left), expected);
-        EXPECT_EQ(regionOf(right), expected);
+        EXPECT_TRUE(regionOf(left) == expected && regionOf(right) == expected);
     }
     EXPECT_TRUE(m_b.CombineRgn(&m_a, nullptr, RGN_DIFF)) << "null is the empty region";
     EXPECT_EQ(regionOf(m_b), a);
@@ -65,8 +59,7 @@ TEST_F(Regions, CombineComputesBeforeItReplaces)
 
 TEST_F(Regions, CopySharesTheHandle)
 {
-    CRgn_E copy;
-    copy.CreateRectRgn(1, 1, 2, 2);
+    RectRgn copy(1, 1, 2, 2);
     for (const CRgn_E* const pFrom : {&m_a, &m_a, &copy})
         EXPECT_TRUE(copy.CopyRgn(pFrom)) << "again, and from itself";
     EXPECT_TRUE(copy.EqualRgn(&m_a));
@@ -97,17 +90,17 @@ TEST_F(Regions, FromPathTakesTheClip)
 TEST_F(Regions, FailuresAndStubs)
 {
     tagRECT box{1, 2, 3, 4};
-    const tagPOINT points[] = {{0, 0}};
-    const int counts[] = {1};
+    const tagPOINT point{0, 0};
+    const int count = 1;
     CRgn_E& e = m_empty;
     expectZeros({e.GetRgnBox(&box), e.PtInRegion(0, 0), e.RectInRegion(&box),
                  e.CreateRectRgnIndirect(nullptr), e.CreateEllipticRgnIndirect(nullptr),
                  e.SetRectRgn(nullptr), e.CreatePolygonRgn(nullptr, 3, ALTERNATE),
-                 e.CreatePolygonRgn(points, -1, ALTERNATE), e.CreateFromPath(nullptr),
+                 e.CreatePolygonRgn(&point, -1, ALTERNATE), e.CreateFromPath(nullptr),
                  e.CreateFromData(nullptr, 0, nullptr), m_a.GetRgnBox(nullptr),
                  m_a.RectInRegion(nullptr)});
     expectAll(GDI_ERROR, {e.OffsetRgn(1, 1), e.GetRegionData(nullptr, 0)});
-    EXPECT_EQ(e.CreatePolyPolygonRgn(points, counts, 1, ALTERNATE), 1);
+    EXPECT_EQ(e.CreatePolyPolygonRgn(&point, &count, 1, ALTERNATE), 1);
     EXPECT_EQ(e.m_hObject, nullptr);
 }
 
