@@ -219,7 +219,7 @@ COLORREF mixed(DWORD bits)
     return result & 0xFFFFFF;
 }
 
-TEST(DcRasterOps, MixAsNamed)
+TEST(DcRasterOps, AreAsNamed)
 {
     for (int rop = R2_BLACK; rop <= R2_WHITE; ++rop) {
         SCOPED_TRACE(rop);
@@ -230,10 +230,6 @@ TEST(DcRasterOps, MixAsNamed)
         EXPECT_EQ(c.dc.GetPixel(0, 0), mixed(DWORD(rop - R2_BLACK) * 0x11)); // whatever the pattern
         expectAll(rop, {c.dc.SetROP2(99), c.dc.GetROP2()});
     }
-}
-
-TEST(DcRasterOps, BlitAsNamed)
-{
     for (const DWORD rop :
          {SRCCOPY, SRCPAINT, SRCAND, SRCINVERT, SRCERASE, NOTSRCCOPY, NOTSRCERASE, MERGECOPY,
           MERGEPAINT, PATCOPY, PATPAINT, PATINVERT, DSTINVERT, BLACKNESS, WHITENESS}) {

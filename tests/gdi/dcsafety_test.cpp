@@ -11,7 +11,6 @@ struct Memory : testing::Test
 
     Bitmap bitmap{20, 10, Qt::white};
     CDC_E dc;
-    const std::vector<quint32> pixels = std::vector<quint32>(200, 0x00040506);
 };
 
 TEST_F(Memory, BitmapsMayChangeAndDie)
@@ -51,8 +50,9 @@ TEST_F(Memory, BitmapsMayChangeAndDie)
     EXPECT_EQ(onImage.GetPixel(19, 9), RGB(1, 2, 3));
 }
 
-TEST_F(Memory, SelectedBitmapMayBeLookedAt)
+TEST_F(Memory, SelectedBitmapMayBeLookedAtAndIsOpaque)
 {
+    const std::vector<quint32> pixels(200, 0x00040506);
     const uchar* const pBits = image().constBits();
     CBitmap_E* const pStock = dc.SelectObject(&bitmap);
     tagBITMAP info{};
@@ -69,11 +69,8 @@ TEST_F(Memory, SelectedBitmapMayBeLookedAt)
     other.CreateCompatibleDC(nullptr);
     EXPECT_EQ(other.SelectObject(&bitmap), nullptr) << "one device context at a time";
     EXPECT_EQ(dc.SelectObject(pStock), &bitmap);
-}
 
-// The fourth byte of a pixel without alpha is nobody's, and 0 in what Win32 sources hand over.
-TEST_F(Memory, PixelsWithoutAlphaAreOpaque)
-{
+    // The fourth byte of a pixel without alpha is nobody's, and 0 in what Win32 sources hand over.
     bitmap.SetBitmapBits(800, pixels.data());
     EXPECT_EQ(static_cast<const void*>(image().constBits()), pixels.data());
     dc.SelectObject(&bitmap);
@@ -83,7 +80,6 @@ TEST_F(Memory, PixelsWithoutAlphaAreOpaque)
     EXPECT_TRUE(onTarget.BitBlt(0, 0, 4, 4, &dc, 0, 0, SRCCOPY));
     EXPECT_TRUE(onTarget.TransparentBlt(4, 4, 4, 4, &dc, 0, 0, 4, 4, RGB(0, 0, 0)));
     dc.DeleteDC();
-    CImageList_E list;
     list.Add(&bitmap, RGB(1, 2, 3));
     for (const QColor& color :
          {target.pixelColor(1, 1), target.pixelColor(5, 5), image().pixelColor(1, 1)})
@@ -165,6 +161,7 @@ TEST(DcSafety, ArgumentsBeyondAllBounds)
                 dc.TextOut(n, m, L"abc", 3);
                 dc.ExtTextOut(m, n, 0, nullptr, L"abc", 3, widths);
             }
+            dc.SaveDC();
             dc.SetViewportOrg(n, m);
             dc.SetWindowOrg(m, n);
             dc.OffsetWindowOrg(n, n);
@@ -172,8 +169,7 @@ TEST(DcSafety, ArgumentsBeyondAllBounds)
             dc.SetViewportExt(n, m);
             dc.SetWindowExt(m, n);
             dc.SetMapMode(MM_TEXT);
-            dc.SetViewportOrg(0, 0);
-            dc.SetWindowOrg(0, 0);
+            dc.RestoreDC(-1);
             CRgn_E region;
             expectZeros({region.CreateEllipticRgn(n, m, ~n, ~m),
                          region.CreateRoundRectRgn(m, n, 5, 5, 3, 3)});

@@ -12,7 +12,8 @@ struct Font : CFont_E
     }
 };
 
-TEST(Fonts, HeightIsOfTheLineOrOfTheCharacters)
+// A height is that of the line or, negative, of the characters; weights map to the scale of Qt.
+TEST(Fonts, HeightsAndWeights)
 {
     for (const int height : {8, 16, 33, 100}) {
         QFont line = Font(height);
@@ -23,10 +24,7 @@ TEST(Fonts, HeightIsOfTheLineOrOfTheCharacters)
     }
     for (const int height : {INT_MAX, INT_MIN, 1, -1, 0})
         EXPECT_EQ(Font(height).pointSizeF() == QFont().pointSizeF(), height == 0) << height;
-}
 
-TEST(Fonts, WeightsMapToTheScaleOfQt)
-{
     constexpr Row<int, int> kRows[] = {
         {FW_DONTCARE, 50}, {100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
         {600, 63},         {700, 75}, {800, 81}, {900, 87}, {720, 75}, {5000, 87},

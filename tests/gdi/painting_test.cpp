@@ -129,20 +129,7 @@ TEST_F(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
         dc.FillSolidRect(10, 10, 20, 20, RGB(255, 0, 0));
         EXPECT_TRUE(dc.m_painter.isActive());
     };
-    const std::function<void()> paints[] = {[&] {
-                                                CPaintDC_E dc(&view);
-                                                second();
-                                                second();
-                                                dc.FillSolidRect(40, 10, 20, 20, RGB(0, 0, 255));
-                                            },
-                                            [&] {
-                                                QPainter painter(pWidget);
-                                                second();
-                                                painter.fillRect(40, 10, 20, 20, Qt::blue);
-                                            }};
-    for (const auto& paint : paints) {
-        SCOPED_TRACE(&paint - paints);
-        view.paint = paint;
+    const auto expectBoth = [this] {
         repaint();
         EXPECT_TRUE(comesToShow(*pWidget, {{{20, 20}, Qt::red}, {{50, 20}, Qt::blue}}));
         QImage rendered(100, 80, QImage::Format_RGB32);
@@ -150,7 +137,20 @@ TEST_F(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
         EXPECT_EQ(rendered.pixelColor(20, 20), QColor(Qt::red));
         for (const QImage& image : {rendered, pWidget->grab().toImage()})
             EXPECT_EQ(image.pixelColor(50, 20), QColor(Qt::blue));
-    }
+    };
+    view.paint = [&] {
+        CPaintDC_E dc(&view);
+        second();
+        second();
+        dc.FillSolidRect(40, 10, 20, 20, RGB(0, 0, 255));
+    };
+    expectBoth();
+    view.paint = [&] {
+        QPainter painter(pWidget);
+        second();
+        painter.fillRect(40, 10, 20, 20, Qt::blue);
+    };
+    expectBoth();
 }
 
 // All widgets of a window share what is shown: it is not to be painted twice at once.
@@ -235,10 +235,12 @@ TEST_F(Painting, ControlColorsAreAskedOfTheWindowAround)
     auto* const pEdit = new QLineEdit(pBox);
     auto* const pButton = new QPushButton(pBox);
     pButton->setAutoFillBackground(true);
-    const Row<QWidget*, int, UINT> rows[] = {{pLabel, 0, CTLCOLOR_STATIC},
-                                             {pBox, 35, CTLCOLOR_STATIC},
-                                             {pEdit, 0, CTLCOLOR_EDIT},
-                                             {pButton, 15, CTLCOLOR_BTN}};
+    const Row<QWidget*, int, UINT> rows[] = {
+        {pLabel, 0, CTLCOLOR_STATIC},
+        {pBox, 35, CTLCOLOR_STATIC},
+        {pEdit, 0, CTLCOLOR_EDIT},
+        {pButton, 15, CTLCOLOR_BTN},
+    };
     for (const auto& [pControl, y, kind] : rows) {
         pControl->setGeometry(5, y, 50, 30);
         pControl->show();
