@@ -77,9 +77,8 @@ TEST(Bitmaps, AreMadeAndLoaded)
     EXPECT_TRUE(bitmap.CreateBitmapIndirect(&form));
     tagBITMAP out{};
     EXPECT_EQ(bitmap.GetBitmap(&out), 1);
-    EXPECT_EQ(std::tie(out.bmType, out.bmWidth, out.bmHeight, out.bmWidthBytes, out.bmPlanes,
-                       out.bmBitsPixel),
-              std::tuple(0, 5, 3, 12, 1, 16));
+    EXPECT_TRUE(out.bmWidth == 5 && out.bmHeight == 3 && out.bmWidthBytes == 12 && out.bmType == 0);
+    EXPECT_TRUE(out.bmPlanes == 1 && out.bmBitsPixel == 16);
     EXPECT_EQ(out.bmBits, valueOf<QImage>(bitmap).bits());
     const HGDIOBJ h = bitmap;
     expectZeros({bitmap.CreateBitmap(16, 16, 1, 24, &out), bitmap.CreateBitmapIndirect(nullptr),

@@ -69,7 +69,7 @@ TEST_F(Regions, CopySharesTheHandle)
     EXPECT_TRUE(m_a.PtInRegion(105, 5)) << "replaced in one object only";
     expectZeros(
         {m_b.CopyRgn(nullptr), m_b.CopyRgn(&m_empty), m_b.EqualRgn(nullptr), m_b.EqualRgn(&m_a)});
-    EXPECT_TRUE(m_b.PtInRegion(5, 5)) << "kept";
+    EXPECT_TRUE(copy.CopyRgn(&m_b) && m_b.DeleteObject() && copy.PtInRegion(5, 5)) << "kept";
 }
 
 TEST_F(Regions, FromPathTakesTheClip)
