@@ -147,8 +147,6 @@ const Case kCases[] = {
     // Coordinates
     {__LINE__, [](C& c) { c.SetViewportOrg(10, 5); c.SaveDC(); c.SetWindowOrg(-3, -4); c.LineTo(20, 20); c.RestoreDC(17); c.LineTo(20, 0); },
                [](P& p) { p.drawLine(13, 9, 33, 29); p.drawLine(30, 25, 30, 5); }},
-    {__LINE__, [](C& c) { c.SetMapMode(MM_ANISOTROPIC); c.SetWindowExt(30, 25); c.SetViewportExt(60, -50); c.SetViewportOrg(0, 49); c.MoveTo(5, 5); c.LineTo(20, 20); },
-               [](P& p) { p.setViewport(0, 49, 60, -50); p.setWindow(0, 0, 30, 25); p.drawLine(5, 5, 20, 20); }},
     // Text, icons and images where an axis runs against the device
     {__LINE__, [](C& c) { turn(c); auto r = rect(2, 48, 50, 10); c.DrawText(kWide, -1, &r, Qt::AlignRight); c.TextOut(4, 20, L"ab", 2); c.MoveTo(9, 9); c.LineTo(20, 9); },
                [](P& p) { p.drawText(corners(2, 2, 49, 39), Qt::AlignRight, kText); p.drawText(4, 30 + p.fontMetrics().ascent(), QStringLiteral("ab")); p.drawLine(9, 41, 20, 41); }},

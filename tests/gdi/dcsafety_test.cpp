@@ -230,9 +230,8 @@ TEST(DcResults, WithAndWithoutADevice)
     CRgn_E empty;
     tagRECT rect{0, 0, 5, 5}, *const pNone = nullptr;
     constexpr tagPOINT kPoints[] = {{0, 0}, {5, 0}, {5, 5}, {0, 5}};
-    CDC_E* const all[] = {&none, &noImage, &noWidget, &noWindow, &dead, &image.dc};
-    for (CDC_E* const p : all) {
-        CDC_E& dc = *p;
+    const std::reference_wrapper<CDC_E> all[] = {none, noImage, noWidget, noWindow, dead, image.dc};
+    for (CDC_E& dc : all) {
         EXPECT_NE(dc.SelectObject(&pen), nullptr);
         dc.SelectObject(&brush);
         dc.InvertRect(&rect);

@@ -7,7 +7,7 @@ struct DcValues : testing::Test, Canvas
 {
 };
 
-TEST_F(DcValues, ColorsByValueAndByIndex)
+TEST_F(DcValues, Colors)
 {
     dc.SelectObject(QPen(Qt::blue));
     expectAll(RGB(0, 0, 255), {dc.GetTextColor(), dc.SetTextColor(RGB(1, 2, 3))}); // of the pen
@@ -24,10 +24,8 @@ TEST_F(DcValues, ColorsByValueAndByIndex)
     EXPECT_EQ(dc.SetBkColor(0xFF0000UL), Qt::yellow);
     EXPECT_TRUE(dc.GetTextColor() == Qt::red && dc.GetBkColor() == Qt::blue);
     EXPECT_EQ(CDC_E().SetTextColor(RGB(1, 1, 1)), Qt::black); // without a painter
-}
 
-TEST_F(DcValues, ColorsCompareByWhatTheyAre)
-{
+    // Colours compare by what they are.
     dc.SetTextColor(RGB(255, 0, 0));
     const auto text = [this] { return dc.GetTextColor(); };
     const QColor red(Qt::red);

@@ -4,17 +4,14 @@
 
 namespace {
 
-// The hue wheel follows no formula: its 256 entries are known by their digest.
-TEST(GdiTables, DefaultPalette)
+TEST(GdiTables, Colors)
 {
+    // The hue wheel follows no formula: its 256 entries are known by their digest.
     const auto& palette = vx::detail::defaultPalette();
     const QByteArray bytes(reinterpret_cast<const char*>(palette.data()), sizeof(palette));
     EXPECT_EQ(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex(),
               "c61f438040a55eedb0672c5ad3fe2ed5");
-}
 
-TEST(GdiTables, SystemColors)
-{
     const std::map<int, COLORREF> listed = {
         {4, 0xF0F0F0},  {5, 0xFFFFFF},  {13, 0xD77800}, {14, 0xFFFFFF}, {15, 0xF0F0F0},
         {16, 0xA0A0A0}, {17, 0x6D6D6D}, {20, 0xFFFFFF}, {24, 0xE1FFFF},

@@ -5,8 +5,6 @@
 
 #include <gmock/gmock.h>
 
-namespace vxtest {
-
 /// Expects that calls all return @p expected.
 inline void expectAll(long long expected, std::initializer_list<long long> results)
 {
@@ -46,12 +44,3 @@ struct Canvas
     CDC_E dc{&image};
     Canvas() { image.fill(Qt::white); }
 };
-
-} // namespace vxtest
-
-using vxtest::Bitmap;
-using vxtest::Canvas;
-using vxtest::expectAll;
-using vxtest::expectZeros;
-using vxtest::RectRgn;
-using vxtest::valueOf;
