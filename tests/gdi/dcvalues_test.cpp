@@ -116,12 +116,12 @@ TEST_F(DcValues, OfTheClip)
     dc.SetViewportOrg(-5, 0);
     EXPECT_EQ(dc.GetClipBox(&box), SIMPLEREGION);
     EXPECT_EQ(box, CRect_E(5, 0, 65, 50));
-    dc.IntersectClipRect(10, 10, 20, 20);
+    dc.IntersectClipRect(50, 10, 90, 20); // beyond the image
     EXPECT_EQ(dc.GetClipBox(&box), SIMPLEREGION);
-    EXPECT_EQ(box, CRect_E(10, 10, 20, 20));
-    expectAll(TRUE, {dc.PtVisible(19, 19), dc.RectVisible(&box)});
-    EXPECT_FALSE(dc.PtVisible(20, 19));
-    EXPECT_EQ(dc.GetPixel(20, 19), CLR_INVALID);
+    EXPECT_EQ(box, CRect_E(50, 10, 65, 20));
+    expectAll(TRUE, {dc.PtVisible(64, 19), dc.RectVisible(&box), !dc.PtVisible(65, 19)});
+    EXPECT_FALSE(dc.PtVisible(64, 20));
+    EXPECT_EQ(dc.GetPixel(64, 20), CLR_INVALID);
     dc.IntersectClipRect(30, 30, 40, 40);
     EXPECT_EQ(dc.GetClipBox(&box), NULLREGION);
 }

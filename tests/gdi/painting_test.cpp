@@ -107,7 +107,7 @@ TEST_F(Painting, DrawsOnTheScreenWhatItDrawsOnAnImage)
     view.paint = [&] {
         CPaintDC_E dc(&view);
         EXPECT_EQ(CRect_E(dc.m_ps.rcPaint), CRect_E(0, 0, 100, 80));
-        EXPECT_EQ(dc.m_painter.device(), pWidget);
+        EXPECT_TRUE(dc.m_painter.device() == pWidget && CDC_E::FromHandle(dc.m_ps.hdc) == &dc);
         picture(dc);
     };
     repaint();
