@@ -1,48 +1,35 @@
-#include <VxMFCEmu/gdi.h>
-
-#include "gdi/zeros.h"
+// Fonts made from heights, weights and faces, and told back.
+#include "gdi/gditest.h"
 
 namespace {
 
-tagLOGFONT logFont(int height, int weight = FW_NORMAL)
+struct Font : CFont_E
 {
-    return {height, 0, 0, 0, weight, 0, 0, 0, 1, 0, 0, 0, 0, L"DejaVu Sans"};
-}
+    explicit Font(int height, int weight = FW_NORMAL)
+    {
+        const tagLOGFONT lf{height, 0, 0, 0, weight, 0, 0, 0, 1, 0, 0, 0, 0, L"DejaVu Sans"};
+        EXPECT_TRUE(CreateFontIndirect(&lf));
+    }
+};
 
-TEST(Fonts, HeightIsOfTheLineOrOfTheCharacters)
+// A height is that of the line or, negative, of the characters; weights map to the scale of Qt.
+TEST(Fonts, HeightsAndWeights)
 {
     for (const int height : {8, 16, 33, 100}) {
-        CFont_E line;
-        CFont_E characters;
-        const tagLOGFONT positive = logFont(height);
-        const tagLOGFONT negative = logFont(-height);
-        EXPECT_TRUE(line.CreateFontIndirect(&positive));
-        EXPECT_TRUE(characters.CreateFontIndirect(&negative));
-        EXPECT_EQ(characters.pixelSize(), height);
+        QFont line = Font(height);
+        EXPECT_EQ(Font(-height).pixelSize(), height);
         EXPECT_LE(QFontMetrics(line).height(), height);
-        QFont larger = line;
-        larger.setPixelSize(line.pixelSize() + 1);
-        EXPECT_GT(QFontMetrics(larger).height(), height);
+        line.setPixelSize(line.pixelSize() + 1);
+        EXPECT_GT(QFontMetrics(line).height(), height);
     }
-    for (const int height : {INT_MAX, INT_MIN, 1, -1, 0}) {
-        CFont_E font;
-        const tagLOGFONT extreme = logFont(height);
-        EXPECT_TRUE(font.CreateFontIndirect(&extreme)) << height;
-        EXPECT_EQ(font.pointSizeF() == QFont().pointSizeF(), height == 0) << height;
-    }
-}
+    for (const int height : {INT_MAX, INT_MIN, 1, -1, 0})
+        EXPECT_EQ(Font(height).pointSizeF() == QFont().pointSizeF(), height == 0) << height;
 
-TEST(Fonts, WeightsMapToTheScaleOfQt)
-{
-    const int rows[][2] = {{FW_DONTCARE, 50}, {100, 0},  {200, 12}, {300, 25},
-                           {400, 50},         {500, 57}, {600, 63}, {700, 75},
-                           {800, 81},         {900, 87}, {720, 75}, {5000, 87}};
-    for (const auto& row : rows) {
-        CFont_E font;
-        const tagLOGFONT lf = logFont(-12, row[0]);
-        font.CreateFontIndirect(&lf);
-        EXPECT_EQ(font.weight(), row[1]) << row[0];
-    }
+    constexpr Row<int, int> kRows[] = {
+        {FW_DONTCARE, 50}, {100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
+        {600, 63},         {700, 75}, {800, 81}, {900, 87}, {720, 75}, {5000, 87},
+    };
+    forRows(kRows, [](int win, int qt) { EXPECT_EQ(Font(-12, win).weight(), qt); });
 }
 
 TEST(Fonts, KeepWhatTheyWereMadeFrom)
@@ -51,20 +38,11 @@ TEST(Fonts, KeepWhatTheyWereMadeFrom)
     EXPECT_TRUE(font.CreateFont(20, 9, 450, 451, FW_BOLD, 1, 1, 1, GREEK_CHARSET, OUT_TT_PRECIS,
                                 CLIP_LH_ANGLES, NONANTIALIASED_QUALITY, FF_ROMAN,
                                 L"A face whose name is far longer than there is room for"));
-    const tagLOGFONT expected{20,
-                              9,
-                              450,
-                              451,
-                              FW_BOLD,
-                              1,
-                              1,
-                              1,
-                              GREEK_CHARSET,
-                              OUT_TT_PRECIS,
-                              CLIP_LH_ANGLES,
-                              NONANTIALIASED_QUALITY,
-                              FF_ROMAN,
-                              L"A face whose name is far longer"};
+    tagLOGFONT expected{
+        20,       9, 450,           451,           FW_BOLD,        1,
+        1,        1, GREEK_CHARSET, OUT_TT_PRECIS, CLIP_LH_ANGLES, NONANTIALIASED_QUALITY,
+        FF_ROMAN, {}};
+    wcscpy(expected.lfFaceName, L"A face whose name is far longer");
     tagLOGFONT out{};
     EXPECT_EQ(font.GetLogFont(&out), 1);
     EXPECT_EQ(memcmp(&out, &expected, sizeof(out)), 0);
@@ -75,8 +53,8 @@ TEST(Fonts, KeepWhatTheyWereMadeFrom)
     font.setItalic(false); // as a QFont
     font.setPixelSize(31);
     EXPECT_EQ(font.GetLogFont(&out), 1);
-    EXPECT_EQ(QVector<int>({out.lfHeight, out.lfItalic, out.lfWeight, out.lfEscapement}),
-              QVector<int>({-31, 0, FW_BOLD, 450}));
+    EXPECT_EQ(std::tuple(out.lfHeight, out.lfItalic, out.lfWeight, out.lfEscapement),
+              std::tuple(-31, 0, FW_BOLD, 450));
 }
 
 TEST(Fonts, PointSizesAreTenthsAndFailuresKeepTheHandle)
@@ -89,7 +67,7 @@ TEST(Fonts, PointSizesAreTenthsAndFailuresKeepTheHandle)
     EXPECT_EQ(out.lfHeight,
               -qRound(9.5 * QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 72));
     const HGDIOBJ h = font;
-    const tagLOGFONT lf = logFont(0);
+    const tagLOGFONT lf{};
     expectZeros({font.CreatePointFont(0, L""), font.CreatePointFontIndirect(&lf),
                  font.CreatePointFontIndirect(nullptr), font.CreateFontIndirect(nullptr),
                  font.GetLogFont(nullptr), CFont_E().GetLogFont(&out)});

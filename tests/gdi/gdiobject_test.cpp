@@ -1,10 +1,5 @@
 // How GDI objects hold, share and free their handles, the same for every class.
-#include <VxMFCEmu/core/handlemap.h>
-#include <VxMFCEmu/gdi.h>
-
-#include "gdi/zeros.h"
-
-#include <gmock/gmock.h>
+#include "gdi/gditest.h"
 
 #include <sys/wait.h>
 
@@ -21,22 +16,22 @@ struct FreshMap : testing::Test
     ~FreshMap() override { CGdiObject_E::DeleteTempMap(); }
 };
 
-CHandleMap_E* pDying = nullptr;
-int destroyed = 0;
-
 TEST(TemporaryObjects, DestructorMaySetOthersAside)
 {
-    const auto destroy = [](CObject_E* pObject) {
-        for (std::uintptr_t n = 1; n <= 9; ++n)
-            pDying->SetAside(reinterpret_cast<HGDIOBJ>(n * 16));
-        ConstructDestruct_E<CGdiObject_E>::Destruct(pObject);
-        ++destroyed;
-    };
-    CHandleMap_E map(RUNTIME_CLASS_E(CGdiObject_E), &ConstructDestruct_E<CGdiObject_E>::Construct,
-                     destroy, vx::detail::offsetOfMember(&CGdiObject_E::m_hObject));
-    pDying = &map;
-    for (std::uintptr_t n = 1; n <= 9; ++n)
-        map.FromHandle(reinterpret_cast<HGDIOBJ>(n * 16));
+    using Life = ConstructDestruct_E<CGdiObject_E>;
+    static char handles[9];
+    static int destroyed = 0;
+    static CHandleMap_E map(
+        RUNTIME_CLASS_E(CGdiObject_E), &Life::Construct,
+        [](CObject_E* pObject) {
+            for (char& handle : handles)
+                map.SetAside(&handle);
+            Life::Destruct(pObject);
+            ++destroyed;
+        },
+        vx::detail::offsetOfMember(&CGdiObject_E::m_hObject));
+    for (char& handle : handles)
+        map.FromHandle(&handle);
     map.DeleteTemp();
     EXPECT_EQ(destroyed, 9);
 }
@@ -67,17 +62,16 @@ TYPED_TEST(GdiObject, IsEmptyUntilCreatedAndOnceDeleted)
 {
     TypeParam object;
     EXPECT_EQ(object.GetSafeHandle(), nullptr);
-    ASSERT_TRUE(create(object));
+    EXPECT_TRUE(create(object));
     const HGDIOBJ old = object;
-    ASSERT_TRUE(create(object));
+    EXPECT_TRUE(create(object));
     EXPECT_NE(CGdiObject_E::FromHandle(old), &object) << "let go, not freed";
     EXPECT_TRUE(CGdiObject_E::FromHandle(old)->DeleteObject());
     EXPECT_EQ(TypeParam::FromHandle(object), &object);
-    EXPECT_EQ(object.GetObject(100, &object), 0);
     EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS_E(CGdiObject_E)));
     CGdiObject_E& base = object;
     EXPECT_TRUE(base.DeleteObject());
-    expectZeros({base.DeleteObject(), base.Attach(nullptr)});
+    expectZeros({base.DeleteObject(), base.Attach(nullptr), base.GetObject(100, &object)});
     EXPECT_EQ(object.Detach(), nullptr);
 }
 
@@ -95,11 +89,11 @@ TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
     EXPECT_TRUE(object.Attach(h));
     EXPECT_EQ(CGdiObject_E::FromHandle(h), &object);
     // A temporary object deletes for good, but not what another object holds.
-    HGDIOBJ const shared = object.Detach();
-    CGdiObject_E* const second = CGdiObject_E::FromHandle(shared);
-    object.Attach(shared);
+    object.Detach();
+    CGdiObject_E* const second = CGdiObject_E::FromHandle(h);
+    object.Attach(h);
     EXPECT_TRUE(second->DeleteObject());
-    EXPECT_EQ(object.m_hObject, shared);
+    EXPECT_EQ(object.m_hObject, h);
 }
 
 TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
@@ -118,51 +112,51 @@ TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
     EXPECT_TRUE(untyped.DeleteObject());
 }
 
-TEST(GdiObjects, HandleOfAnotherClassGivesNoObject)
+struct Selection : FreshMap, Canvas
 {
-    CBrush_E brush(RGB(9, 9, 9));
-    EXPECT_EQ(CPen_E::FromHandle(brush), nullptr);
-    EXPECT_EQ(CBrush_E::FromHandle(nullptr), nullptr);
-    int nobody = 0;
-    EXPECT_TRUE(CGdiObject_E::FromHandle(&nobody)->DeleteObject()) << "of unknown type: not freed";
-    CGdiObject_E::DeleteTempMap();
-}
-
-class Selection : public FreshMap
-{
-public:
-    Selection() : m_dc(&m_image) { m_dc.SelectObject(QPen(Qt::darkYellow, 5)); }
-
-    CPen_E* select(CPen_E* pPen) { return m_dc.SelectObject(pPen); }
+    Selection() { dc.SelectObject(QPen(Qt::darkYellow, 5)); }
+    CPen_E* select(CPen_E* pPen) { return dc.SelectObject(pPen); }
     /// The object for a value that the painter has.
     CPen_E* objectOf(const QPen& value)
     {
-        m_dc.SelectObject(value);
+        dc.SelectObject(value);
         return select(nullptr);
     }
-    QPen current() const { return m_dc.m_painter.pen(); }
-    static QPen valueOf(const CPen_E* pPen) { return *static_cast<QPen*>(pPen->m_hObject); }
-
-    QImage m_image{8, 8, QImage::Format_RGB32};
-    CDC_E m_dc;
+    QPen current() const { return dc.m_painter.pen(); }
 };
+
+// Such an object owns what it made, and frees it.
+TEST_F(FreshMap, TemporaryObjectMayBecomeAnOwner)
+{
+    CPen_E other(PS_SOLID, 1, RGB(1, 1, 1));
+    HGDIOBJ const h = other.Detach();
+    CPen_E* const pTemporary = CPen_E::FromHandle(h);
+    EXPECT_TRUE(pTemporary->CreatePen(PS_SOLID, 1, RGB(1, 2, 3)));
+    HGDIOBJ const hNew = *pTemporary;
+    EXPECT_NE(CPen_E::FromHandle(h), pTemporary);
+    EXPECT_EQ(pTemporary->m_hObject, hNew);
+    EXPECT_EQ(CPen_E::FromHandle(hNew), pTemporary);
+    CGdiObject_E::DeleteTempMap();
+    EXPECT_EQ(afxMapHGDIOBJ_E()->LookupPermanent(hNew), nullptr);
+    other.Attach(h);
+}
 
 TEST_F(Selection, PreviousObjectHoldsThePreviousValue)
 {
-    CPen_E red(PS_SOLID, 1, RGB(255, 0, 0));
-    CPen_E dots(PS_DOT, 2, RGB(0, 255, 0));
+    CPen_E red(PS_SOLID, 1, RGB(255, 0, 0)), dots(PS_DOT, 2, RGB(0, 255, 0)), nothing;
     const QPen initial = current();
     CPen_E* const first = select(&red);
-    EXPECT_EQ(valueOf(first), initial);
+    EXPECT_EQ(valueOf<QPen>(*first), initial);
     EXPECT_EQ(CGdiObject_E::FromHandle(first->m_hObject), first);
     EXPECT_EQ(select(&dots), &red) << "the object itself while it is there";
+    EXPECT_EQ(select(&nothing), &dots) << "nothing is selected";
     EXPECT_EQ(select(first), &dots);
     EXPECT_EQ(current(), initial) << "long since, others were selected";
     EXPECT_EQ(select(&red), first);
-    m_dc.SelectObject(initial); // by value
+    EXPECT_EQ(dc.SelectObject(initial), valueOf<QPen>(red)) << "by value";
     EXPECT_EQ(select(&dots), first) << "one object for equal values";
     first->DeleteObject();
-    EXPECT_EQ(valueOf(CPen_E::FromHandle(objectOf(initial)->m_hObject)), initial);
+    EXPECT_EQ(valueOf<QPen>(*CPen_E::FromHandle(objectOf(initial)->m_hObject)), initial);
 }
 
 TEST_F(Selection, SelectedObjectMayDieOrChange)
@@ -172,18 +166,47 @@ TEST_F(Selection, SelectedObjectMayDieOrChange)
     select(pen.get());
     const QPen dashed = current();
     pen.reset();
-    EXPECT_EQ(valueOf(select(&other)), dashed);
+    EXPECT_EQ(valueOf<QPen>(*select(&other)), dashed);
     other.DeleteObject();
     other.CreatePen(PS_DOT, 7, RGB(7, 7, 7));
-    EXPECT_EQ(valueOf(select(nullptr)), current());
+    EXPECT_EQ(valueOf<QPen>(*select(nullptr)), current());
     CPen_E* const held = objectOf(dashed);
     CPen_E owner;
     owner.Attach(held->Detach());
     CGdiObject_E::DeleteTempMap();
-    EXPECT_EQ(valueOf(&owner), dashed) << "whoever takes hold of a copy owns it";
+    EXPECT_EQ(valueOf<QPen>(owner), dashed) << "whoever takes hold of a copy owns it";
     select(objectOf(dashed));
     CGdiObject_E::DeleteTempMap();
-    EXPECT_EQ(valueOf(select(nullptr)), current());
+    EXPECT_EQ(valueOf<QPen>(*select(nullptr)), current());
+}
+
+TEST_F(Selection, OfEveryClass)
+{
+    CPen_E pen(PS_SOLID, 1, RGB(1, 2, 3));
+    CBrush_E brush(RGB(4, 5, 6));
+    CFont_E font;
+    font.setPixelSize(31);
+    RectRgn region(0, 0, 3, 3);
+    CBitmap_E bitmap;
+    CPalette_E palette;
+    EXPECT_EQ(CPen_E::FromHandle(brush), nullptr) << "the handle is one of another class";
+    EXPECT_EQ(CBrush_E::FromHandle(nullptr), nullptr);
+    EXPECT_TRUE(CGdiObject_E::FromHandle(this)->DeleteObject()) << "of unknown type: not freed";
+    EXPECT_EQ(valueOf<QPen>(*dc.SelectObject(static_cast<CGdiObject_E*>(&pen))),
+              QPen(Qt::darkYellow, 5));
+    CGdiObject_E* const others[] = {nullptr, &font, &region, &bitmap, &palette};
+    for (CGdiObject_E* const p : others)
+        EXPECT_EQ(dc.SelectObject(p), nullptr);
+    CGdiObject_E* const noBrush = dc.SelectObject(static_cast<CGdiObject_E*>(&brush));
+    EXPECT_EQ(current(), QPen(QColor(1, 2, 3)));
+    EXPECT_EQ(dc.m_painter.brush(), QBrush(QColor(4, 5, 6)));
+    EXPECT_EQ(dc.m_painter.font().pixelSize(), 31);
+    EXPECT_EQ(dc.m_painter.clipRegion(), QRegion(0, 0, 4, 4));
+    EXPECT_EQ(dc.SelectObject(noBrush), &brush);
+    EXPECT_EQ(dc.m_painter.brush(), QBrush());
+    EXPECT_EQ(dc.SelectObject(static_cast<CFont_E*>(nullptr)).pixelSize(), 31);
+    EXPECT_EQ(dc.SelectObject(QFont()).pixelSize(), 31);
+    EXPECT_NE(dc.m_painter.font().pixelSize(), 31);
 }
 
 } // namespace

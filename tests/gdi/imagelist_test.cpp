@@ -1,52 +1,42 @@
-#include <VxMFCEmu/gdi.h>
-
-#include "gdi/zeros.h"
+// Image lists: whose bitmaps they hold, and what they count.
+#include "gdi/gditest.h"
 
 namespace {
 
-class ImageLists : public testing::Test
+struct ImageLists : testing::Test
 {
-public:
-    ImageLists()
-    {
-        m_red.Attach(new QImage(4, 4, QImage::Format_RGBX8888));
-        m_blue.Attach(new QImage(4, 4, QImage::Format_RGBX8888));
-        imageOf(m_red).fill(Qt::red);
-        imageOf(m_blue).fill(Qt::blue);
-    }
-    static QImage& imageOf(const CBitmap_E& bitmap)
-    {
-        return *static_cast<QImage*>(bitmap.GetSafeHandle());
-    }
-    static HBITMAP bitmapOf(const CImageList_E& list, int i)
+    static QImage* imageOf(const CImageList_E& list, int i)
     {
         tagIMAGEINFO info{};
-        return list.GetImageInfo(i, &info) ? info.hbmImage : nullptr;
+        return list.GetImageInfo(i, &info) ? static_cast<QImage*>(info.hbmImage) : nullptr;
     }
     static QColor colorOf(const CImageList_E& list, int i)
     {
-        return static_cast<QImage*>(bitmapOf(list, i))->pixelColor(1, 1);
+        return imageOf(list, i)->pixelColor(1, 1);
     }
 
-    CBitmap_E m_red;
-    CBitmap_E m_blue;
+    Bitmap m_red{4, 4, Qt::red}, m_blue{4, 4, Qt::blue};
     CBitmap_E m_empty;
-    CBitmap_E* m_pNone = nullptr;
     CImageList_E m_list;
 };
 
-TEST_F(ImageLists, CreateAppendsNewBitmaps)
+TEST_F(ImageLists, CreateAppendsAndRemoveCounts)
 {
     expectZeros({m_list.Create(16, 16, ILC_COLOR32, 0, 4), m_list.DeleteImageList()});
-    EXPECT_TRUE(m_list.Create(16, 8, ILC_COLOR32, 2, 4));
-    EXPECT_TRUE(m_list.Create(16, 8, ILC_COLOR32, 1, 4));
-    EXPECT_EQ(m_list.GetImageCount(), 3);
+    EXPECT_TRUE(m_list.Create(16, 8, ILC_COLOR32, 2, 4) && m_list.Create(16, 8, ILC_COLOR32, 1, 4));
+    EXPECT_EQ(m_list.Add(&m_blue, &m_red), 3);
     EXPECT_EQ(CImageList_E::FromHandle(m_list), &m_list);
     tagIMAGEINFO info{};
     EXPECT_TRUE(m_list.GetImageInfo(2, &info));
     EXPECT_EQ(CRect_E(info.rcImage), CRect_E(0, 0, 16, 8));
-    EXPECT_TRUE(m_list.DeleteImageList());
-    EXPECT_EQ(m_list.GetImageCount(), 0);
+    expectZeros({m_list.Remove(-1), m_list.Remove(5), m_list.SetImageCount(0)});
+    EXPECT_TRUE(m_list.Remove(4)) << "Intended: one past the end";
+    EXPECT_EQ(m_list.GetImageCount(), 4);
+    EXPECT_TRUE(m_list.Remove(0));
+    EXPECT_EQ(imageOf(m_list, 2), m_blue.m_hObject);
+    EXPECT_TRUE(m_list.SetImageCount(0xFFFFFFFF));
+    EXPECT_EQ(m_list.GetImageCount(), 3);
+    EXPECT_TRUE(m_list.DeleteImageList() && m_list.GetImageCount() == 0);
 }
 
 TEST_F(ImageLists, AddTakesTheBitmapItself)
@@ -55,40 +45,25 @@ TEST_F(ImageLists, AddTakesTheBitmapItself)
                               QImage::Format_ARGB32_Premultiplied, QImage::Format_Grayscale8}) {
         CBitmap_E bitmap;
         bitmap.Attach(new QImage(3, 3, format));
-        imageOf(bitmap).fill(Qt::white);
-        imageOf(bitmap).setPixelColor(1, 0, Qt::black);
+        valueOf<QImage>(bitmap).fill(Qt::white);
+        valueOf<QImage>(bitmap).setPixelColor(1, 0, Qt::black);
         const int count = m_list.GetImageCount();
         EXPECT_EQ(m_list.Add(&bitmap, RGB(255, 255, 255)), count);
-        EXPECT_EQ(imageOf(bitmap).pixelColor(2, 2), QColor(Qt::transparent)) << format;
-        EXPECT_EQ(imageOf(bitmap).pixelColor(1, 0), QColor(Qt::black)) << format;
+        EXPECT_EQ(valueOf<QImage>(bitmap).pixelColor(2, 2), QColor(Qt::transparent)) << format;
+        EXPECT_EQ(valueOf<QImage>(bitmap).pixelColor(1, 0), QColor(Qt::black)) << format;
     }
     EXPECT_EQ(m_list.Add(&m_blue, &m_red), 5);
-    EXPECT_EQ(bitmapOf(m_list, 0), nullptr) << "destroyed";
+    EXPECT_EQ(imageOf(m_list, 0), nullptr) << "destroyed";
     tagIMAGEINFO info{};
     EXPECT_TRUE(m_list.GetImageInfo(5, &info));
-    EXPECT_EQ(info.hbmImage, m_blue.m_hObject);
-    EXPECT_EQ(info.hbmMask, m_red.m_hObject);
-    for (CBitmap_E* const pBitmap : {&m_empty, m_pNone})
-        EXPECT_EQ(m_list.Add(pBitmap, RGB(0, 0, 0)), -1);
-    EXPECT_EQ(m_list.Add(m_pNone, &m_red), -1);
+    EXPECT_TRUE(info.hbmImage == m_blue.m_hObject && info.hbmMask == m_red.m_hObject);
+    CBitmap_E* const pNone = nullptr;
+    expectAll(-1, {m_list.Add(&m_empty, 0U), m_list.Add(pNone, 0U), m_list.Add(pNone, &m_red)});
     EXPECT_EQ(m_list.SetBkColor(RGB(9, 8, 7)), 0U) << "of the first image, which is gone";
-    EXPECT_EQ(imageOf(m_blue).pixelColor(2, 2), QColor(9, 8, 7));
+    EXPECT_EQ(valueOf<QImage>(m_blue).pixelColor(2, 2), QColor(9, 8, 7));
     EXPECT_EQ(CImageList_E(m_list).GetImageCount(), 6);
     EXPECT_TRUE(m_list.Replace(0, &m_blue, nullptr));
     EXPECT_EQ(m_list.GetBkColor(), RGB(9, 8, 7));
-}
-
-TEST_F(ImageLists, RemoveAndCounts)
-{
-    m_list.Add(&m_red, &m_blue);
-    m_list.Add(&m_blue, &m_red);
-    expectZeros({m_list.Remove(-1), m_list.Remove(3), m_list.SetImageCount(0)});
-    EXPECT_TRUE(m_list.Remove(2)) << "one past the end";
-    EXPECT_EQ(m_list.GetImageCount(), 2);
-    EXPECT_TRUE(m_list.Remove(0));
-    EXPECT_EQ(bitmapOf(m_list, 0), m_blue.m_hObject);
-    EXPECT_TRUE(m_list.SetImageCount(0xFFFFFFFF));
-    EXPECT_EQ(m_list.GetImageCount(), 1);
 }
 
 TEST_F(ImageLists, CopiesHaveBitmapsOfTheirOwn)
@@ -100,15 +75,16 @@ TEST_F(ImageLists, CopiesHaveBitmapsOfTheirOwn)
     EXPECT_TRUE(copy.Create(&m_list));
     copy = *&copy;
     EXPECT_EQ(copy.GetImageCount(), 2);
-    EXPECT_NE(bitmapOf(copy, 0), m_red.m_hObject);
+    EXPECT_NE(imageOf(copy, 0), m_red.m_hObject);
     EXPECT_TRUE(copy.Copy(0, 1, ILCF_SWAP));
     EXPECT_TRUE(colorOf(copy, 0) == Qt::blue && colorOf(copy, 1) == Qt::red);
     EXPECT_TRUE(copy.Copy(0, 1));
     EXPECT_TRUE(colorOf(copy, 0) == Qt::red && colorOf(copy, 1) == Qt::red);
-    EXPECT_NE(bitmapOf(copy, 0), bitmapOf(copy, 1));
+    EXPECT_NE(imageOf(copy, 0), imageOf(copy, 1));
     EXPECT_TRUE(m_list.Copy(1, &copy, 0));
     EXPECT_EQ(colorOf(m_list, 1), QColor(Qt::red));
-    EXPECT_EQ(imageOf(m_blue).pixelColor(1, 1), QColor(Qt::blue)) << "no longer in the list";
+    EXPECT_EQ(valueOf<QImage>(m_blue).pixelColor(1, 1), QColor(Qt::blue))
+        << "no longer in the list";
     expectZeros({copy.Create(nullptr), m_list.Copy(1, &copy, 0, ILCF_SWAP), m_list.Copy(2, 0),
                  m_list.Copy(1, nullptr, 0), m_list.Copy(0, -1), m_list.GetImageInfo(0, nullptr),
                  m_list.Replace(2, &m_red, nullptr), m_list.Replace(0, &m_empty, nullptr),

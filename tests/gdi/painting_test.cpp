@@ -1,21 +1,11 @@
 // Windows that paint themselves: WM_PAINT, WM_ERASEBKGND, WM_CTLCOLOR, drawing at other times.
-#include <VxMFCEmu/VxMFCEmu.h>
-
-#include "support/waiting.h"
+#include "gdi/gditest.h"
 #include "support/xinput.h"
-
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
-#include <QtWidgets/QtWidgets>
-
-#include <gmock/gmock.h>
-
-#include <functional>
 
 namespace {
 
 // What the screen shows of a widget.
-QImage shown(QWidget& widget)
+QImage shown(const QWidget& widget)
 {
     const QPoint at = widget.mapTo(widget.window(), QPoint());
     return widget.screen()
@@ -24,20 +14,28 @@ QImage shown(QWidget& widget)
         .convertToFormat(QImage::Format_RGB32);
 }
 
-class View : public CWnd_E
+// At these places, whatever the scale.
+bool comesToShow(const QWidget& widget, const QVector<std::pair<QPoint, QColor>>& places)
 {
-public:
+    return vxtest::waitUntil([&] {
+        const QImage image = shown(widget).scaled(widget.size());
+        return std::all_of(places.begin(), places.end(), [&](const auto& place) {
+            return image.pixelColor(place.first) == place.second;
+        });
+    });
+}
+
+struct View : CWnd_E
+{
     void OnPaint()
     {
         log += QLatin1Char('p');
-        if (paint)
-            paint(*this);
+        paint();
     }
     BOOL OnEraseBkgnd(CDC_E* pDC)
     {
         log += QLatin1Char('e');
-        if (erase)
-            erase(*pDC);
+        erase(*pDC);
         return TRUE;
     }
     HBRUSH OnCtlColor(CDC_E* pDC, QWidget* pControl, UINT nCtlColor)
@@ -50,8 +48,8 @@ public:
         return brush.GetSafeHandle();
     }
 
-    std::function<void(View&)> paint;
-    std::function<void(CDC_E&)> erase;
+    std::function<void()> paint = [] {};
+    std::function<void(CDC_E&)> erase = [](CDC_E&) {};
     QString log;
     bool answers = true;
     QHash<QWidget*, UINT> kinds;
@@ -66,304 +64,225 @@ ON_WM_CTLCOLOR_E()
 END_MESSAGE_MAP_E()
 
 // A window on the screen with a view in it that is not at its origin.
-struct Shown
+struct Painting : testing::Test
 {
-    QWidget top;
-    View view;
-    QWidget* pWidget = nullptr;
-
-    void show()
+    Painting()
     {
         top.setGeometry(50, 50, 200, 150);
-        ASSERT_TRUE(view.Create(&top));
+        view.Create(&top);
         pWidget = view.GetSafeHwnd();
         pWidget->setGeometry(20, 30, 100, 80);
         top.show();
-        ASSERT_TRUE(vxtest::waitUntil([this] {
+        EXPECT_TRUE(vxtest::waitUntil([this] {
             return top.windowHandle()->isExposed() && view.log.contains(QLatin1Char('p'));
         }));
-        view.log.clear();
     }
     void repaint()
     {
+        view.log.clear();
         pWidget->update();
         EXPECT_TRUE(vxtest::waitUntil([this] { return !view.log.isEmpty(); }));
     }
+
+    QWidget top;
+    View view;
+    QWidget* pWidget;
 };
 
-template <typename DC>
-void picture(DC& dc)
+TEST_F(Painting, DrawsOnTheScreenWhatItDrawsOnAnImage)
 {
-    CPen_E pen(PS_SOLID, 3, RGB(0, 0, 255));
-    CBrush_E hatch(HS_CROSS, RGB(255, 0, 0));
-    CPen_E* const pPen = dc.SelectObject(&pen);
-    dc.SelectObject(&hatch);
-    dc.Rectangle(10, 10, 60, 40);
-    dc.SelectObject(pPen);
-    dc.LineTo(99, 79);
-    tagRECT rect{0, 0, 30, 30};
-    dc.InvertRect(&rect);
-    dc.BitBlt(60, 40, 20, 20, &dc, 5, 5, SRCCOPY);
-}
-
-TEST(Painting, DrawsOnTheScreenWhatItDrawsOnAnImage)
-{
-    Shown s;
-    s.view.erase = [](CDC_E& dc) { dc.FillSolidRect(0, 0, 100, 80, RGB(240, 255, 240)); };
-    s.view.paint = [](View& view) {
+    const auto picture = [](CDC_E& dc) {
+        CPen_E pen(PS_SOLID, 3, RGB(0, 0, 255));
+        CBrush_E hatch(HS_CROSS, RGB(255, 0, 0));
+        dc.SelectStockObject(BLACK_PEN);
+        dc.LineTo(99, 79);
+        dc.SelectObject(&pen);
+        dc.SelectObject(&hatch);
+        dc.Rectangle(10, 10, 60, 40);
+        tagRECT rect{0, 0, 30, 30};
+        dc.InvertRect(&rect);
+        dc.BitBlt(60, 40, 20, 20, &dc, 5, 5, SRCCOPY);
+    };
+    view.erase = [](CDC_E& dc) { dc.FillSolidRect(0, 0, 100, 80, RGB(240, 255, 240)); };
+    view.paint = [&] {
         CPaintDC_E dc(&view);
         EXPECT_EQ(CRect_E(dc.m_ps.rcPaint), CRect_E(0, 0, 100, 80));
-        EXPECT_EQ(dc.m_painter.device(), view.GetSafeHwnd());
-        dc.SelectStockObject(BLACK_PEN);
+        EXPECT_TRUE(dc.m_painter.device() == pWidget && CDC_E::FromHandle(dc.m_ps.hdc) == &dc);
         picture(dc);
     };
-    s.show();
-    s.repaint();
-    EXPECT_EQ(s.view.log, QStringLiteral("ep"));
+    repaint();
+    EXPECT_EQ(view.log, "ep"_q);
     QImage expected(100, 80, QImage::Format_RGB32);
-    {
-        CDC_E dc(&expected);
-        s.view.erase(dc);
-        picture(dc);
-    }
-    EXPECT_TRUE(vxtest::waitUntil([&] { return shown(*s.pWidget) == expected; }, 2000));
-}
-
-TEST(Painting, SecondContextInAPaintMessageDrawsToo)
-{
-    Shown s;
-    s.view.paint = [](View& view) {
-        CPaintDC_E dc(&view);
-        dc.FillSolidRect(0, 0, 100, 80, RGB(255, 255, 255));
-        CClientDC_E other(&view);
-        other.FillSolidRect(10, 10, 20, 20, RGB(255, 0, 0));
-    };
-    s.show();
-    s.repaint();
-    EXPECT_TRUE(vxtest::waitUntil(
-        [&] { return shown(*s.pWidget).pixelColor(15, 15) == QColor(Qt::red); }, 2000));
+    CDC_E dc(&expected);
+    view.erase(dc);
+    picture(dc);
+    dc.DeleteDC();
+    EXPECT_TRUE(vxtest::waitUntil([&] { return shown(*pWidget) == expected; }));
 }
 
 // The first one goes on after the second has ended.
-TEST(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
+TEST_F(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
 {
-    Shown s;
-    bool own = false; // a painter of Qt's first
-    const auto second = [&](View& view) {
+    const auto second = [this] {
         CClientDC_E dc(&view);
         EXPECT_GT(dc.GetTextExtent(L"text", 4).cx, 0);
         dc.FillSolidRect(10, 10, 20, 20, RGB(255, 0, 0));
         EXPECT_TRUE(dc.m_painter.isActive());
     };
-    s.view.paint = [&](View& view) {
-        if (own) {
-            QPainter painter(view.GetSafeHwnd());
-            second(view);
-            painter.fillRect(40, 10, 20, 20, Qt::blue);
-        } else {
-            CPaintDC_E dc(&view);
-            second(view);
-            second(view);
-            dc.FillSolidRect(40, 10, 20, 20, RGB(0, 0, 255));
-        }
+    const auto expectBoth = [this] {
+        repaint();
+        EXPECT_TRUE(comesToShow(*pWidget, {{{20, 20}, Qt::red}, {{50, 20}, Qt::blue}}));
+        QImage rendered(100, 80, QImage::Format_RGB32);
+        pWidget->render(&rendered);
+        EXPECT_EQ(rendered.pixelColor(20, 20), QColor(Qt::red));
+        for (const QImage& image : {rendered, pWidget->grab().toImage()})
+            EXPECT_EQ(image.pixelColor(50, 20), QColor(Qt::blue));
     };
-    s.show();
-    for (const bool value : {false, true}) {
-        own = value;
-        s.repaint();
-        s.view.log.clear();
-        EXPECT_TRUE(vxtest::waitUntil(
-            [&] {
-                const QImage image = shown(*s.pWidget).scaled(100, 80);
-                return image.pixelColor(20, 20) == QColor(Qt::red) &&
-                       image.pixelColor(50, 20) == QColor(Qt::blue);
-            },
-            2000))
-            << own;
-        for (const bool rendered : {false, true}) {
-            QPixmap other(100, 80);
-            other.fill(Qt::white);
-            if (rendered)
-                s.pWidget->render(&other);
-            else
-                other = s.pWidget->grab();
-            EXPECT_EQ(other.toImage().pixelColor(50, 20), QColor(Qt::blue)) << own << rendered;
-            EXPECT_TRUE(!rendered || other.toImage().pixelColor(20, 20) == QColor(Qt::red)) << own;
-        }
-    }
+    view.paint = [&] {
+        CPaintDC_E dc(&view);
+        second();
+        second();
+        dc.FillSolidRect(40, 10, 20, 20, RGB(0, 0, 255));
+    };
+    expectBoth();
+    view.paint = [&] {
+        QPainter painter(pWidget);
+        second();
+        painter.fillRect(40, 10, 20, 20, Qt::blue);
+    };
+    expectBoth();
 }
 
 // All widgets of a window share what is shown: it is not to be painted twice at once.
-TEST(Painting, ContextsOfOtherWidgetsInAPaintMessage)
+TEST_F(Painting, ContextsOfOtherWidgetsInAPaintMessage)
 {
-    Shown s;
-    QWidget sibling(&s.top);
+    QWidget sibling(&top);
     sibling.setGeometry(130, 30, 40, 40);
-    QWidget* pChild = nullptr;
-    const auto mark = [](QWidget* pWidget) {
-        CClientDC_E(pWidget).FillSolidRect(2, 2, 5, 5, RGB(255, 0, 0));
+    sibling.show();
+    const auto mark = [](QWidget* pAny) {
+        CClientDC_E(pAny).FillSolidRect(2, 2, 5, 5, RGB(255, 0, 0));
     };
-    bool marking = false;
-    s.view.paint = [&](View& view) {
-        if (!marking)
-            return;
-        CPaintDC_E dc(&view);
-        for (QWidget* const p : {&sibling, &s.top, pChild})
-            mark(p);
-        dc.FillSolidRect(50, 50, 9, 9, RGB(0, 0, 255)); // goes on
-    };
-    s.view.erase = [&](CDC_E&) { mark(&sibling); };
-    s.show();
-    pChild = new QWidget(s.pWidget);
+    view.erase = [&](CDC_E&) { mark(&sibling); };
+    QWidget* const pChild = new QWidget(pWidget);
     pChild->setGeometry(5, 5, 20, 20);
     pChild->show();
-    marking = true;
-    s.repaint();
-    EXPECT_TRUE(vxtest::waitUntil(
-        [&] {
-            const QImage image = shown(s.top).scaled(s.top.size()); // whatever the scale
-            return image.pixelColor(132, 32) == QColor(Qt::red) &&
-                   image.pixelColor(3, 3) == QColor(Qt::red) &&
-                   image.pixelColor(75, 85) == QColor(Qt::blue);
-        },
-        2000));
+    view.paint = [&] {
+        CPaintDC_E dc(&view);
+        for (QWidget* const pOther : {&sibling, &top, pChild})
+            mark(pOther);
+        dc.FillSolidRect(50, 50, 9, 9, RGB(0, 0, 255)); // goes on
+    };
+    repaint();
+    EXPECT_TRUE(comesToShow(top, {{{132, 32}, Qt::red}, {{3, 3}, Qt::red}, {{75, 85}, Qt::blue}}));
 }
 
-TEST(Painting, ClientContextReachesTheScreenAtOnce)
+TEST_F(Painting, ClientContextReachesTheScreenAtOnce)
 {
-    Shown s;
-    s.view.paint = [](View& view) {
-        CPaintDC_E(&view).FillSolidRect(0, 0, 100, 80, RGB(0, 128, 0));
-    };
-    s.show();
-    s.repaint();
-    s.view.log.clear();
-    const QImage before = shown(*s.pWidget);
-    const auto rubberBand = [&] {
-        CClientDC_E dc(&s.view);
-        EXPECT_EQ(dc.GetPixel(5, 5), RGB(0, 128, 0)); // what is there
-        CClientDC_E(&s.view).FillSolidRect(90, 70, 5, 5, RGB(1, 2, 3));
-        dc.SetROP2(R2_NOT);
-        dc.MoveTo(3, 3);
-        dc.LineTo(80, 60);
-    };
-    rubberBand();
+    view.paint = [this] { CPaintDC_E(&view).FillSolidRect(0, 0, 100, 80, RGB(0, 128, 0)); };
+    repaint();
+    view.log.clear();
+    const QImage before = shown(*pWidget);
     QImage expected = before;
-    {
-        QPainter painter(&expected);
-        painter.fillRect(90, 70, 5, 5, QColor(1, 2, 3)); // by a second one meanwhile
-        painter.setCompositionMode(QPainter::RasterOp_NotDestination);
+    QPainter painter(&expected);
+    painter.fillRect(90, 70, 5, 5, QColor(1, 2, 3)); // by a second one meanwhile
+    painter.setCompositionMode(QPainter::RasterOp_NotDestination);
+    for (int round = 0; round < 2; ++round) { // the second time it takes itself away again
+        {
+            CClientDC_E dc(&view);
+            EXPECT_EQ(dc.GetPixel(5, 5), RGB(0, 128, 0)); // what is there
+            CClientDC_E(&view).FillSolidRect(90, 70, 5, 5, RGB(1, 2, 3));
+            dc.SetROP2(R2_NOT);
+            dc.MoveTo(3, 3);
+            dc.LineTo(80, 60);
+        }
         painter.drawLine(3, 3, 80, 60);
+        EXPECT_EQ(shown(*pWidget), expected);
     }
-    EXPECT_EQ(shown(*s.pWidget), expected);
-    rubberBand(); // takes itself away again
-    QPainter(&(expected = before)).fillRect(90, 70, 5, 5, QColor(1, 2, 3));
-    EXPECT_EQ(shown(*s.pWidget), expected);
-    EXPECT_EQ(s.view.log, QString()); // nobody was asked to paint
-    s.repaint();
-    EXPECT_TRUE(vxtest::waitUntil([&] { return shown(*s.pWidget) == before; }, 2000));
-    s.top.hide();
-    CClientDC_E hidden(&s.view);
+    EXPECT_EQ(view.log, QString()); // nobody was asked to paint
+    repaint();
+    EXPECT_TRUE(vxtest::waitUntil([&] { return shown(*pWidget) == before; }));
+    top.hide();
+    CClientDC_E hidden(&view);
     EXPECT_GT(hidden.GetTextExtent(L"text", 4).cx, 0);
     hidden.LineTo(9, 9);
 }
 
-TEST(Painting, WidgetThatDiesLeavesAnInactivePainter)
+TEST_F(Painting, WidgetThatDiesLeavesAnInactivePainter)
 {
-    Shown s;
-    s.show();
-    bool painted = false;
-    s.view.erase = [&](CDC_E& dc) {
-        painted = true;
-        EXPECT_TRUE(dc.m_painter.isActive());
-        dc.LineTo(5, 5);
-    };
-    s.repaint();
-    EXPECT_TRUE(painted);
-    QWidget* const pChild = new QWidget(&s.top);
-    pChild->setGeometry(150, 100, 30, 30);
-    struct Killer : QObject
+    struct Dying : QWidget
     {
-        bool eventFilter(QObject* watched, QEvent* e) override
+        using QWidget::QWidget;
+        void paintEvent(QPaintEvent*) override
         {
-            if (e->type() != QEvent::Paint)
-                return false;
-            CDC_E dc(static_cast<QWidget*>(watched));
-            wasActive = dc.m_painter.isActive();
-            Q_EMIT static_cast<QWidget*>(watched)->destroyed(watched); // as its destructor does
-            isActive = dc.m_painter.isActive();
+            CDC_E dc(this);
+            active = {dc.m_painter.isActive()};
+            Q_EMIT destroyed(this); // as its destructor does
+            active.append(dc.m_painter.isActive());
             dc.LineTo(3, 3);
-            return true;
         }
-        bool wasActive = false;
-        bool isActive = true;
-    } killer;
-    pChild->installEventFilter(&killer);
-    pChild->show();
-    EXPECT_TRUE(vxtest::waitUntil([&] { return killer.wasActive; }));
-    EXPECT_FALSE(killer.isActive);
-    pChild->removeEventFilter(&killer);
+        QVector<bool> active;
+    };
+    auto* const pDying = new Dying(&top);
+    pDying->show();
+    EXPECT_TRUE(vxtest::waitUntil([&] { return !pDying->active.isEmpty(); }));
+    EXPECT_EQ(pDying->active, QVector<bool>({true, false}));
 }
 
-TEST(ControlColors, AreAskedOfTheWindowAround)
+TEST_F(Painting, ControlColorsAreAskedOfTheWindowAround)
 {
-    Shown s;
-    s.show();
-    auto* const pLabel = new QLabel(QStringLiteral("label"), s.pWidget);
-    auto* const pBox = new QGroupBox(s.pWidget);
+    auto* const pLabel = new QLabel("label"_q, pWidget);
+    auto* const pBox = new QGroupBox(pWidget);
     auto* const pEdit = new QLineEdit(pBox);
     auto* const pButton = new QPushButton(pBox);
     pButton->setAutoFillBackground(true);
-    int y = 0;
-    for (QWidget* const pControl : QList<QWidget*>{pLabel, pBox, pEdit, pButton}) {
+    const Row<QWidget*, int, UINT> rows[] = {
+        {pLabel, 0, CTLCOLOR_STATIC},
+        {pBox, 35, CTLCOLOR_STATIC},
+        {pEdit, 0, CTLCOLOR_EDIT},
+        {pButton, 15, CTLCOLOR_BTN},
+    };
+    for (const auto& [pControl, y, kind] : rows) {
         pControl->setGeometry(5, y, 50, 30);
         pControl->show();
-        y = pControl == pLabel ? 35 : y == 35 ? 0 : 15;
     }
-    EXPECT_TRUE(vxtest::waitUntil([&] { return s.view.kinds.size() == 4; }));
-    EXPECT_EQ(s.view.kinds[pLabel], CTLCOLOR_STATIC);
-    EXPECT_EQ(s.view.kinds[pBox], CTLCOLOR_STATIC);
-    EXPECT_EQ(s.view.kinds[pEdit], CTLCOLOR_EDIT);
-    EXPECT_EQ(s.view.kinds[pButton], CTLCOLOR_BTN);
-    EXPECT_EQ(pLabel->palette().color(QPalette::WindowText), QColor(Qt::red));
-    EXPECT_EQ(pLabel->palette().color(QPalette::Window), QColor(Qt::yellow));
-    s.view.brush.DeleteObject();
-    s.view.brush.CreateSolidBrush(RGB(0, 255, 255));
-    pLabel->update();
-    EXPECT_TRUE(vxtest::waitUntil(
-        [&] { return pLabel->palette().color(QPalette::Window) == QColor(Qt::cyan); }));
-    // What the application sets later stays its own, as does the background that it asked for.
+    EXPECT_TRUE(vxtest::waitUntil([&] { return view.kinds.size() == 4; }));
+    for (const auto& [pControl, y, kind] : rows)
+        EXPECT_EQ(view.kinds[pControl], kind) << y;
+    const auto colorOf = [](const QWidget* pControl, QPalette::ColorRole role) {
+        return pControl->palette().color(role);
+    };
+    const auto labelComesToBe = [&](const QColor& color) {
+        pLabel->update();
+        return vxtest::waitUntil([&] { return colorOf(pLabel, QPalette::Window) == color; });
+    };
+    EXPECT_TRUE(labelComesToBe(Qt::yellow));
+    EXPECT_EQ(colorOf(pLabel, QPalette::WindowText), QColor(Qt::red));
+    view.brush.DeleteObject();
+    view.brush.CreateSolidBrush(RGB(0, 255, 255));
+    EXPECT_TRUE(labelComesToBe(Qt::cyan));
     EXPECT_TRUE(pLabel->autoFillBackground());
-    for (QWidget* const pControl :
-         {static_cast<QWidget*>(pLabel), static_cast<QWidget*>(pButton)}) {
+    // What the application sets later stays its own, as does the background that it asked for.
+    const std::initializer_list<QWidget*> changed{pLabel, pButton};
+    for (QWidget* const pControl : changed) {
         QPalette palette = pControl->palette();
-        palette.setColor(QPalette::Highlight, Qt::darkRed);
         palette.setColor(QPalette::WindowText, Qt::darkBlue);
         pControl->setPalette(palette);
     }
-    s.view.answers = false;
-    pLabel->update();
+    view.answers = false;
     pButton->update();
-    const QColor window = s.top.palette().color(QPalette::Window);
-    EXPECT_TRUE(
-        vxtest::waitUntil([&] { return pLabel->palette().color(QPalette::Window) == window; }));
-    EXPECT_FALSE(pLabel->autoFillBackground());
-    EXPECT_TRUE(pButton->autoFillBackground());
-    for (QWidget* const pControl :
-         {static_cast<QWidget*>(pLabel), static_cast<QWidget*>(pButton)}) {
-        EXPECT_EQ(pControl->palette().color(QPalette::Highlight), QColor(Qt::darkRed));
-        EXPECT_EQ(pControl->palette().color(QPalette::WindowText), QColor(Qt::darkBlue));
-    }
-    s.view.answers = true;
+    EXPECT_TRUE(labelComesToBe(colorOf(&top, QPalette::Window)));
+    EXPECT_TRUE(!pLabel->autoFillBackground() && pButton->autoFillBackground());
+    for (QWidget* const pControl : changed)
+        EXPECT_EQ(colorOf(pControl, QPalette::WindowText), QColor(Qt::darkBlue));
+    view.answers = true;
     // Sent by hand: the result is the brush, of all seven messages.
     CDC_E dc;
     for (UINT n = 0; n < CTLCOLOR_MAX; ++n) {
         LRESULT result = -1;
-        EXPECT_TRUE(s.view.OnWndMsg(WM_CTLCOLORMSGBOX + n, reinterpret_cast<WPARAM>(&dc),
-                                    reinterpret_cast<LPARAM>(pLabel), &result));
-        EXPECT_EQ(s.view.kinds[pLabel], n);
-        EXPECT_EQ(result,
-                  n == CTLCOLOR_EDIT ? 0 : reinterpret_cast<LRESULT>(s.view.brush.GetSafeHandle()));
+        EXPECT_TRUE(view.OnWndMsg(WM_CTLCOLORMSGBOX + n, reinterpret_cast<WPARAM>(&dc),
+                                  reinterpret_cast<LPARAM>(pLabel), &result));
+        EXPECT_EQ(view.kinds[pLabel], n);
+        EXPECT_EQ(result, n == CTLCOLOR_EDIT ? 0 : reinterpret_cast<LRESULT>(view.brush.m_hObject));
     }
 }
 
