@@ -47,6 +47,7 @@ inline constexpr std::uint32_t kDefaultPaletteRgb[] = {
 // clang-format on
 static_assert(std::size(kDefaultPaletteRgb) == 256);
 
+/// Their flags are 0.
 inline constexpr std::array<PALETTEENTRY, 256> kDefaultPalette = [] {
     std::array<PALETTEENTRY, 256> entries{};
     for (std::size_t i = 0; i < entries.size(); ++i) {
@@ -56,8 +57,5 @@ inline constexpr std::array<PALETTEENTRY, 256> kDefaultPalette = [] {
     }
     return entries;
 }();
-
-/// The 256 entries; their flags are 0.
-constexpr const std::array<PALETTEENTRY, 256>& defaultPalette() { return kDefaultPalette; }
 
 } // namespace vx::detail

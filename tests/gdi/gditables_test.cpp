@@ -7,7 +7,7 @@ namespace {
 TEST(GdiTables, Colors)
 {
     // The hue wheel follows no formula: its 256 entries are known by their digest.
-    const auto& palette = vx::detail::defaultPalette();
+    const auto& palette = vx::detail::kDefaultPalette;
     const QByteArray bytes(reinterpret_cast<const char*>(palette.data()), sizeof(palette));
     EXPECT_EQ(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex(),
               "c61f438040a55eedb0672c5ad3fe2ed5");
