@@ -135,7 +135,7 @@ TEST(Sequences, RefuseWhatIsNotThere)
         EXPECT_THROW(array.RemoveAt(index, 0), Wrong);
         EXPECT_THROW(array.RemoveAt(2, index), Wrong);
     }
-    CPtrList_E list;
+    CPtrList_E list, *const pNone = nullptr;
     POSITION none = nullptr;
     const std::function<void()> uses[] = {[&] { std::as_const(array).GetAt(3); },
                                           [&] { array.InsertAt(0, nullptr); },
@@ -148,7 +148,7 @@ TEST(Sequences, RefuseWhatIsNotThere)
                                           [&] { list.SetAt(none, &list); },
                                           [&] { list.RemoveAt(none); },
                                           [&] { list.GetNext(none); },
-                                          [&] { list.AddHead(static_cast<CPtrList_E*>(nullptr)); }};
+                                          [&] { list.AddHead(pNone); }};
     for (const auto& use : uses)
         EXPECT_THROW(use(), Wrong) << &use - uses;
     EXPECT_THROW(array.SetSize(PTRDIFF_MAX / 2), CMemoryException_E*);
@@ -179,15 +179,6 @@ TEST(Sequences, WholeListsInTheirOrder)
 template <typename Map>
 class MapOf : public testing::Test
 {
-public:
-    static typename Map::BASE_KEY keyOf(int number)
-    {
-        if constexpr (std::is_same_v<typename Map::BASE_KEY, CString_E>)
-            return QString::number(number);
-        else
-            return {++s_nMade % 2 ? number : -number};
-    }
-    static inline int s_nMade = 0;
 };
 using Maps =
     testing::Types<CMap_E<CString_E, LPCWSTR, int, int>, CMap_E<CString_E, CString_E, int, int>,
@@ -196,12 +187,19 @@ TYPED_TEST_SUITE(MapOf, Maps);
 
 TYPED_TEST(MapOf, AgreesWithAnUnorderedMap)
 {
+    using Key = typename TypeParam::BASE_KEY;
+    auto keyOf = [made = 0](int number) mutable -> Key {
+        if constexpr (std::is_same_v<Key, CString_E>)
+            return QString::number(number);
+        else
+            return {++made % 2 ? number : -number};
+    };
     TypeParam map(4);
     std::unordered_map<int, int> expected;
     std::mt19937 random(17);
     for (int step = 0; step < 20000; ++step) {
         const int number = static_cast<int>(random() % 700);
-        const auto key = this->keyOf(number);
+        const auto key = keyOf(number);
         const auto found = expected.find(number);
         const bool there = found != expected.end();
         int was = -1;
@@ -212,25 +210,23 @@ TYPED_TEST(MapOf, AgreesWithAnUnorderedMap)
         if (const int value = number + 1000 * (step % 2); step % 3 == 0)
             map.SetAt(key, expected[number] = value);
         else if (step % 3 == 1)
-            map[this->keyOf(number)] = expected[number] = value;
+            map[keyOf(number)] = expected[number] = value;
         else
-            ASSERT_EQ(map.RemoveKey(this->keyOf(number)), expected.erase(number) != 0);
+            ASSERT_EQ(map.RemoveKey(keyOf(number)), expected.erase(number) != 0);
         ASSERT_EQ(map.GetCount(), static_cast<INT_PTR>(expected.size()));
     }
-    std::unordered_map<int, int> walked, paired;
+    std::unordered_map<int, int> paired;
     for (auto* pair = map.PGetFirstAssoc(); pair; pair = map.PGetNextAssoc(pair))
         paired[pair->value % 1000] = pair->value;
     EXPECT_EQ(paired, expected);
     for (POSITION position = map.GetStartPosition(); position;) { // what was given may go
-        auto key = this->keyOf(0);
+        auto key = keyOf(0);
         int value = 0;
         map.GetNextAssoc(position, key, value);
-        const auto wanted = this->keyOf(value % 1000);
-        ASSERT_TRUE(CompareElements(&key, &wanted));
-        walked[value % 1000] = value;
+        const auto wanted = keyOf(value % 1000);
+        ASSERT_TRUE(CompareElements(&key, &wanted) && paired[value % 1000] == value);
         EXPECT_TRUE(map.RemoveKey(key));
     }
-    EXPECT_EQ(walked, expected);
     EXPECT_TRUE(map.IsEmpty() && !map.PGetFirstAssoc() && !map.PGetNextAssoc(nullptr));
 }
 
@@ -250,11 +246,10 @@ TEST(Map, TableOfBuckets)
             ASSERT_TRUE(map.Lookup(i, value) && value == i);
     }
     map.RemoveAll();
-    EXPECT_EQ(map[3], 0);
     POSITION none = nullptr;
     int key = 7;
     map.GetNextAssoc(none, key, key);
-    EXPECT_EQ(key, 7);
+    EXPECT_TRUE(key == 7 && map[3] == 0);
 }
 
 TEST(Map, FromStrings)
@@ -268,8 +263,7 @@ TEST(Map, FromStrings)
     EXPECT_TRUE(key == asked && key != asked.c_str()) << "the map's own";
     EXPECT_EQ(map[L""], L"empty");
     const UINT hash = map.HashKey(L"one"); // of equal keys of any kind
-    EXPECT_EQ(HashKey<LPCWSTR>(key), hash);
-    EXPECT_EQ(HashKey<const CString_E&>(L"one"), hash);
+    EXPECT_TRUE(HashKey<LPCWSTR>(key) == hash && HashKey<const CString_E&>(L"one") == hash);
     EXPECT_TRUE(HashKey<LPCSTR>("one") == hash && HashKey<LPCSTR>("One") != hash);
     EXPECT_EQ(HashKey<double>(0.0), HashKey<double>(-0.0));
 }
@@ -336,8 +330,7 @@ TEST(Collections, UseTheHelpersOfTheApplication)
             array.Add({i});
         EXPECT_TRUE(closed.empty()) << "growing closes nothing";
         array.RemoveAt(2, 195);
-        EXPECT_EQ(closed.count(3) + closed.count(197), 2U);
-        EXPECT_EQ(closed.count(2) + closed.count(198), 0U);
+        EXPECT_TRUE(closed.count(3) == 1 && closed.count(197) == 1 && closed.size() == 195);
         CList_E<Handle> list;
         list.AddTail({1000});
         CMap_E<int, int, Handle, const Handle&> map;
