@@ -19,9 +19,9 @@ template <typename T>
 void expectForm(const T& value, const QByteArray& bytes, int nCuts = 99)
 {
     SCOPED_TRACE(bytes.left(20).toHex().constData());
-    EXPECT_EQ(stored([&](CArchive_E& ar) { ar << value; }, 131), bytes);
+    EXPECT_EQ(stored([&](auto& ar) { ar << value; }, 131), bytes);
     T read{};
-    const auto reading = [&](CArchive_E& ar) { ar >> read; };
+    const auto reading = [&](auto& ar) { ar >> read; };
     EXPECT_EQ(load(bytes, reading, 131), 0);
     EXPECT_TRUE(read == value);
     for (int cut = 0; cut < std::min(nCuts, bytes.size()); ++cut)
@@ -53,7 +53,7 @@ TEST(Archive, EachTypeHasItsForm)
     expectForms(pair{L'\xFFFD', "FDFF"}, pair{static_cast<wchar_t>(0xD83D), "3DD8"});
     expectForm(L'\U0001F600', hex("3DD8 00DE"), 2);
     expectForm(L'\U0010FFFF', hex("FFDB FFDF"), 2);
-    EXPECT_EQ(stored([](CArchive_E& ar) { ar << static_cast<wchar_t>(0x110000); }), hex("FDFF"));
+    EXPECT_EQ(stored([](auto& ar) { ar << static_cast<wchar_t>(0x110000); }), hex("FDFF"));
 }
 
 TEST(Archive, StringsAreWrittenWide)
@@ -91,23 +91,22 @@ TEST(Archive, StringsOfEachFormAreRead)
     // clang-format on
     forRows(rows, [](const char* digits, const wchar_t* text, int cause) {
         CString_E read(L"old");
-        EXPECT_EQ(loadCause(hex(digits), [&](CArchive_E& ar) { ar >> read; }), cause);
+        EXPECT_EQ(loadCause(hex(digits), [&](auto& ar) { ar >> read; }), cause);
         EXPECT_STREQ(read.GetString(), text);
     });
 }
 
 TEST(Archive, LinesAreReadAsWritten)
 {
-    const QByteArray bytes =
-        stored([](CArchive_E& ar) { ar.WriteString(L"ab\r\n\nc\rd\U0001F600"); });
+    const QByteArray bytes = stored([](auto& ar) { ar.WriteString(L"ab\r\n\nc\rd\U0001F600"); });
     EXPECT_EQ(bytes, hex("6100 6200 0D00 0A00 0A00 6300 0D00 6400 3DD8 00DE"));
-    load(bytes, [](CArchive_E& ar) {
+    load(bytes, [](auto& ar) {
         CString_E line;
         for (const wchar_t* const expected : {L"ab", L"", L"c", L"d\U0001F600"})
             EXPECT_TRUE(ar.ReadString(line) && line == expected);
         EXPECT_FALSE(ar.ReadString(line) || !line.IsEmpty());
     });
-    load(bytes, [](CArchive_E& ar) {
+    load(bytes, [](auto& ar) {
         wchar_t buffer[4] = L"???";
         EXPECT_EQ(ar.ReadString(nullptr, 3), nullptr);
         for (const wchar_t* const expected : {L"a", L"b", L"", L"c", L"d\U0001F600"})
@@ -125,10 +124,10 @@ TEST(Archive, BlocksPassTheBufferInAnySize)
         for (UINT done = 0, size = 0; done < 200000; done += size)
             part(done, size = std::min(200000 - done, static_cast<UINT>(random() % 300)));
     };
-    const auto writing = [&](CArchive_E& ar) {
+    const auto writing = [&](auto& ar) {
         inParts([&](UINT from, UINT size) { ar.Write(bytes.data() + from, size); });
     };
-    const auto reading = [&](CArchive_E& ar) {
+    const auto reading = [&](auto& ar) {
         inParts([&](UINT from, UINT size) { EXPECT_EQ(ar.Read(read.data() + from, size), size); });
         EXPECT_EQ(ar.Read(read.data(), 500), 0U);
         ar.EnsureRead(read.data(), 1);
@@ -148,17 +147,18 @@ TEST(Archive, WrongUseThrows)
     EXPECT_EQ(closed.GetFile(), nullptr);
     int n = 0;
     CString_E text;
-    const std::function<void(CArchive_E&)> writes[] = {[](auto& ar) { ar << 1; },
-                                                       [](auto& ar) { ar << L'\U0001F600'; },
-                                                       [](auto& ar) { ar << CString_E(); },
-                                                       [&](auto& ar) { ar.Write(&n, 0); },
-                                                       [](auto& ar) { ar.WriteString(L""); },
-                                                       [](auto& ar) { ar.WriteObject(nullptr); },
-                                                       [](auto& ar) { ar.WriteClass(nullptr); }};
+    // clang-format off
+    const std::function<void(CArchive_E&)> writes[] = {
+        [](auto& ar) { ar << 1; }, [](auto& ar) { ar << L'\U0001F600'; },
+        [](auto& ar) { ar << CString_E(); }, [&](auto& ar) { ar.Write(&n, 0); },
+        [](auto& ar) { ar.WriteString(L""); }, [](auto& ar) { ar.WriteObject(nullptr); },
+        [](auto& ar) { ar.WriteClass(nullptr); },
+    };
     const std::function<void(CArchive_E&)> reads[] = {
-        [&](auto& ar) { ar >> n; }, [&](auto& ar) { ar >> text; },
-        [&](auto& ar) { ar.Read(&n, 0); }, [&](auto& ar) { ar.ReadString(text); },
-        [](auto& ar) { ar.ReadObject(nullptr); }};
+        [&](auto& ar) { ar >> n; }, [&](auto& ar) { ar >> text; }, [&](auto& ar) { ar.Read(&n, 0); },
+        [&](auto& ar) { ar.ReadString(text); }, [](auto& ar) { ar.ReadObject(nullptr); },
+    };
+    // clang-format on
     for (const auto& write : writes) {
         EXPECT_EQ(causeOf([&] { write(loading); }), Cause::readOnly);
         EXPECT_EQ(causeOf([&] { write(closed); }), Cause::genericException);

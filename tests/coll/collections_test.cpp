@@ -135,20 +135,17 @@ TEST(Sequences, RefuseWhatIsNotThere)
         EXPECT_THROW(array.RemoveAt(index, 0), Wrong);
         EXPECT_THROW(array.RemoveAt(2, index), Wrong);
     }
-    CPtrList_E list, *const pNone = nullptr;
+    CPtrList_E list;
     POSITION none = nullptr;
-    const std::function<void()> uses[] = {[&] { std::as_const(array).GetAt(3); },
-                                          [&] { array.InsertAt(0, nullptr); },
-                                          [&] { array.SetAtGrow(-1, 1); },
-                                          [&] { array.SetSize(-1); },
-                                          [&] { array.InsertAt(-1, 1); },
-                                          [&] { array.InsertAt(0, 1, -1); },
-                                          [&] { list.GetHead(); },
-                                          [&] { list.RemoveTail(); },
-                                          [&] { list.SetAt(none, &list); },
-                                          [&] { list.RemoveAt(none); },
-                                          [&] { list.GetNext(none); },
-                                          [&] { list.AddHead(pNone); }};
+    // clang-format off
+    const std::function<void()> uses[] = {
+        [&] { std::as_const(array).GetAt(3); }, [&] { array.InsertAt(0, nullptr); },
+        [&] { array.SetAtGrow(-1, 1); }, [&] { array.SetSize(-1); }, [&] { array.InsertAt(-1, 1); },
+        [&] { array.InsertAt(0, 1, -1); }, [&] { list.GetHead(); }, [&] { list.RemoveTail(); },
+        [&] { list.SetAt(none, &list); }, [&] { list.RemoveAt(none); }, [&] { list.GetNext(none); },
+        [&] { list.AddHead(static_cast<CPtrList_E*>(nullptr)); },
+    };
+    // clang-format on
     for (const auto& use : uses)
         EXPECT_THROW(use(), Wrong) << &use - uses;
     EXPECT_THROW(array.SetSize(PTRDIFF_MAX / 2), CMemoryException_E*);

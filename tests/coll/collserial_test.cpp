@@ -20,11 +20,11 @@ void put(CMap_E<K, AK, V, AV>& map, unsigned i)
 
 QByteArray storedOf(CObject_E& object)
 {
-    return stored([&](CArchive_E& ar) { object.Serialize(ar); });
+    return stored([&](auto& ar) { object.Serialize(ar); });
 }
 int causeOfLoading(CObject_E& object, const QByteArray& bytes)
 {
-    return loadCause(bytes, [&](CArchive_E& ar) { object.Serialize(ar); });
+    return loadCause(bytes, [&](auto& ar) { object.Serialize(ar); });
 }
 
 template <typename Collection>
@@ -75,11 +75,11 @@ TEST(SerializedObjects, AreTheSameInAllCollections)
     array.Add(&object);
     list.AddTail(&object);
     map.SetAt(L"k", &object);
-    const QByteArray bytes = stored([&](CArchive_E& ar) { ar << &array << &list << &map; });
+    const QByteArray bytes = stored([&](auto& ar) { ar << &array << &list << &map; });
     CObArray_E* pArray = nullptr;
     CObList_E* pList = nullptr;
     CMapStringToOb_E* pMap = nullptr;
-    load(bytes, [&](CArchive_E& ar) { ar >> pArray >> pList >> pMap; });
+    load(bytes, [&](auto& ar) { ar >> pArray >> pList >> pMap; });
     EXPECT_EQ(dynamic_cast<CByteArray_E&>(*pArray->GetAt(0))[0], 5);
     EXPECT_EQ(pList->GetHead(), pArray->GetAt(0));
     EXPECT_EQ((*pMap)[L"k"], pArray->GetAt(0));

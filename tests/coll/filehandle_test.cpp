@@ -24,21 +24,19 @@ TEST_F(FileTest, HandlesOpenAndShareAsTheyAreTold)
         {6, kReadWrite, true, kBad, "abc"},
     };
     // clang-format on
-    forRows(rows,
-            [&](DWORD disposition, DWORD access, bool exists, DWORD error, const char* bytes) {
-                QFile::remove(VxQString(Path()));
-                if (exists)
-                    Make("abc");
-                const HANDLE h = Open(access, disposition);
-                EXPECT_EQ(GetLastError(), error);
-                const bool opens = error == 0 || error == kExists;
-                EXPECT_EQ(h != INVALID_HANDLE_VALUE, opens);
-                EXPECT_EQ(Bytes(), bytes);
-                EXPECT_EQ(WriteFile_E(h, "12", 2, nullptr, nullptr),
-                          opens && (access & (GENERIC_WRITE | GENERIC_ALL)) != 0);
-                EXPECT_EQ(CloseHandle_E(h), opens);
-                EXPECT_FALSE(CloseHandle_E(h));
-            });
+    for (const auto& [disposition, access, exists, error, bytes] : rows) {
+        SCOPED_TRACE(testing::Message() << disposition << " " << access << " " << exists);
+        QFile::remove(VxQString(Path()));
+        if (exists)
+            Make("abc");
+        const HANDLE h = Open(access, disposition);
+        EXPECT_EQ(GetLastError(), error);
+        const bool opens = error == 0 || error == kExists, writes = access & ~GENERIC_READ;
+        EXPECT_EQ(h != INVALID_HANDLE_VALUE, opens);
+        EXPECT_EQ(Bytes(), bytes);
+        EXPECT_EQ(WriteFile_E(h, "12", 2, nullptr, nullptr), opens && writes);
+        EXPECT_TRUE(CloseHandle_E(h) == opens && !CloseHandle_E(h));
+    }
     const HANDLE first = Open(GENERIC_READ, OPEN_ALWAYS, FILE_SHARE_READ);
     const HANDLE second = Open(kReadWrite, OPEN_EXISTING, FILE_SHARE_READ | FILE_SHARE_WRITE);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_SHARING_VIOLATION));
@@ -89,16 +87,16 @@ TEST_F(FileTest, BadHandles)
     char c = 0;
     LARGE_INTEGER zero = {};
     // The first ones need the right to write.
+    // clang-format off
     const std::function<bool(HANDLE)> calls[] = {
-        [&](HANDLE h) { return WriteFile_E(h, &c, 1, &n, nullptr); },
-        SetEndOfFile_E,
-        FlushFileBuffers_E,
-        [&](HANDLE h) { return ReadFile_E(h, &c, 1, &n, nullptr); },
+        [&](HANDLE h) { return WriteFile_E(h, &c, 1, &n, nullptr); }, SetEndOfFile_E,
+        FlushFileBuffers_E, [&](HANDLE h) { return ReadFile_E(h, &c, 1, &n, nullptr); },
         [&](HANDLE h) { return SetFilePointer_E(h, 0, nullptr, 0) != INVALID_SET_FILE_POINTER; },
         [&](HANDLE h) { return SetFilePointerEx_E(h, zero, nullptr, FILE_BEGIN); },
         [&](HANDLE h) { return GetFileSize_E(h, nullptr) != INVALID_FILE_SIZE; },
-        [&](HANDLE h) { return GetFileSizeEx_E(h, &zero); },
-        CloseHandle_E};
+        [&](HANDLE h) { return GetFileSizeEx_E(h, &zero); }, CloseHandle_E,
+    };
+    // clang-format on
     for (std::size_t i = 0; i < std::size(calls); ++i)
         EXPECT_EQ(errorOf([&] { return calls[i](gone); }), i < 3 ? ERROR_ACCESS_DENIED : 0) << i;
     for (const HANDLE h : {HANDLE{}, INVALID_HANDLE_VALUE, gone, static_cast<HANDLE>(&n)}) {

@@ -92,9 +92,9 @@ TEST(Serial, ACyclicGraphHasItsFormAndComesBack)
     pFirst->m_pLink = pThird;
     pSecond->m_pLink = pFirst.get();
     pThird->m_pLink = pSecond;
-    const QByteArray bytes = stored([&](CArchive_E& ar) { ar << pFirst.get(); });
+    const QByteArray bytes = stored([&](auto& ar) { ar << pFirst.get(); });
     EXPECT_EQ(bytes, hex(kFamily));
-    EXPECT_EQ(load(bytes, [&](CArchive_E& ar) { pFirst.reset(readNode(ar)); }), 0);
+    EXPECT_EQ(load(bytes, [&](auto& ar) { pFirst.reset(readNode(ar)); }), 0);
     pSecond = pFirst->m_pChild;
     pThird = pSecond->m_pChild;
     EXPECT_TRUE(pFirst->m_n == 1 && pSecond->m_n == 2 && pThird->m_n == 3);
@@ -128,7 +128,7 @@ TEST(Serial, WhatIsNoGraphOfTheseClassesIsRefused)
     CEmpty mapped;
     forRows(rows, [&](const char* digits, int cause) {
         std::unique_ptr<CObject_E> pLink;
-        const auto reading = [&](CArchive_E& ar) {
+        const auto reading = [&](auto& ar) {
             ar.MapObject(&mapped);
             const std::unique_ptr<CNode> pNode(readNode(ar));
             pLink.reset(pNode->m_pLink);
@@ -146,9 +146,9 @@ TEST(Serial, WhatIsNoGraphOfTheseClassesIsRefused)
 TEST(Serial, NullAndAskedForClasses)
 {
     CSubNode sub;
-    const QByteArray bytes = stored(
-        [&](CArchive_E& ar) { ar << static_cast<CObject_E*>(nullptr) << &sub << &sub << &sub; });
-    load(bytes, [](CArchive_E& ar) {
+    const QByteArray bytes =
+        stored([&](auto& ar) { ar << static_cast<CObject_E*>(nullptr) << &sub << &sub << &sub; });
+    load(bytes, [](auto& ar) {
         EXPECT_EQ(readNode(ar), nullptr);
         const std::unique_ptr<CNode> pNode(readNode(ar));
         EXPECT_EQ(ar.ReadObject(RUNTIME_CLASS_E(CSubNode)), pNode.get());
@@ -156,7 +156,7 @@ TEST(Serial, NullAndAskedForClasses)
         EXPECT_THROW(ar.ReadObject(RUNTIME_CLASS_E(CObject_E)), CNotSupportedException_E*);
     });
     const CObject_E plain;
-    stored([&](CArchive_E& ar) {
+    stored([&](auto& ar) {
         ar.MapObject(nullptr); // nothing
         EXPECT_THROW(ar.WriteClass(nullptr), CInvalidArgException_E*);
         EXPECT_THROW(ar << &plain, CNotSupportedException_E*);
@@ -173,19 +173,19 @@ TEST(Serial, TagsGrowAtTheirLimit)
         {0x7FFF, "FF7F FF7F0080", "FF7F 00800000"}};
     forRows(rows, [](DWORD first, const char* classTag, const char* objectTag) {
         std::vector<CObject_E> mapped(first - 1);
-        const auto map = [&](CArchive_E& ar) {
+        const auto map = [&](auto& ar) {
             for (const CObject_E& object : mapped)
                 ar.MapObject(&object);
         };
         const CEmpty one, two;
-        const QByteArray bytes = stored([&](CArchive_E& ar) {
+        const QByteArray bytes = stored([&](auto& ar) {
             ar.SetStoreParams();
             map(ar);
             ar << &one << &two << &one << &mapped[1];
         });
         EXPECT_EQ(bytes, hex("FFFF 0000 0600 43456D707479") + hex(classTag) + hex(objectTag) +
                              hex("0200"));
-        load(bytes, [&](CArchive_E& ar) {
+        load(bytes, [&](auto& ar) {
             ar.SetLoadParams();
             map(ar);
             const std::unique_ptr<CObject_E> pOne(ar.ReadObject(nullptr));
@@ -199,12 +199,12 @@ TEST(Serial, TagsGrowAtTheirLimit)
 TEST(Serial, AVersionableClassReadsItsOlderForms)
 {
     const CVersioned present;
-    QByteArray bytes = stored([&](CArchive_E& ar) { ar << &present << &present; });
+    QByteArray bytes = stored([&](auto& ar) { ar << &present << &present; });
     // Class 1, object 2, and in it class 3.
     EXPECT_EQ(bytes, hex("FFFF 0300 0A00 4356657273696F6E6564 FFFF 0000 0600 43456D707479 0200"));
     bytes[2] = 1;
     bytes.replace(bytes.size() - 2, 2, hex("0180 0380"));
-    load(bytes, [](CArchive_E& ar) {
+    load(bytes, [](auto& ar) {
         for (int i = 0; i < 2; ++i) {
             delete ar.ReadObject(RUNTIME_CLASS_E(CVersioned));
             EXPECT_EQ(CVersioned::s_schemas, (std::vector<UINT>{1, ~0U, 0}));
@@ -227,10 +227,10 @@ TEST(Serial, EndlessNestingIsRefused)
             for (int i = 0; i < nDepth; ++i)
                 pTop = new CNode(i, pTop);
             const QByteArray bytes =
-                stored([&](CArchive_E& ar) { nCause = causeOf([&] { ar << pTop; }); });
+                stored([&](auto& ar) { nCause = causeOf([&] { ar << pTop; }); });
             drop(std::exchange(pTop, nullptr));
             if (nCause == Cause::none)
-                load(bytes, [&](CArchive_E& ar) { ar >> pTop; });
+                load(bytes, [&](auto& ar) { ar >> pTop; });
             else
                 EXPECT_EQ(nCause, Cause::genericException);
             drop(pTop);
