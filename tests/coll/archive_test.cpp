@@ -155,8 +155,9 @@ TEST(Archive, WrongUseThrows)
         [](auto& ar) { ar.WriteClass(nullptr); },
     };
     const std::function<void(CArchive_E&)> reads[] = {
-        [&](auto& ar) { ar >> n; }, [&](auto& ar) { ar >> text; }, [&](auto& ar) { ar.Read(&n, 0); },
-        [&](auto& ar) { ar.ReadString(text); }, [](auto& ar) { ar.ReadObject(nullptr); },
+        [&](auto& ar) { ar >> n; }, [&](auto& ar) { ar >> text; },
+        [&](auto& ar) { ar.Read(&n, 0); }, [&](auto& ar) { ar.ReadString(text); },
+        [](auto& ar) { ar.ReadObject(nullptr); },
     };
     // clang-format on
     for (const auto& write : writes) {
