@@ -89,6 +89,7 @@ TEST_F(FileTest, EveryKindReadsSeeksAndCuts)
     }
     constexpr LONGLONG far = (5LL << 30) + 3;
     char buffer[4] = {};
+    EXPECT_EQ(failureOf([&] { file.SetLength(~0ULL); }), kBadNumber);
     file.Seek(far, F::begin);
     file.Write("end", 3);
     EXPECT_EQ(file.Seek(-2, F::end), static_cast<ULONGLONG>(far + 1));
@@ -184,9 +185,11 @@ TEST_F(FileTest, EveryFailureHasItsCause)
 TEST_F(FileTest, FullDisk)
 {
     EXPECT_EQ(failureOf([] { CFile_E(L"/dev/full", kWrite).Write("x", 1); }), kFull);
-    CStdioFile_E text(L"/dev/full", kWrite);
+    CStdioFile_E text(L"/dev/full", kWrite), flushed(L"/dev/full", kWrite);
     text.WriteString(L"x");
     EXPECT_EQ(failureOf([&] { text.Close(); }), kFull);
+    flushed.WriteString(L"x");
+    EXPECT_EQ(failureOf([&] { flushed.Flush(); }), kFull);
     EXPECT_EQ(failureOf([&] { text.GetLength(); }), kClosed);
 
     const QString folder = VxQString(Path("small"));
@@ -209,6 +212,9 @@ TEST_F(FileTest, FullDisk)
     EXPECT_TRUE(Bytes("small/moved").size() == block.size() && Bytes("new") == "<none>");
     const auto back = [&] { return MoveFileEx_E(Path("small/moved"), Path("back"), 0); };
     EXPECT_EQ(errorOf(back), ERROR_NOT_SAME_DEVICE);
+    CreateDirectory_E(Path("d"), nullptr); // only files are copied
+    EXPECT_EQ(errorOf([&] { return MoveFile_E(Path("d"), Path("small/d")); }),
+              ERROR_NOT_SAME_DEVICE);
     ::umount(qPrintable(folder));
 }
 

@@ -169,7 +169,7 @@ TEST_F(FileTest, FindersTellOfFiles)
     EXPECT_TRUE(finder.GetLastWriteTime(time) && time == status.m_mtime);
     EXPECT_TRUE(finder.GetCreationTime(time) && time == status.m_ctime);
     EXPECT_TRUE(finder.GetLastAccessTime(time) && time == status.m_atime);
-    EXPECT_TRUE(finder.GetCreationTime(&fileTime));
+    EXPECT_TRUE(finder.GetLastWriteTime(&fileTime) && finder.GetCreationTime(&fileTime));
     const auto ticks =
         static_cast<LONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime;
     EXPECT_EQ(ticks / 10'000'000 - 11'644'473'600, status.m_ctime);

@@ -74,6 +74,7 @@ TEST_F(FileTest, HandlesReadAndWrite)
     EXPECT_EQ(errorOf([&] { return seek(5, FILE_CURRENT); }), ERROR_INVALID_PARAMETER); // lost bits
     EXPECT_TRUE(SetFilePointerEx_E(h, {}, &number, FILE_CURRENT) && number.QuadPart == 0x1FFFFFFFF);
     EXPECT_EQ(errorOf([&] { return seek(-1, FILE_BEGIN); }), ERROR_NEGATIVE_SEEK);
+    EXPECT_EQ(errorOf([&] { return seek(0, FILE_END + 1); }), ERROR_INVALID_PARAMETER);
     LONG distanceHigh = 1;
     EXPECT_TRUE(SetFilePointer_E(h, 7, &distanceHigh, FILE_BEGIN) == 7 && distanceHigh == 1);
     EXPECT_TRUE(CloseHandle_E(h));

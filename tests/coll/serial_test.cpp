@@ -155,6 +155,8 @@ TEST(Serial, NullAndAskedForClasses)
         EXPECT_EQ(causeOf([&] { ar.ReadObject(RUNTIME_CLASS_E(CLenient)); }), Cause::badClass);
         EXPECT_THROW(ar.ReadObject(RUNTIME_CLASS_E(CObject_E)), CNotSupportedException_E*);
     });
+    const auto readEmpty = [](auto& ar) { ar.ReadObject(RUNTIME_CLASS_E(CEmpty)); };
+    EXPECT_EQ(loadCause(hex(kFamily), readEmpty), Cause::badClass);
     const CObject_E plain;
     stored([&](auto& ar) {
         ar.MapObject(nullptr); // nothing
