@@ -83,6 +83,8 @@ TEST_F(FileTest, ReadingAndWritingTakeTurns)
     EXPECT_EQ(file.Seek(-6, CFile_E::current), 2U);
     EXPECT_TRUE(file.ReadString(line) && line == L"e");
     file.SetLength(5); // of what has been read ahead already
+    file.SeekToBegin();
+    EXPECT_EQ(linesOf(file), (Lines{L"one", L"T"}));
     file.WriteString(L"!");
     file.SeekToBegin();
     EXPECT_EQ(linesOf(file), (Lines{L"one", L"T!"}));
