@@ -1,4 +1,5 @@
 #include "archiving.h"
+#include "filetest.h"
 
 namespace {
 
@@ -18,60 +19,53 @@ template <typename T>
 void expectForm(const T& value, const QByteArray& bytes, int nCuts = 99)
 {
     SCOPED_TRACE(bytes.left(20).toHex().constData());
-    EXPECT_EQ(stored([&](CArchive_E& ar) { ar << value; }, 131), bytes);
+    EXPECT_EQ(stored([&](auto& ar) { ar << value; }, 131), bytes);
     T read{};
-    const auto reading = [&](CArchive_E& ar) { ar >> read; };
+    const auto reading = [&](auto& ar) { ar >> read; };
     EXPECT_EQ(load(bytes, reading, 131), 0);
     EXPECT_TRUE(read == value);
     for (int cut = 0; cut < std::min(nCuts, bytes.size()); ++cut)
         EXPECT_EQ(loadCause(bytes.left(cut), reading), Cause::endOfFile) << cut;
 }
 
+template <typename... Values>
+void expectForms(const std::pair<Values, const char*>&... forms)
+{
+    (expectForm(forms.first, hex(forms.second)), ...);
+}
+
 TEST(Archive, EachTypeHasItsForm)
 {
-    expectForm(BYTE{0xFE}, hex("FE"));
-    expectForm('a', hex("61"));
-    expectForm(static_cast<signed char>(-2), hex("FE"));
-    expectForm(SHORT{-2}, hex("FEFF"));
-    expectForm(WORD{0x1234}, hex("3412"));
-    expectForm(LONG{-2}, hex("FEFFFFFF"));
-    expectForm(DWORD{0x12345678}, hex("78563412"));
-    expectForm(-2L, hex("FEFFFFFFFFFFFFFF"));
-    expectForm(0x123456789ABCDEF0UL, hex("F0DEBC9A78563412"));
-    expectForm(LONGLONG{-2}, hex("FEFFFFFFFFFFFFFF"));
-    expectForm(ULONGLONG{1} << 63, hex("0000000000000080"));
-    expectForm(-2.0F, hex("000000C0"));
-    expectForm(1.0, hex("000000000000F03F"));
-    expectForm(true, hex("01"));
-    expectForm(false, hex("00"));
-    expectForm(CPoint_E(1, -2), hex("01000000 FEFFFFFF"));
-    expectForm(CSize_E(3, -4), hex("03000000 FCFFFFFF"));
-    expectForm(CRect_E(1, 2, 3, -4), hex("01000000 02000000 03000000 FCFFFFFF"));
-    expectForm(Count{0}, hex("0000"));
-    expectForm(Count{0xFFFE}, hex("FEFF"));
-    expectForm(Count{0xFFFF}, hex("FFFF FFFF0000"));
-    expectForm(Count{0xFFFFFFFE}, hex("FFFF FEFFFFFF"));
-    expectForm(Count{0xFFFFFFFF}, hex("FFFF FFFFFFFF FFFFFFFF00000000"));
+    using std::pair;
+    expectForms(
+        pair{BYTE{0xFE}, "FE"}, pair{'a', "61"}, pair{static_cast<signed char>(-2), "FE"},
+        pair{SHORT{-2}, "FEFF"}, pair{WORD{0x1234}, "3412"}, pair{LONG{-2}, "FEFFFFFF"},
+        pair{DWORD{0x12345678}, "78563412"}, pair{-2L, "FEFFFFFFFFFFFFFF"},
+        pair{0x123456789ABCDEF0UL, "F0DEBC9A78563412"}, pair{LONGLONG{-2}, "FEFFFFFFFFFFFFFF"},
+        pair{ULONGLONG{1} << 63, "0000000000000080"}, pair{-2.0F, "000000C0"},
+        pair{1.0, "000000000000F03F"}, pair{true, "01"}, pair{false, "00"},
+        pair{CPoint_E(1, -2), "01000000 FEFFFFFF"}, pair{CSize_E(3, -4), "03000000 FCFFFFFF"},
+        pair{CRect_E(1, 2, 3, -4), "01000000 02000000 03000000 FCFFFFFF"});
+    expectForms(pair{Count{0}, "0000"}, pair{Count{0xFFFE}, "FEFF"},
+                pair{Count{0xFFFF}, "FFFF FFFF0000"}, pair{Count{0xFFFFFFFE}, "FFFF FEFFFFFF"},
+                pair{Count{0xFFFFFFFF}, "FFFF FFFFFFFF FFFFFFFF00000000"});
     // UTF-16; a high surrogate at the end of the file stays alone.
-    expectForm(L'\xFFFD', hex("FDFF"));
+    expectForms(pair{L'\xFFFD', "FDFF"}, pair{static_cast<wchar_t>(0xD83D), "3DD8"});
     expectForm(L'\U0001F600', hex("3DD8 00DE"), 2);
     expectForm(L'\U0010FFFF', hex("FFDB FFDF"), 2);
-    expectForm(static_cast<wchar_t>(0xD83D), hex("3DD8"));
-    EXPECT_EQ(stored([](CArchive_E& ar) { ar << static_cast<wchar_t>(0x110000); }), hex("FDFF"));
+    EXPECT_EQ(stored([](auto& ar) { ar << static_cast<wchar_t>(0x110000); }), hex("FDFF"));
 }
 
 TEST(Archive, StringsAreWrittenWide)
 {
+    // 0xFFFE, the mark of wide text, is no length; the length counts units.
+    // clang-format off
     static const Row<const char*, wchar_t, int> rows[] = {
-        {"FF FEFF 00", L'x', 0},
-        {"FF FEFF FE", L'x', 254},
-        {"FF FEFF FF FF00", L'x', 255},
-        {"FF FEFF FF FDFF", L'x', 0xFFFD},
-        {"FF FEFF FF FFFF FEFF0000", L'x', 0xFFFE}, // the mark of wide text is no length
-        {"FF FEFF FF FFFF 01000100", L'x', 0x10001},
-        {"FF FEFF 02", L'\U0001F600', 1}, // the length counts units
-        {"FF FEFF FF 7805", L'\U0001F600', 700},
+        {"FF FEFF 00", L'x', 0}, {"FF FEFF FE", L'x', 254}, {"FF FEFF FF FF00", L'x', 255},
+        {"FF FEFF FF FDFF", L'x', 0xFFFD}, {"FF FEFF FF FFFF FEFF0000", L'x', 0xFFFE},
+        {"FF FEFF 02", L'\U0001F600', 1}, {"FF FEFF FF 7805", L'\U0001F600', 700},
     };
+    // clang-format on
     forRows(rows, [](const char* prefix, wchar_t ch, int count) {
         const QByteArray unit = ch == L'x' ? hex("7800") : hex("3DD8 00DE");
         expectForm(CString_E(ch, count), hex(prefix) + unit.repeated(count), 13);
@@ -80,42 +74,39 @@ TEST(Archive, StringsAreWrittenWide)
 
 TEST(Archive, StringsOfEachFormAreRead)
 {
+    // Narrow text is UTF-8, otherwise Latin-1. Of far more than there is, no memory is taken.
+    // clang-format off
     static const Row<const char*, const wchar_t*, int> rows[] = {
-        {"00", L"", 0},
-        {"03 61 C3A9", L"a\x00E9", 0}, // UTF-8
-        {"02 61 E9", L"a\x00E9", 0},   // otherwise Latin-1
-        {"FF 0200 6162", L"ab", 0},
-        {"FF FFFF 02000000 6162", L"ab", 0},
-        {"FF FFFF FFFFFFFF 0200000000000000 6162", L"ab", 0},
-        {"FF FEFF FF 0100 6100", L"a", 0},
+        {"00", L"", 0}, {"03 61 C3A9", L"a\x00E9", 0}, {"02 61 E9", L"a\x00E9", 0},
+        {"FF 0200 6162", L"ab", 0}, {"FF FFFF 02000000 6162", L"ab", 0},
+        {"FF FFFF FFFFFFFF 0200000000000000 6162", L"ab", 0}, {"FF FEFF FF 0100 6100", L"a", 0},
         {"FF FEFF FF FFFF 01000000 6100", L"a", 0},
         {"FF FEFF FF FFFF FFFFFFFF 0100000000000000 6100", L"a", 0},
         {"FF FEFF 03 6100 3DD8 6200", L"a\xD83D\x0062", 0},
-        // Far more than there is: memory for it is not taken.
         {"FF FFFF FFFFFF7F 61", L"", Cause::endOfFile},
         {"FF FEFF FF FFFF FFFFFF7F 6100", L"a", Cause::endOfFile},
         {"FF FFFF 00000080 61", L"old", Cause::genericException},
         {"FF FFFF FFFFFFFF FFFFFFFFFFFFFFFF 61", L"old", Cause::genericException},
     };
+    // clang-format on
     forRows(rows, [](const char* digits, const wchar_t* text, int cause) {
         CString_E read(L"old");
-        EXPECT_EQ(loadCause(hex(digits), [&](CArchive_E& ar) { ar >> read; }), cause);
+        EXPECT_EQ(loadCause(hex(digits), [&](auto& ar) { ar >> read; }), cause);
         EXPECT_STREQ(read.GetString(), text);
     });
 }
 
 TEST(Archive, LinesAreReadAsWritten)
 {
-    const QByteArray bytes =
-        stored([](CArchive_E& ar) { ar.WriteString(L"ab\r\n\nc\rd\U0001F600"); });
+    const QByteArray bytes = stored([](auto& ar) { ar.WriteString(L"ab\r\n\nc\rd\U0001F600"); });
     EXPECT_EQ(bytes, hex("6100 6200 0D00 0A00 0A00 6300 0D00 6400 3DD8 00DE"));
-    load(bytes, [](CArchive_E& ar) {
+    load(bytes, [](auto& ar) {
         CString_E line;
         for (const wchar_t* const expected : {L"ab", L"", L"c", L"d\U0001F600"})
             EXPECT_TRUE(ar.ReadString(line) && line == expected);
         EXPECT_FALSE(ar.ReadString(line) || !line.IsEmpty());
     });
-    load(bytes, [](CArchive_E& ar) {
+    load(bytes, [](auto& ar) {
         wchar_t buffer[4] = L"???";
         EXPECT_EQ(ar.ReadString(nullptr, 3), nullptr);
         for (const wchar_t* const expected : {L"a", L"b", L"", L"c", L"d\U0001F600"})
@@ -126,25 +117,22 @@ TEST(Archive, LinesAreReadAsWritten)
 
 TEST(Archive, BlocksPassTheBufferInAnySize)
 {
-    QByteArray bytes(200000, '\0');
+    QByteArray bytes(200000, '\0'), read(200000, '\0');
     std::mt19937 random(7);
     std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
     const auto inParts = [&](auto part) {
         for (UINT done = 0, size = 0; done < 200000; done += size)
             part(done, size = std::min(200000 - done, static_cast<UINT>(random() % 300)));
     };
-    EXPECT_EQ(stored(
-                  [&](CArchive_E& ar) {
-                      inParts([&](UINT from, UINT size) { ar.Write(bytes.data() + from, size); });
-                  },
-                  128),
-              bytes);
-    QByteArray read(bytes.size(), '\0');
-    const auto reading = [&](CArchive_E& ar) {
+    const auto writing = [&](auto& ar) {
+        inParts([&](UINT from, UINT size) { ar.Write(bytes.data() + from, size); });
+    };
+    const auto reading = [&](auto& ar) {
         inParts([&](UINT from, UINT size) { EXPECT_EQ(ar.Read(read.data() + from, size), size); });
         EXPECT_EQ(ar.Read(read.data(), 500), 0U);
         ar.EnsureRead(read.data(), 1);
     };
+    EXPECT_EQ(stored(writing, 128), bytes);
     EXPECT_EQ(causeOf([&] { load(bytes, reading, 128); }), Cause::endOfFile);
     EXPECT_EQ(read, bytes);
 }
@@ -152,30 +140,26 @@ TEST(Archive, BlocksPassTheBufferInAnySize)
 TEST(Archive, WrongUseThrows)
 {
     CMemFile_E file;
-    CArchive_E storing(&file, CArchive_E::store);
-    CArchive_E loading(&file, CArchive_E::load);
+    CArchive_E storing(&file, CArchive_E::store), loading(&file, CArchive_E::load);
     CArchive_E closed(&file, CArchive_E::store);
     closed.Close();
     closed.Close();
     EXPECT_EQ(closed.GetFile(), nullptr);
     int n = 0;
     CString_E text;
+    // clang-format off
     const std::function<void(CArchive_E&)> writes[] = {
-        [](CArchive_E& ar) { ar << 1; },
-        [](CArchive_E& ar) { ar << L'\U0001F600'; },
-        [](CArchive_E& ar) { ar << CString_E(L"a"); },
-        [&](CArchive_E& ar) { ar.Write(&n, 0); },
-        [](CArchive_E& ar) { ar.WriteString(L""); },
-        [](CArchive_E& ar) { ar.WriteObject(nullptr); },
-        [](CArchive_E& ar) { ar.WriteClass(nullptr); },
+        [](auto& ar) { ar << 1; }, [](auto& ar) { ar << L'\U0001F600'; },
+        [](auto& ar) { ar << CString_E(); }, [&](auto& ar) { ar.Write(&n, 0); },
+        [](auto& ar) { ar.WriteString(L""); }, [](auto& ar) { ar.WriteObject(nullptr); },
+        [](auto& ar) { ar.WriteClass(nullptr); },
     };
     const std::function<void(CArchive_E&)> reads[] = {
-        [&](CArchive_E& ar) { ar >> n; },
-        [&](CArchive_E& ar) { ar >> text; },
-        [&](CArchive_E& ar) { ar.Read(&n, 0); },
-        [&](CArchive_E& ar) { ar.ReadString(text); },
-        [](CArchive_E& ar) { ar.ReadObject(nullptr); },
+        [&](auto& ar) { ar >> n; }, [&](auto& ar) { ar >> text; },
+        [&](auto& ar) { ar.Read(&n, 0); }, [&](auto& ar) { ar.ReadString(text); },
+        [](auto& ar) { ar.ReadObject(nullptr); },
     };
+    // clang-format on
     for (const auto& write : writes) {
         EXPECT_EQ(causeOf([&] { write(loading); }), Cause::readOnly);
         EXPECT_EQ(causeOf([&] { write(closed); }), Cause::genericException);
@@ -191,7 +175,7 @@ TEST(Archive, WrongUseThrows)
 TEST(Archive, TheBufferReachesTheFileWhenToldTo)
 {
     CMemFile_E file;
-    BYTE buffer[128] = {};
+    BYTE buffer[128] = {}, by = 0;
     {
         CArchive_E ar(&file, CArchive_E::store | CArchive_E::bNoFlushOnDelete, 128, buffer);
         ar << WORD{0x0201};
@@ -207,7 +191,6 @@ TEST(Archive, TheBufferReachesTheFileWhenToldTo)
 
     file.SeekToBegin();
     CArchive_E ar(&file, CArchive_E::load);
-    BYTE by = 0;
     ar >> by;
     EXPECT_FALSE(ar.IsBufferEmpty());
     ar.Flush(); // the rest is left to others
@@ -219,22 +202,14 @@ TEST(Archive, TheBufferReachesTheFileWhenToldTo)
 TEST(Archive, AFullDiskIsTold)
 {
     CFile_E file(L"/dev/full", CFile_E::modeWrite);
-    static const Row<UINT, void (CArchive_E::*)()> rows[] = {
-        {1, &CArchive_E::Flush},
-        {1, &CArchive_E::Close},
-        {100000, &CArchive_E::Flush}, // past the buffer
-    };
-    for (const auto& [size, finish] : rows) {
+    const auto fill = [&](auto use) {
         CArchive_E ar(&file, CArchive_E::store);
-        try {
-            ar.Write(std::vector<char>(size).data(), size);
-            (ar.*finish)();
-            ADD_FAILURE() << size;
-        } catch (CFileException_E* e) {
-            EXPECT_EQ(e->m_cause, CFileException_E::diskFull);
-            e->Delete();
-        }
-    }
+        EXPECT_EQ(failureOf([&] { use(ar << 1); }).first, CFileException_E::diskFull);
+        EXPECT_EQ(causeOf([&] { ar.Flush(); }), Cause::genericException) << "nobody knows the rest";
+    };
+    fill([](auto& ar) { ar.Flush(); });
+    fill([](auto& ar) { ar.Close(); });
+    fill([](auto& ar) { ar.Write(std::vector<char>(100000).data(), 100000); }); // past the buffer
     CArchive_E(&file, CArchive_E::store) << 1; // its destructor is silent
 }
 

@@ -1,10 +1,18 @@
-// Bytes of archives, for the tests of archives and of serial classes.
+// Bytes of archives and elements of collections, for the tests of archives and of collections.
 #pragma once
 
 #include "support/test.h"
 
 /// Blanks between the digits are for the reader.
 inline QByteArray hex(const char* digits) { return QByteArray::fromHex(digits); }
+
+inline QByteArray bytesOf(CMemFile_E& file)
+{
+    QByteArray bytes(static_cast<int>(file.GetLength()), '\0');
+    file.SeekToBegin();
+    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+    return bytes;
+}
 
 /// What @p work writes into an archive.
 template <typename Work>
@@ -15,10 +23,7 @@ QByteArray stored(Work work, int nBufSize = 4096)
         CArchive_E ar(&file, CArchive_E::store, nBufSize);
         work(ar);
     }
-    QByteArray bytes(static_cast<int>(file.GetLength()), '\0');
-    file.SeekToBegin();
-    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-    return bytes;
+    return bytesOf(file);
 }
 
 /// Lets @p work read from @p bytes, and returns how many are left.
@@ -51,4 +56,16 @@ template <typename Work>
 int loadCause(const QByteArray& bytes, Work work)
 {
     return causeOf([&] { load(bytes, work); });
+}
+
+/// An element for a number; null where elements are pointers.
+template <typename Element>
+Element elementOf(std::size_t number)
+{
+    if constexpr (std::is_pointer_v<Element>)
+        return nullptr;
+    else if constexpr (std::is_same_v<Element, CString_E>)
+        return QString::number(number);
+    else
+        return static_cast<Element>(number);
 }

@@ -1,7 +1,5 @@
 #include "filetest.h"
 
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -25,110 +23,106 @@ constexpr Failure kShared{E::sharingViolation, ERROR_SHARING_VIOLATION};
 constexpr Failure kBadNumber{E::genericException, ERROR_INVALID_PARAMETER};
 constexpr Failure kLocked{E::lockViolation, ERROR_LOCK_VIOLATION};
 
-TEST_F(FileTest, IsOverAQFile)
-{
-    for (const auto* pClass : {RUNTIME_CLASS_E(CFile_E), RUNTIME_CLASS_E(CStdioFile_E)})
-        EXPECT_STREQ(pClass->GetImpClassName(), "QFile");
-    EXPECT_EQ(RUNTIME_CLASS_E(CFile_E)->CreateObject(), nullptr);
-    CFile_E file(Make("abc"), kRead);
-    EXPECT_EQ(qobject_cast<QFile*>(file.GetImpQObject())->handle(), file.m_hFile);
-}
-
 TEST_F(FileTest, OpenModes)
 {
     constexpr UINT odd = F::shareExclusive | F::typeBinary | F::osWriteThrough;
-    // before: null for no file; after: once "Z" has been written, if it may be, null if not found
+    // before: null for no file; after: once "Z" has been written, if it may be
     const Row<UINT, const char*, const char*> rows[] = {
-        {kRead, "abc", "abc"},          {kRead | odd, "abc", "abc"},
-        {kRead, nullptr, nullptr},      {kWrite, nullptr, nullptr},
-        {kWrite, "abc", "Zbc"},         {kBoth, "abc", "Zbc"},
+        {kRead, "abc", "abc"},          {kWrite, "abc", "Zbc"},
+        {kBoth | odd, "abc", "Zbc"},    {kRead | kCreate, "abc", ""},
         {kWrite | kCreate, "abc", "Z"}, {kBoth | kCreate, nullptr, "Z"},
-        {kWrite | kKeep, "abc", "Zbc"}, {kWrite | kKeep, nullptr, "Z"},
-        {kRead | kCreate, "abc", ""},
-    };
+        {kWrite | kKeep, "abc", "Zbc"}, {kWrite | kKeep, nullptr, "Z"}};
     forRows(rows, [&](UINT mode, const char* before, const char* after) {
         QFile::remove(VxQString(Path()));
         if (before)
             Make(before);
-        CFile_E file;
-        CFileException_E error;
-        EXPECT_EQ(file.Open(Path(), mode, &error), after != nullptr);
-        if (after) {
-            char c;
-            EXPECT_EQ(failureOf([&] { file.Write("Z", 1); }),
-                      (mode & 3U) == kRead ? kDenied : kNoFailure);
-            EXPECT_EQ(failureOf([&] { file.Read(&c, 1); }),
-                      (mode & 3U) == kWrite ? kDenied : kNoFailure);
-            EXPECT_EQ(Bytes(), after); // unbuffered: there before the file is closed
-        } else {
-            EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
-            EXPECT_EQ(Failure(error.m_cause, error.m_lOsError), kMissing);
-            EXPECT_STREQ(error.m_strFileName.GetString(), Path().GetString());
-        }
+        CFile_E file(Path(), mode);
+        const bool writes = (mode & (kWrite | kBoth)) != 0;
+        EXPECT_EQ(failureOf([&] { file.Write("Z", 1); }), writes ? kNoFailure : kDenied);
+        EXPECT_EQ(Bytes(), after); // unbuffered: there before the file is closed
     });
 }
 
-TEST_F(FileTest, ReadsSeeksAndCuts)
+void useAsAnyOther(CFile_E& file)
 {
-    CFile_E file(Make("0123456789"), kBoth);
+    SCOPED_TRACE(typeid(file).name());
+    using Wrong = CInvalidArgException_E*;
     char buffer[16] = {};
-    EXPECT_EQ(file.Read(buffer, 4), 4U);
-    EXPECT_EQ(file.Seek(2, F::current), 6U);
+    file.Write("0123456789", 10);
+    file.SeekToBegin();
+    EXPECT_TRUE(file.Read(buffer, 4) == 4 && file.Seek(2, F::current) == 6);
     EXPECT_EQ(file.Read(buffer, 16), 4U);
     EXPECT_STREQ(buffer, "6789");
-    EXPECT_EQ(file.Read(buffer, 16), 0U);
+    EXPECT_EQ(file.Read(buffer, 16) + file.Read(nullptr, 0), 0U);
     EXPECT_EQ(file.Seek(-3, F::end), 7U);
     EXPECT_EQ(failureOf([&] { file.Seek(-8, F::current); }), kBadSeek);
-    EXPECT_THROW(file.Seek(0, 3), CInvalidArgException_E*);
-    EXPECT_THROW(file.Write(nullptr, 1), CInvalidArgException_E*);
+    EXPECT_THROW(file.Seek(0, 3), Wrong);
+    EXPECT_THROW(file.Read(nullptr, 1), Wrong);
     EXPECT_EQ(file.GetPosition(), 7U);
     file.SetLength(5);
-    EXPECT_EQ(file.GetLength(), 5U);
-    EXPECT_EQ(file.GetPosition(), 5U);
+    EXPECT_TRUE(file.GetLength() == 5 && file.GetPosition() == 5);
+    EXPECT_THROW(file.Write(nullptr, 1), Wrong);
     file.Write("x", 1);
-    EXPECT_EQ(file.SeekToEnd(), 6U);
-    EXPECT_EQ(file.Seek(2, F::end), 8U);
+    file.Write(nullptr, 0);
+    EXPECT_TRUE(file.SeekToEnd() == 6 && file.Seek(2, F::end) == 8);
     file.Write("y", 1);
     file.SeekToBegin();
-    EXPECT_EQ(file.GetPosition(), 0U);
-    EXPECT_EQ(Bytes(), QByteArray("01234x\0\0y", 9));
+    EXPECT_EQ(file.Read(buffer, 16), 9U);
+    EXPECT_EQ(std::string(buffer, 9), std::string("01234x\0\0y", 9)); // cut off stays away
+}
+
+TEST_F(FileTest, EveryKindReadsSeeksAndCuts)
+{
+    using None = CNotSupportedException_E*;
+    CFile_E file(Path(), kBoth | kCreate);
+    CStdioFile_E text(Path("t"), kBoth | kCreate | F::typeBinary);
+    CMemFile_E memory;
+    for (CFile_E* const pFile : std::initializer_list<CFile_E*>{&file, &text, &memory}) {
+        useAsAnyOther(*pFile);
+        CFileStatus_E status;
+        EXPECT_TRUE(pFile->GetStatus(status) && status.m_size == 9);
+    }
+    for (CFile_E* const pFile : std::initializer_list<CFile_E*>{&text, &memory}) {
+        EXPECT_THROW(pFile->LockRange(0, 1), None);
+        EXPECT_THROW(pFile->UnlockRange(0, 1), None);
+        EXPECT_THROW(delete pFile->Duplicate(), None);
+    }
     constexpr LONGLONG far = (5LL << 30) + 3;
+    char buffer[4] = {};
+    EXPECT_EQ(failureOf([&] { file.SetLength(~0ULL); }), kBadNumber);
     file.Seek(far, F::begin);
     file.Write("end", 3);
-    EXPECT_EQ(file.GetLength(), static_cast<ULONGLONG>(far + 3));
-    file.Seek(-2, F::end);
+    EXPECT_EQ(file.Seek(-2, F::end), static_cast<ULONGLONG>(far + 1));
     EXPECT_EQ(file.Read(buffer, 4), 2U);
-    EXPECT_EQ(std::string(buffer, 2), "nd");
+    EXPECT_STREQ(buffer, "nd");
 }
 
-TEST_F(FileTest, NamesAndReuse)
+TEST_F(FileTest, NamesReuseDescriptorsAndDuplicates)
 {
-    CFile_E file(Path("a.b.txt").ToWinSeperator(), kWrite | kCreate);
-    EXPECT_STREQ(file.GetFilePath().GetString(), Path("a.b.txt").GetString());
-    EXPECT_STREQ(file.GetFileName().GetString(), L"a.b.txt");
-    EXPECT_STREQ(file.GetFileTitle().GetString(), L"a.b");
-    file.Write("1", 1);
-    ASSERT_TRUE(file.Open(Path("g"), kWrite | kCreate));
-    file.Write("2", 1);
-    file.Close();
-    file.Close();
-    EXPECT_TRUE(file.GetFilePath().IsEmpty());
-    EXPECT_EQ(Bytes("a.b.txt") + Bytes("g"), "12");
-}
-
-TEST_F(FileTest, DescriptorsAndDuplicates)
-{
-    const int fd = ::open(Make("abcdef").Utf8Ptr(), O_RDWR | O_CLOEXEC);
+    EXPECT_EQ(RUNTIME_CLASS_E(CFile_E)->CreateObject(), nullptr);
     char c = 0;
+    CFile_E reused(Path("a.b.txt").ToWinSeperator(), kWrite | kCreate);
+    EXPECT_EQ(reused.GetFilePath(), Path("a.b.txt"));
+    EXPECT_EQ(reused.GetFileName() + L" " + reused.GetFileTitle(), L"a.b.txt a.b");
+    reused.Write("1", 1);
+    EXPECT_EQ(failureOf([&] { reused.Read(&c, 1); }), kDenied);
+    EXPECT_TRUE(reused.Open(Path("g"), kWrite | kCreate));
+    reused.Write("2", 1);
+    reused.Close();
+    reused.Close();
+    EXPECT_TRUE(reused.GetFilePath().IsEmpty());
+    EXPECT_EQ(Bytes("a.b.txt") + Bytes("g"), "12");
+
+    const int fd = ::open(Make("abcdef").Utf8Ptr(), O_RDWR | O_CLOEXEC);
     {
         CFile_E file(fd);
         EXPECT_EQ(file.m_hFile, fd);
+        EXPECT_EQ(qobject_cast<QFile*>(file.GetImpQObject())->handle(), fd);
         const std::unique_ptr<CFile_E> pCopy(file.Duplicate());
         EXPECT_NE(pCopy->m_hFile, fd);
         file.Read(&c, 1);
         pCopy->Read(&c, 1);
-        EXPECT_EQ(c, 'b');
-        EXPECT_EQ(file.GetPosition(), 2U);
+        EXPECT_TRUE(c == 'b' && file.GetPosition() == 2);
     }
     EXPECT_EQ(::read(fd, &c, 1), 1); // not closed: it is the caller's
     CFile_E(fd).Close();
@@ -140,66 +134,67 @@ TEST_F(FileTest, EveryFailureHasItsCause)
 {
     Make("x");
     SetFileAttributes_E(Make("x", "locked"), FILE_ATTRIBUTE_READONLY);
-    const std::string endless(300, 'n');
+    // clang-format off
     const Row<const char*, UINT, Failure> opened[] = {
-        {"no", kRead, kMissing},
-        {"no/f", kRead, kNoFolder},
-        {"no/f", kWrite | kCreate, kNoFolder},
-        {"f/below", kWrite | kCreate, kNoFolder},
-        {".", kRead, kDenied},
-        {".", kWrite | kCreate, kDenied},
-        {"locked", kWrite, kDenied},
+        {"no", kRead, kMissing}, {"no", kWrite, kMissing}, {"no/f", kRead, kNoFolder},
+        {"no/f", kWrite | kCreate, kNoFolder}, {"f/below", kWrite | kCreate, kNoFolder},
+        {".", kRead, kDenied}, {".", kWrite | kCreate, kDenied}, {"locked", kWrite, kDenied},
         {"locked", kRead | kCreate, kDenied},
-        {endless.c_str(), kRead, {E::badPath, ERROR_FILENAME_EXCED_RANGE}},
     };
+    // clang-format on
     forRows(opened, [&](const char* name, UINT mode, const Failure& failure) {
+        CFileException_E e;
         EXPECT_EQ(failureOf([&] { CFile_E file(Path(name), mode); }), failure);
+        EXPECT_EQ(failureOf([&] { CStdioFile_E file(Path(name), mode); }), failure);
+        EXPECT_EQ(errorOf([&] { return CFile_E().Open(Path(name), mode, &e); }), failure.second);
+        EXPECT_TRUE(Failure(e.m_cause, e.m_lOsError) == failure && e.m_strFileName == Path(name));
     });
     EXPECT_EQ(failureOf([] { CFile_E file(nullptr, kRead); }), kNoFolder);
+    const std::string endless(300, 'n');
+    EXPECT_EQ(failureOf([&] { CFile_E file(Path(endless.c_str()), kRead); }),
+              Failure(E::badPath, ERROR_FILENAME_EXCED_RANGE));
     EXPECT_EQ(failureOf([&] { CFile_E::Remove(Path("no/f")); }), kNoFolder);
     EXPECT_EQ(failureOf([&] { CFile_E::SetStatus(Path("no"), {}); }), kMissing);
     EXPECT_EQ(failureOf([&] { CFile_E::Rename(Path(), Path("locked")); }),
               Failure(E::accessDenied, ERROR_ALREADY_EXISTS));
     EXPECT_EQ(Bytes() + Bytes("locked"), "xx");
 
-    CFile_E closed;
+    CFile_E file;
+    CStdioFile_E text;
     char c = 0;
-    const std::function<void()> uses[] = {
-        [&] { closed.Read(&c, 1); },       [&] { closed.Write(&c, 1); },
-        [&] { closed.GetLength(); },       [&] { closed.SeekToEnd(); },
-        [&] { closed.SetLength(1); },      [&] { closed.LockRange(0, 1); },
-        [&] { delete closed.Duplicate(); }};
-    for (const auto& use : uses)
-        EXPECT_EQ(failureOf(use), kClosed);
-    EXPECT_NO_THROW(closed.Flush());
-}
+    const std::function<void(CFile_E&)> uses[] = {
+        [&](auto& closed) { closed.Read(&c, 1); }, [&](auto& closed) { closed.Write(&c, 1); },
+        [](auto& closed) { closed.GetLength(); },  [](auto& closed) { closed.SeekToEnd(); },
+        [](auto& closed) { closed.SetLength(1); }, [](auto& closed) { closed.GetPosition(); }};
+    for (const auto& use : uses) {
+        EXPECT_EQ(failureOf([&] { use(file); }), kClosed);
+        EXPECT_EQ(failureOf([&] { use(text); }), kClosed);
+    }
+    EXPECT_EQ(failureOf([&] { file.Flush(), file.LockRange(0, 1); }), kClosed);
+    EXPECT_EQ(failureOf([&] { delete file.Duplicate(); }), kClosed);
 
-TEST_F(FileTest, TooManyOpenFiles)
-{
     rlimit limit;
-    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
-    const CString_E path = Make("x");
-    const int lowest = ::dup(0);
-    ::close(lowest);
-    const rlimit low = {static_cast<rlim_t>(lowest), limit.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &low), 0);
-    const Failure failure = failureOf([&] { CFile_E file(path, kRead); });
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    const rlimit none = {0, limit.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    const Failure failure = failureOf([&] { CFile_E other(Path(), kRead); });
     ::setrlimit(RLIMIT_NOFILE, &limit);
     EXPECT_EQ(failure, Failure(E::tooManyOpenFiles, ERROR_TOO_MANY_OPEN_FILES));
 }
 
 TEST_F(FileTest, FullDisk)
 {
-    CFile_E raw(L"/dev/full", kWrite);
-    EXPECT_EQ(failureOf([&] { raw.Write("x", 1); }), kFull);
-    CStdioFile_E text(L"/dev/full", kWrite);
+    EXPECT_EQ(failureOf([] { CFile_E(L"/dev/full", kWrite).Write("x", 1); }), kFull);
+    CStdioFile_E text(L"/dev/full", kWrite), flushed(L"/dev/full", kWrite);
     text.WriteString(L"x");
     EXPECT_EQ(failureOf([&] { text.Close(); }), kFull);
+    flushed.WriteString(L"x");
+    EXPECT_EQ(failureOf([&] { flushed.Flush(); }), kFull);
     EXPECT_EQ(failureOf([&] { text.GetLength(); }), kClosed);
 
-    const QByteArray folder = VxQString(Path("small")).toUtf8();
-    ASSERT_TRUE(CreateDirectory_E(Path("small"), nullptr));
-    if (::mount("tmpfs", folder.constData(), "tmpfs", 0, "size=64k") != 0)
+    const QString folder = VxQString(Path("small"));
+    CreateDirectory_E(Path("small"), nullptr);
+    if (::mount("tmpfs", qPrintable(folder), "tmpfs", 0, "size=64k") != 0)
         GTEST_SKIP() << "cannot mount a small file system";
     const QByteArray block(40'000, 'b');
     Make(block, "small/kept");
@@ -207,32 +202,20 @@ TEST_F(FileTest, FullDisk)
     EXPECT_EQ(failureOf([&] { CFile_E(Path("small/f"), kWrite | kCreate).Write(block, 40'000); }),
               kFull);
     CFile_E::Remove(Path("small/f"));
-    EXPECT_FALSE(CopyFile_E(Path("new"), Path("small/kept"), FALSE));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_DISK_FULL));
+    EXPECT_EQ(errorOf([&] { return CopyFile_E(Path("new"), Path("small/kept"), FALSE); }),
+              ERROR_DISK_FULL);
     EXPECT_EQ(failureOf([&] { CFile_E::Rename(Path("new"), Path("small/f")); }), kFull);
-    EXPECT_EQ(Bytes("new").size(), block.size());
-    EXPECT_EQ(Bytes("small/kept"), block);
-    EXPECT_EQ(QDir(VxQString(Path("small"))).count(),
-              3U); // with "." and "..": nothing is left over
+    EXPECT_TRUE(Bytes("new").size() == block.size() && Bytes("small/kept") == block);
+    EXPECT_EQ(QDir(folder).count(), 3U) << "with . and .., nothing is left over";
     CFile_E::Remove(Path("small/kept"));
     CFile_E::Rename(Path("new"), Path("small/moved")); // to another file system
-    EXPECT_EQ(Bytes("small/moved").size(), block.size());
-    EXPECT_EQ(Bytes("new"), "<none>");
-    EXPECT_FALSE(MoveFileEx_E(Path("small/moved"), Path("back"), MOVEFILE_REPLACE_EXISTING));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_SAME_DEVICE));
-    ::umount(folder.constData());
-}
-
-TEST_F(FileTest, VanishedFileIsStillOpen)
-{
-    CFile_E file(Make("abc"), kBoth);
-    CFile_E::Remove(Path());
-    file.SeekToEnd();
-    file.Write("d", 1);
-    CFileStatus_E status;
-    EXPECT_FALSE(CFile_E::GetStatus(Path(), status));
-    EXPECT_TRUE(file.GetStatus(status));
-    EXPECT_EQ(status.m_size, 4U);
+    EXPECT_TRUE(Bytes("small/moved").size() == block.size() && Bytes("new") == "<none>");
+    const auto back = [&] { return MoveFileEx_E(Path("small/moved"), Path("back"), 0); };
+    EXPECT_EQ(errorOf(back), ERROR_NOT_SAME_DEVICE);
+    CreateDirectory_E(Path("d"), nullptr); // only files are copied
+    EXPECT_EQ(errorOf([&] { return MoveFile_E(Path("d"), Path("small/d")); }),
+              ERROR_NOT_SAME_DEVICE);
+    ::umount(qPrintable(folder));
 }
 
 TEST_F(FileTest, Sharing)
@@ -242,10 +225,9 @@ TEST_F(FileTest, Sharing)
     // the first opening, the second, whether that succeeds; the other way round it is the same
     // clang-format off
     const Row<UINT, UINT, bool> rows[] = {
-        {kRead | none, kRead | none, true}, {kBoth | none, kBoth | none, true},
-        {kWrite | none, kWrite | none, true}, {kRead | none, kWrite | none, true},
-        {kRead | noWrite, kRead | noWrite, true}, {kRead | noWrite, kRead | none, true},
-        {kRead | noWrite, kWrite | none, false}, {kRead | noWrite, kBoth | none, false},
+        {kBoth | none, kBoth | none, true}, {kRead | none, kWrite | none, true},
+        {kWrite | none, kWrite | none, true}, {kRead | noWrite, kRead | noWrite, true},
+        {kRead | noWrite, kRead | none, true}, {kRead | noWrite, kWrite | none, false},
         {kWrite | noWrite, kRead | none, true}, {kWrite | noWrite, kWrite | none, false},
         {kWrite | noRead, kWrite | none, true}, {kWrite | noRead, kRead | none, false},
         {kRead | exclusive, kRead | none, false}, {kRead, kRead | none, false},
@@ -256,10 +238,10 @@ TEST_F(FileTest, Sharing)
         for (int turn = 0; turn < 2; ++turn, std::swap(first, second)) {
             auto pFile = std::make_unique<CFile_E>(Make("abc"), first);
             const auto open = [&, mode = second] { CFile_E other(Path(), mode); };
-            EXPECT_EQ(failureOf(open), opens ? kNoFailure : kShared);
-            Failure elsewhere; // what another thread finds
+            Failure here = failureOf(open), elsewhere; // what another thread finds
             std::thread([&] { elsewhere = failureOf(open); }).join();
-            EXPECT_EQ(elsewhere, opens ? kNoFailure : kShared);
+            EXPECT_EQ(here, opens ? kNoFailure : kShared);
+            EXPECT_EQ(elsewhere, here);
             pFile.reset();
             EXPECT_EQ(failureOf(open), kNoFailure);
         }
@@ -268,38 +250,30 @@ TEST_F(FileTest, Sharing)
 
 TEST_F(FileTest, SharingSeesOtherProcessesAndKeepsTheFile)
 {
-    CFile_E file(Make("abc"), kRead | F::shareDenyWrite);
-    const CString_E path = Path();
-    const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(failureOf([&] { CFile_E other(path, kWrite | kCreate | F::shareDenyNone); }).first);
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(WEXITSTATUS(status), static_cast<int>(E::sharingViolation));
-    EXPECT_EQ(failureOf([&] { CFile_E other(path, kRead | kCreate | F::shareDenyNone); }), kShared);
-    EXPECT_EQ(Bytes(), "abc");
-    const std::unique_ptr<CFile_E> pCopy(file.Duplicate());
-    file.Close();
-    EXPECT_EQ(failureOf([&] { CFile_E other(path, kWrite | F::shareDenyNone); }), kShared);
-    pCopy->Close();
-    EXPECT_EQ(failureOf([&] { CFile_E other(path, kWrite | F::shareDenyNone); }), kNoFailure);
-}
-
-TEST_F(FileTest, ClosingEndsSharingForForkedProcessesToo)
-{
-    auto pFile = std::make_unique<CStdioFile_E>(Make("abc"), kBoth);
-    int ends[2];
+    const auto open = [path = Make("abc")](UINT mode) {
+        return failureOf([&] { CFile_E other(path, mode | F::shareDenyNone); });
+    };
+    CFile_E file(Path(), kRead | F::shareDenyWrite);
+    CStdioFile_E text(Path(), kRead | F::shareDenyWrite);
+    int ends[2], status = 0;
     ASSERT_EQ(::pipe(ends), 0);
-    const auto open = [&] { CFile_E other(Path(), kRead); };
-    char c = 0;
-    const pid_t child = ::fork();
-    if (child == 0) { // has the file open until the pipe closes
+    pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(open(kWrite | kCreate).first);
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(WEXITSTATUS(status), kShared.first);
+    EXPECT_TRUE(open(kRead | kCreate) == kShared && Bytes() == "abc");
+    const std::unique_ptr<CFile_E> pCopy(file.Duplicate());
+    child = ::fork();
+    if (child == 0) { // has the files open until the pipe closes
         ::close(ends[1]);
-        ::_exit(static_cast<int>(::read(ends[0], &c, 1)));
+        ::_exit(static_cast<int>(::read(ends[0], &status, 1)));
     }
-    EXPECT_EQ(failureOf(open), kShared);
-    pFile.reset();
-    EXPECT_EQ(failureOf(open), kNoFailure);
+    text.Close();
+    file.Close();
+    EXPECT_EQ(open(kWrite), kShared);
+    pCopy->Close();
+    EXPECT_EQ(open(kWrite), kNoFailure) << "a forked process shares nothing";
     ::close(ends[0]);
     ::close(ends[1]);
     EXPECT_EQ(::waitpid(child, nullptr, 0), child);
@@ -307,8 +281,7 @@ TEST_F(FileTest, ClosingEndsSharingForForkedProcessesToo)
 
 TEST_F(FileTest, Ranges)
 {
-    constexpr ULONGLONG all = ~0ULL;
-    constexpr ULONGLONG far = 6ULL << 30U;
+    constexpr ULONGLONG all = ~0ULL, far = 6ULL << 30U;
     CFile_E first(Make("0123456789"), kBoth | F::shareDenyNone);
     CFile_E second(Path(), kBoth | F::shareDenyNone);
     first.LockRange(2, 3);
@@ -335,10 +308,9 @@ TEST_F(FileTest, Status)
 {
     CFileStatus_E status;
     ASSERT_TRUE(CFile_E::GetStatus(Make("abc", ".h.txt"), status));
-    EXPECT_EQ(status.m_attribute, F::hidden);
-    EXPECT_EQ(status.m_size, 3U);
-    EXPECT_STREQ(status.m_szFullName, Path(".h.txt").GetString());
-    EXPECT_NEAR(static_cast<double>(status.m_ctime), static_cast<double>(std::time(nullptr)), 60);
+    EXPECT_TRUE(status.m_attribute == F::hidden && status.m_size == 3);
+    EXPECT_EQ(Path(".h.txt"), status.m_szFullName);
+    EXPECT_LT(std::abs(status.m_ctime - std::time(nullptr)), 60);
 
     status.m_attribute = F::readOnly;
     status.m_mtime = 1'000'000'000;
@@ -352,12 +324,14 @@ TEST_F(FileTest, Status)
     EXPECT_EQ(changed.m_ctime, status.m_ctime);
     status.m_attribute = F::normal;
     CFile_E::SetStatus(Path(".h.txt"), status);
-    EXPECT_EQ(failureOf([&] { CFile_E file(Path(".h.txt"), kWrite); }), kNoFailure);
+    CFile_E file(Path(".h.txt"), kWrite);
+    CFile_E::Remove(Path(".h.txt"));
+    EXPECT_FALSE(CFile_E::GetStatus(Path(".h.txt"), status));
+    EXPECT_TRUE(file.GetStatus(status) && status.m_size == 3) << "vanished, but open";
 
     ASSERT_TRUE(CFile_E::GetStatus(CString_E(m_dir.path()), status));
     EXPECT_EQ(status.m_attribute, F::directory);
-    EXPECT_FALSE(CFile_E::GetStatus(nullptr, status));
-    EXPECT_EQ(status.m_szFullName[0], L'\0');
+    EXPECT_TRUE(!CFile_E::GetStatus(nullptr, status) && !status.m_szFullName[0]);
 }
 
 } // namespace

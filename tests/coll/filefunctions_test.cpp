@@ -5,14 +5,6 @@
 
 namespace {
 
-/// Runs a call and gives the last error, 0 for success.
-template <typename Call>
-LONG errorOf(Call call)
-{
-    SetLastError(0);
-    return call() ? 0 : static_cast<LONG>(GetLastError());
-}
-
 using Call = BOOL (*)(const wchar_t*, const wchar_t*);
 
 constexpr Call Mkdir = [](auto* a, auto*) { return CreateDirectory_E(a, nullptr); };
@@ -24,9 +16,7 @@ constexpr Call Move = [](auto* a, auto* b) { return MoveFile_E(a, b); };
 constexpr Call MoveOver = [](auto* a, auto* b) {
     return MoveFileEx_E(a, b, MOVEFILE_REPLACE_EXISTING);
 };
-constexpr Call Lock = [](auto* a, auto*) {
-    return SetFileAttributes_E(a, FILE_ATTRIBUTE_READONLY);
-};
+constexpr Call Lock = [](auto* a, auto*) { return SetFileAttributes_E(a, CFile_E::readOnly); };
 constexpr Call Unlock = [](auto* a, auto*) { return SetFileAttributes_E(a, 0); };
 
 constexpr LONG kNoFile = ERROR_FILE_NOT_FOUND, kNoPath = ERROR_PATH_NOT_FOUND;
@@ -43,7 +33,7 @@ TEST_F(FileTest, FunctionsByName)
     // clang-format off
     const Row<Call, const char*, const char*, LONG> rows[] = {
         {Mkdir, "d", "", 0}, {Mkdir, "d", "", kExists}, {Mkdir, "f", "", kExists},
-        {Mkdir, "no/d", "", kNoPath}, {Mkdir, "f/d", "", kNoPath}, {Mkdir, "", "", kNoPath},
+        {Mkdir, "no/d", "", kNoPath}, {Mkdir, "", "", kNoPath},
         {Copy, "f", "d/c", 0}, {Copy, "f", "d/c", kIsFile}, {CopyOver, "g", "d\\c", 0},
         {Copy, "no", "n", kNoFile}, {Copy, "f", "no/f", kNoPath}, {Copy, "", "", kNoPath},
         {CopyOver, "f", "f", kShared}, {CopyOver, "f", "d", kDenied},
@@ -59,47 +49,53 @@ TEST_F(FileTest, FunctionsByName)
         {Rmdir, "moved", "", 0},
     };
     // clang-format on
-    int number = 0;
-    for (const auto& [call, name, to, error] : rows) {
-        const CString_E a = Path(name), b = Path(to);
-        SetLastError(0);
-        EXPECT_EQ(call(*name ? a.GetString() : nullptr, *to ? b.GetString() : nullptr), error == 0);
-        EXPECT_TRUE(error == 0 || GetLastError() == static_cast<DWORD>(error)) << "row " << number;
-        ++number;
+    for (const auto& row : rows) {
+        const auto& [call, from, to, error] = row;
+        const CString_E a = Path(from), b = Path(to);
+        const auto run = [&, wanted = call, aIs = *from != 0, bIs = *to != 0] {
+            return wanted(aIs ? a.GetString() : nullptr, bIs ? b.GetString() : nullptr);
+        };
+        EXPECT_EQ(errorOf(run), error) << "row " << &row - rows;
     }
     EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::Files).join(QLatin1Char(' ')), "g ro2"_q);
     EXPECT_EQ(Bytes("g"), "x");
-    EXPECT_EQ(GetFileAttributes_E(Path("ro2")), FILE_ATTRIBUTE_READONLY);
+    CreateDirectory_E(Path(".d"), nullptr);
+    CloseHandle_E(Open(GENERIC_WRITE, CREATE_NEW, 0, FILE_ATTRIBUTE_READONLY, "locked"));
+    // clang-format off
+    const Row<CString_E, DWORD> attributes[] = {
+        {Path("g"), FILE_ATTRIBUTE_NORMAL}, {Path("ro2"), FILE_ATTRIBUTE_READONLY},
+        {Path("locked"), FILE_ATTRIBUTE_READONLY}, {Path("."), FILE_ATTRIBUTE_DIRECTORY},
+        {Path(".d"), FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN},
+        {L"/dev/null", FILE_ATTRIBUTE_DEVICE}, {L"", INVALID_FILE_ATTRIBUTES},
+    };
+    // clang-format on
+    for (const auto& [name, expected] : attributes)
+        EXPECT_EQ(GetFileAttributes_E(name), expected) << VxQString(name).toStdString();
 }
 
-TEST_F(FileTest, CopiesKeepTimesAndLinks)
+TEST_F(FileTest, CopiesOfAllKinds)
 {
     CFileStatus_E status;
-    ASSERT_TRUE(CFile_E::GetStatus(Make("new"), status));
+    CFile_E::GetStatus(Make("new"), status);
     status.m_mtime = 1'000'000'000;
     CFile_E::SetStatus(Path(), status);
-    Make("old", "target");
-    ASSERT_TRUE(QFile::link(VxQString(Path("target")), VxQString(Path("link"))));
-    EXPECT_TRUE(CopyFile_E(Path(), Path("link"), FALSE));
-    EXPECT_EQ(Bytes("target"), "new");
-    EXPECT_TRUE(CFile_E::GetStatus(Path("target"), status));
-    EXPECT_EQ(status.m_mtime, 1'000'000'000);
+    const std::string longest(255, 'n'); // none beside it may be longer
+    for (const char* const name : {"target", longest.c_str()}) {
+        QFile::remove(VxQString(Path("link")));
+        Make("old", name);
+        QFile::link(VxQString(Path(name)), VxQString(Path("link")));
+        EXPECT_TRUE(CopyFile_E(Path(), Path("link"), FALSE));
+        EXPECT_EQ(Bytes(name), "new");
+        EXPECT_TRUE(CFile_E::GetStatus(Path(name), status) && status.m_mtime == 1'000'000'000);
+    }
     CFile_E open(Path("target"), CFile_E::modeRead | CFile_E::shareDenyWrite);
-    EXPECT_EQ(errorOf([&] { return CopyFile_E(Path(), Path("target"), FALSE); }),
-              ERROR_SHARING_VIOLATION);
-}
-
-TEST_F(FileTest, CopiesOfUnusualFiles)
-{
-    const std::string longest(255, 'n');
-    EXPECT_TRUE(CopyFile_E(Make("new"), Make("old", longest.c_str()), FALSE));
-    EXPECT_EQ(Bytes(longest.c_str()), "new");
-    EXPECT_TRUE(CopyFile_E(L"/proc/self/status", Path("status"), FALSE));
+    EXPECT_EQ(errorOf([&] { return CopyFile_E(Path(), Path("target"), FALSE); }), kShared);
+    EXPECT_TRUE(CopyFile_E(L"/proc/self/status", Path("status"), FALSE)); // of no size
     EXPECT_TRUE(Bytes("status").startsWith("Name:"));
-    ASSERT_TRUE(QFile::link(VxQString(Path("nothing")), VxQString(Path("link"))));
-    EXPECT_FALSE(CopyFile_E(L"/proc/self/mem", Path("link"), FALSE)); // cannot be read at 0
+    QFile::link(VxQString(Path("nothing")), VxQString(Path("to nothing")));
+    EXPECT_FALSE(CopyFile_E(L"/proc/self/mem", Path("to nothing"), FALSE)); // unreadable at 0
     EXPECT_EQ(Bytes("nothing"), "<none>");
-    EXPECT_TRUE(CopyFile_E(Path(), Path("link"), FALSE));
+    EXPECT_TRUE(CopyFile_E(Path(), Path("to nothing"), FALSE));
     EXPECT_EQ(Bytes("nothing"), "new");
 }
 
@@ -111,135 +107,102 @@ TEST_F(FileTest, MovesOverAnotherLink)
     EXPECT_EQ(Bytes(), "x");
     EXPECT_TRUE(MoveOver(Path(), Path("f2")));
     EXPECT_EQ(Bytes() + Bytes("f2"), "<none>x");
-    EXPECT_EQ(
-        errorOf([&] { return MoveFileEx_E(Path("f2"), Path("f"), MOVEFILE_DELAY_UNTIL_REBOOT); }),
-        ERROR_NOT_SUPPORTED);
+    const auto later = [&] {
+        return MoveFileEx_E(Path("f2"), Path(), MOVEFILE_DELAY_UNTIL_REBOOT);
+    };
+    EXPECT_EQ(errorOf(later), ERROR_NOT_SUPPORTED);
 }
 
-TEST_F(FileTest, Attributes)
+/// The names that a search finds, with blanks between.
+std::string found(const CString_E& pattern)
 {
-    CreateDirectory_E(Path(".d"), nullptr);
-    CloseHandle_E(CreateFile_E(Path("locked"), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                               FILE_ATTRIBUTE_READONLY, nullptr));
-    const Row<CString_E, DWORD> rows[] = {
-        {Make("x"), FILE_ATTRIBUTE_NORMAL},
-        {Path("locked"), FILE_ATTRIBUTE_READONLY},
-        {Path(".d"), FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN},
-        {Path("."), FILE_ATTRIBUTE_DIRECTORY},
-        {L"/dev/null", FILE_ATTRIBUTE_DEVICE},
-        {L"", INVALID_FILE_ATTRIBUTES}};
-    for (const auto& [name, attributes] : rows)
-        EXPECT_EQ(GetFileAttributes_E(name), attributes) << VxQString(name).toStdString();
-}
-
-class FileFindTest : public FileTest
-{
-protected:
-    /// The names that a search finds, with blanks between.
-    std::string Find(const char* pattern)
-    {
-        QStringList names;
-        CFileFind_E finder;
-        for (BOOL bMore = finder.FindFile(Path(pattern)); bMore;) {
-            bMore = finder.FindNextFile();
-            names += VxQString(finder.GetFileName());
-        }
-        return names.join(QLatin1Char(' ')).toStdString();
+    QStringList names;
+    CFileFind_E finder;
+    for (BOOL bMore = finder.FindFile(pattern); bMore;) {
+        bMore = finder.FindNextFile();
+        names += VxQString(finder.GetFileName());
     }
-};
+    return names.join(QLatin1Char(' ')).toStdString();
+}
 
-TEST_F(FileFindTest, Wildcards)
+TEST_F(FileTest, Wildcards)
 {
     for (const char* name : {"a", "A.TXT", "ab.txt", "a.b.txt", "abc.dat", "ä.Txt", "x.t", "b."})
         Make("x", name);
+    // clang-format off
     const Row<const char*, const char*> rows[] = {
         {"*", ". .. a a.b.txt A.TXT ab.txt abc.dat b. x.t ä.Txt"},
         {"*.*", ". .. a a.b.txt A.TXT ab.txt abc.dat b. x.t ä.Txt"},
-        {"*.", ". .. a"},
-        {"*.txt", "a.b.txt A.TXT ab.txt ä.Txt"},
-        {"a.*", "a a.b.txt A.TXT"},
-        {"a?.txt", "A.TXT ab.txt"},
-        {"a??.*", "a a.b.txt A.TXT ab.txt abc.dat"},
-        {"?", "a"},
-        {"?.txt", "A.TXT ä.Txt"},
-        {"Ä.tXT", "ä.Txt"},
-        {"*b*", "a.b.txt ab.txt abc.dat b."},
-        {"*.t??", "a.b.txt A.TXT ab.txt x.t ä.Txt"},
-        {"*.b.*", "a.b.txt"},
-        {"no*", ""},
+        {"*.", ". .. a"}, {"*.txt", "a.b.txt A.TXT ab.txt ä.Txt"}, {"a.*", "a a.b.txt A.TXT"},
+        {"a?.txt", "A.TXT ab.txt"}, {"a??.*", "a a.b.txt A.TXT ab.txt abc.dat"}, {"?", "a"},
+        {"?.txt", "A.TXT ä.Txt"}, {"Ä.tXT", "ä.Txt"}, {"*b*", "a.b.txt ab.txt abc.dat b."},
+        {"*.t??", "a.b.txt A.TXT ab.txt x.t ä.Txt"}, {"*.b.*", "a.b.txt"}, {"no*", ""},
     };
+    // clang-format on
     for (const auto& [pattern, names] : rows)
-        EXPECT_EQ(Find(pattern), names) << pattern;
-}
-
-TEST_F(FileFindTest, NamesThatAreNoText)
-{
+        EXPECT_EQ(found(Path(pattern)), names) << pattern;
     const QByteArray name = QFile::encodeName(m_dir.path()) + "/a\xFF.txt";
     ::close(::open(name.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
-    EXPECT_EQ(Find("*.txt"), "a\uFFFD.txt");
+    EXPECT_EQ(found(Path("a?.txt")), "A.TXT ab.txt a\uFFFD.txt") << "a name that is no text";
     EXPECT_EQ(::unlink(name.constData()), 0); // the folder would stay
 }
 
-TEST_F(FileFindTest, TellsOfFiles)
+TEST_F(FileTest, FindersTellOfFiles)
 {
     Make("abc", ".hidden.txt");
     CFileStatus_E status;
-    ASSERT_TRUE(CFile_E::GetStatus(Path(".hidden.txt"), status));
+    CFile_E::GetStatus(Path(".hidden.txt"), status);
     CFileFind_E finder;
     std::time_t time = -1;
     FILETIME fileTime;
     EXPECT_FALSE(finder.GetLastWriteTime(time));
     ASSERT_TRUE(finder.FindFile(Path("*.txt").ToWinSeperator()));
     EXPECT_TRUE(finder.GetFilePath().IsEmpty());
-    EXPECT_FALSE(finder.FindNextFile()); // it is the last one
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_MORE_FILES));
-    EXPECT_STREQ(finder.GetFileTitle().GetString(), L".hidden");
-    EXPECT_STREQ(finder.GetFilePath().GetString(), Path(".hidden.txt").GetString());
-    EXPECT_STREQ(finder.GetFileURL().GetString(), (L"file://" + Path(".hidden.txt")).GetString());
-    EXPECT_STREQ(finder.GetRoot().GetString(), (Path("") + L"/").GetString());
-    EXPECT_EQ(finder.GetLength(), 3U);
-    EXPECT_TRUE(finder.IsHidden());
+    EXPECT_EQ(errorOf([&] { return finder.FindNextFile(); }), ERROR_NO_MORE_FILES); // the last one
+    EXPECT_EQ(finder.GetFileTitle(), L".hidden");
+    EXPECT_EQ(finder.GetFilePath(), Path(".hidden.txt"));
+    EXPECT_EQ(finder.GetFileURL(), L"file://" + Path(".hidden.txt"));
+    EXPECT_EQ(finder.GetRoot(), Path("") + L"/");
+    EXPECT_TRUE(finder.IsHidden() && finder.GetLength() == 3);
     EXPECT_FALSE(finder.IsDirectory() || finder.IsReadOnly() || finder.IsNormal() ||
                  finder.IsDots());
-    EXPECT_TRUE(finder.GetLastWriteTime(time));
-    EXPECT_EQ(time, status.m_mtime);
-    EXPECT_TRUE(finder.GetCreationTime(&fileTime));
-    EXPECT_EQ((static_cast<LONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime) /
-                      10'000'000 -
-                  11'644'473'600,
-              status.m_ctime);
+    EXPECT_TRUE(finder.GetLastWriteTime(time) && time == status.m_mtime);
+    EXPECT_TRUE(finder.GetCreationTime(time) && time == status.m_ctime);
+    EXPECT_TRUE(finder.GetLastAccessTime(time) && time == status.m_atime);
+    EXPECT_TRUE(finder.GetLastWriteTime(&fileTime) && finder.GetCreationTime(&fileTime));
+    const auto ticks =
+        static_cast<LONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime;
+    EXPECT_EQ(ticks / 10'000'000 - 11'644'473'600, status.m_ctime);
     EXPECT_FALSE(finder.GetLastAccessTime(nullptr));
-    ASSERT_TRUE(finder.FindFile(Path("*")));
-    EXPECT_TRUE(finder.FindNextFile());
+    EXPECT_TRUE(finder.FindFile(Path("*")) && finder.FindNextFile());
     EXPECT_TRUE(finder.IsDots() && finder.IsDirectory());
     CFile_E::Remove(Path(".hidden.txt"));
-    EXPECT_FALSE(finder.FindNextFile()); // only ".." is left
-    EXPECT_STREQ(finder.GetFileName().GetString(), L"..");
+    EXPECT_TRUE(!finder.FindNextFile() && finder.GetFileName() == L".."); // only that is left
     finder.Close();
-    EXPECT_EQ(finder.GetLength(), 0U);
-    EXPECT_TRUE(finder.GetFileName().IsEmpty());
+    EXPECT_TRUE(finder.GetLength() == 0 && finder.GetFileName().IsEmpty());
 }
 
-TEST_F(FileFindTest, Failures)
+TEST_F(FileTest, FailuresOfFinders)
 {
     WIN32_FIND_DATA data;
     CFileFind_E finder;
     const HANDLE hEnded = FindFirstFile_E(Path("*"), &data);
     EXPECT_EQ(errorOf([&] { return FindNextFile_E(hEnded, nullptr); }), ERROR_INVALID_PARAMETER);
     EXPECT_TRUE(FindClose_E(hEnded));
-    const Row<std::function<BOOL()>, LONG> rows[] = {
-        {[&] { return finder.FindFile(Path("no")); }, kNoFile},
-        {[&] { return finder.FindFile(Path("no/*")); }, kNoPath},
-        {[&] { return finder.FindFile(Make("x") + L"/*"); }, kNoPath},
-        {[&] { return finder.FindFile(L""); }, kNoPath},
-        {[&] { return finder.FindNextFile(); }, ERROR_INVALID_HANDLE},
-        {[&] { return FindNextFile_E(INVALID_HANDLE_VALUE, &data); }, ERROR_INVALID_HANDLE},
-        {[&] { return FindNextFile_E(hEnded, &data); }, ERROR_INVALID_HANDLE},
-        {[&] { return FindNextFile_E(&data, &data); }, ERROR_INVALID_HANDLE},
-        {[&] { return FindClose_E(hEnded); }, ERROR_INVALID_HANDLE},
-        {[&] { return FindClose_E(nullptr); }, ERROR_INVALID_HANDLE}};
-    for (const auto& [call, error] : rows)
-        EXPECT_EQ(errorOf(call), error);
+    // clang-format off
+    const Row<CString_E, LONG> names[] = {
+        {Path("no"), kNoFile}, {Path("no/*"), kNoPath}, {Make("x") + L"/*", kNoPath},
+        {L"", kNoPath},
+    };
+    // clang-format on
+    for (const auto& [name, error] : names)
+        EXPECT_EQ(errorOf([&, wanted = name] { return finder.FindFile(wanted); }), error);
+    for (const HANDLE h : {INVALID_HANDLE_VALUE, HANDLE{}, hEnded, static_cast<HANDLE>(&data)}) {
+        EXPECT_EQ(errorOf([&] { return FindNextFile_E(h, &data); }), ERROR_INVALID_HANDLE);
+        EXPECT_EQ(errorOf([&] { return FindClose_E(h); }), ERROR_INVALID_HANDLE);
+    }
+    EXPECT_EQ(errorOf([&] { return finder.FindNextFile(); }), ERROR_INVALID_HANDLE);
+    EXPECT_EQ(FindFirstFile_E(Path("*"), nullptr), INVALID_HANDLE_VALUE);
 }
 
 } // namespace

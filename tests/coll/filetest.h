@@ -1,4 +1,4 @@
-// What the tests of files share: a folder of their own, and what an exception says.
+// What the tests of files share: a folder of their own, and what a failure says.
 #pragma once
 
 #include "support/test.h"
@@ -25,6 +25,14 @@ Failure failureOf(Work work)
     return kNoFailure;
 }
 
+/// The last error of a call that fails, -1 if it sets none; 0 for success.
+template <typename Call>
+LONG errorOf(Call call)
+{
+    SetLastError(static_cast<DWORD>(-1));
+    return call() ? 0 : static_cast<LONG>(GetLastError());
+}
+
 class FileTest : public testing::Test
 {
 protected:
@@ -45,11 +53,18 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
     }
 
+    HANDLE Open(DWORD access = GENERIC_READ, DWORD disposition = OPEN_EXISTING, DWORD share = 0,
+                DWORD flags = 0, const char* name = "f") const
+    {
+        return CreateFile_E(Path(name), access, share, nullptr, disposition, flags, nullptr);
+    }
+
     QTemporaryDir m_dir;
 };
 
 } // namespace vxtest
 
+using vxtest::errorOf;
 using vxtest::Failure;
 using vxtest::failureOf;
 using vxtest::FileTest;
