@@ -51,10 +51,10 @@ TEST(Handle, OfNoObject)
     forRows(kRows, [](int initial, int maximum, LPCWSTR name) {
         const bool isOne = maximum == 2;
         // What has no object cannot be given back: kept where it is not taken for a leak.
-        static std::vector<HANDLE> kept;
-        kept.push_back(CreateSemaphoreEx(nullptr, initial, maximum, name, 0, 0));
-        EXPECT_EQ(OpenSemaphore(0, FALSE, 1, name), isOne ? kept.back() : nullptr);
-        expectUseless(kept.back(), isOne);
+        static auto* const kept = new std::vector<HANDLE>;
+        kept->push_back(CreateSemaphoreEx(nullptr, initial, maximum, name, 0, 0));
+        EXPECT_EQ(OpenSemaphore(0, FALSE, 1, name), isOne ? kept->back() : nullptr);
+        expectUseless(kept->back(), isOne);
         EXPECT_EQ(g_mapVxHandle.remove(name), 1); // Intended: what cannot be ended stays there.
     });
 }

@@ -209,12 +209,10 @@ TEST_F(Registry, QueriesMultipleValues)
     wchar_t buffer[4];
     DWORD size = 11;
     EXPECT_EQ(RegQueryMultipleValues_E(m_hKey, values, 2, buffer, &size), ERROR_MORE_DATA);
-    EXPECT_EQ(size, 12U);
-    EXPECT_EQ(values[0].ve_valueptr, 0U);
+    EXPECT_EQ(std::make_tuple(size, values[0].ve_valueptr), std::make_tuple(12U, 0U));
     EXPECT_EQ(RegQueryMultipleValues_E(m_hKey, values, 2, buffer, &size), ERROR_SUCCESS);
     EXPECT_STREQ(reinterpret_cast<char*>(values[0].ve_valueptr), "abc");
-    EXPECT_EQ(values[0].ve_valuelen, 4U);
-    EXPECT_EQ(values[1].ve_type, REG_DWORD);
+    EXPECT_EQ(Results({values[0].ve_valuelen, values[1].ve_type}), Results({4, REG_DWORD}));
     EXPECT_EQ(*reinterpret_cast<DWORD*>(values[1].ve_valueptr), 7U);
     name[0] = L'n';
     EXPECT_EQ(RegQueryMultipleValues_E(m_hKey, values, 2, buffer, &size), ERROR_FILE_NOT_FOUND);
@@ -261,12 +259,10 @@ TEST_F(Registry, EnumeratesInLinearTime)
     EXPECT_EQ(Listed(RegEnumKey_E), Listed(enumText));
     EXPECT_LT(timer.elapsed(), 2000); // a listing for each takes a hundred times that
     Store("😀😀😀"_q, "😀😀😀😀"_q);
-    DWORD count = 0;
-    DWORD name = 0;
-    DWORD text = 0;
-    EXPECT_EQ(RegQueryInfoKey_E(m_hKey, {}, {}, {}, {}, {}, {}, &count, &name, &text, {}, {}), 0);
-    // Intended: lengths in UTF-16 units.
-    EXPECT_EQ(std::tie(count, name, text), std::make_tuple(10001U, 6U, 8U));
+    DWORD n[3] = {};
+    EXPECT_EQ(RegQueryInfoKey_E(m_hKey, {}, {}, {}, {}, {}, {}, n, n + 1, n + 2, {}, {}), 0);
+    // Intended: the greatest lengths are in UTF-16 units.
+    EXPECT_EQ(Results(n, n + 3), Results({10001, 6, 8}));
     EXPECT_EQ(RegQueryInfoKey_E(m_hKey, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}), 0);
 }
 

@@ -113,18 +113,20 @@ TEST(Waiting, ClosingUnderASleeper)
 {
     const std::wstring name = semaphoreName();
     std::vector<Row<HANDLE, DWORD, DWORD>> rows = {
-        {CreateEvent(nullptr, FALSE, FALSE, kEvent), 300, WAIT_TIMEOUT},
+        {CreateEvent(nullptr, FALSE, FALSE, kEvent), 1000, WAIT_TIMEOUT},
         {CreateSemaphore(nullptr, 0, 5, name.c_str()), INFINITE, WAIT_OBJECT_0}};
     if (!vxtest::kThreadSanitizer) // it reports the end of a mutex that is locked
-        rows.emplace_back(CreateMutex(nullptr, TRUE, kMutex), 300, WAIT_TIMEOUT);
+        rows.emplace_back(CreateMutex(nullptr, TRUE, kMutex), 1000, WAIT_TIMEOUT);
     forRows(rows, [](HANDLE handle, DWORD limit, DWORD result) {
         std::atomic<pid_t> thread{0};
         std::thread sleeper([&] {
             thread = gettid();
             EXPECT_EQ(waitOn(handle, limit), result);
+            thread = 0;
         });
         EXPECT_TRUE(vxtest::waitUntil([&] { return thread != 0 && isAsleep(thread); }));
         closeAll({handle});
+        EXPECT_TRUE(thread != 0 || result == WAIT_OBJECT_0) << "closing waited for the sleeper";
         sleeper.join();
     });
     // Intended: a locked mutex stays in the map.

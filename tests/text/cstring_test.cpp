@@ -142,7 +142,10 @@ TEST(CString, Tokens)
     EXPECT_EQ(tokens(L"%First Second#Third", L"% #"), L"<First><Second><Third><>");
     EXPECT_EQ(tokens(L";;", L";"), L"<>");
     EXPECT_EQ(tokens(L"a b", kNull), L"<a b><>");
-    int start = -5;
+    int start = 0;
+    EXPECT_EQ(CString_E(L"a;b").Tokenize(L";", start), L"a");
+    EXPECT_EQ(start, 2);
+    start = -5;
     EXPECT_EQ(CString_E(L"a").Tokenize(L";", start), L"");
     EXPECT_EQ(start, -1);
 }
@@ -175,7 +178,6 @@ TEST(CString, Changing)
         {L"abcabc", replace(L"abc", kNull), 2, L""},
         {L"abc", replace(kNull, L"x"), 0, L"abc"},
         {L"abab", [](CString_E& s) { return s.Replace(L"a", s.GetString()); }, 2, L"ababbababb"},
-        {L"abab", [](CString_E& s) { return s.Replace(L"ab", s.GetString() + 3); }, 2, L"bb"},
         {L"banana", [](CString_E& s) { return s.Remove(L'a'); }, 3, L"bnn"},
         {L"ac", [](CString_E& s) { return s.Insert(1, L'b'); }, 3, L"abc"},
         {L"ac", [](CString_E& s) { return s.Insert(2, L"de"); }, 4, L"acde"},
@@ -193,8 +195,10 @@ TEST(CString, Changing)
                 EXPECT_EQ(change(s), result);
                 EXPECT_EQ(s, expected);
             });
-    CString_E s(L"abc");
-    for (const int index : {-1, 4}) {
+    CString_E s(L"ab\0abab", 7);
+    EXPECT_EQ(s.Replace(L"ab", s.GetString() + 1), 3) << "its own second character";
+    EXPECT_EQ(s, CString_E(L"b\0bb", 4));
+    for (const int index : {-1, 5}) {
         EXPECT_THROW(s.Insert(index, L'x'), std::out_of_range);
         EXPECT_THROW(s.Insert(index, L"x"), std::out_of_range);
         EXPECT_THROW(s.Delete(index, 1), std::out_of_range);
@@ -249,8 +253,10 @@ TEST(CString, Buffers)
     wcscpy(s.GetBuffer(9), L"longer");
     s.ReleaseBuffer(6); // beyond the length that it had
     EXPECT_EQ(s, L"lo");
-    EXPECT_EQ(s.GetBufferSetLength(4)[3], L'\0');
-    EXPECT_EQ(s.GetLength(), 4);
+    s.ReleaseBuffer();
+    EXPECT_EQ(s, L"longer");
+    EXPECT_EQ(s.GetBufferSetLength(8)[7], L'\0');
+    EXPECT_EQ(s.GetLength(), 8);
     s.GetBufferSetLength(-1);
     s.GetBuffer(-1);
     EXPECT_TRUE(s.IsEmpty());
