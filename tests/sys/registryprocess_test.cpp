@@ -1,10 +1,6 @@
 // The registry's file between processes: hosts that load the library, plain readers, killed
 // writers.
-#include <QtCore/QProcess>
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -12,34 +8,32 @@ namespace {
 // the 30 seconds after which Qt takes a nameless lock for stale.
 constexpr int kStaleLockMs = 60000;
 
+const QStringList kHost = {QStringLiteral(REGISTRY_HOST), QStringLiteral(REGISTRY_PLUGIN)};
+const QStringList kLinked = {QStringLiteral(REGISTRY_LINKED)};
+
 class RegistryProcess : public testing::Test
 {
 protected:
-    void Start(QProcess& process, const char* commands, bool isLinked = false) const
+    void Start(QProcess& process, const QString& commands, QStringList line = kHost) const
     {
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
+        environment.insert("XDG_CONFIG_HOME"_q, m_home.path());
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        QStringList arguments =
-            QString::fromUtf8(commands).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (!isLinked)
-            arguments.prepend(QStringLiteral(REGISTRY_PLUGIN));
-        process.start(QString::fromUtf8(isLinked ? REGISTRY_LINKED : REGISTRY_HOST), arguments);
+        line += commands.split(QLatin1Char(' '));
+        process.start(line.takeFirst(), line);
     }
-    std::string Run(const char* commands, bool isLinked = false) const
+    QString Run(const QString& commands, const QStringList& host = kHost) const
     {
         QProcess process;
-        Start(process, commands, isLinked);
-        const bool isDone = process.waitForFinished(kStaleLockMs) && process.exitCode() == 0 &&
-                            process.exitStatus() == QProcess::NormalExit;
-        return isDone ? process.readAllStandardOutput().toStdString() : "failed";
+        Start(process, commands, host);
+        EXPECT_TRUE(process.waitForFinished(kStaleLockMs) && process.exitCode() == 0);
+        return QString::fromUtf8(process.readAllStandardOutput());
     }
-    QVariant Stored(const std::string& name, const char* file = "/Vertex/Host.ini") const
+    QString Stored(const QString& name, const QString& file = "/Vertex/Host.ini"_q) const
     {
-        const QSettings plain(m_home.path() + QString::fromUtf8(file), QSettings::IniFormat);
-        return plain.value(QStringLiteral("HKEY_CURRENT_USER/Script/") +
-                           QString::fromStdString(name));
+        const QSettings plain(m_home.path() + file, QSettings::IniFormat);
+        return plain.value("HKEY_CURRENT_USER/Script/"_q + name).toString();
     }
 
     QTemporaryDir m_home;
@@ -47,44 +41,40 @@ protected:
 
 TEST_F(RegistryProcess, StoresUnderTheNamesAtLoadingTime)
 {
-    EXPECT_EQ(Run("text a 图层 number n 7 print n -"), "type 4, 7\n");
-    EXPECT_EQ(Stored("a").toString(), QStringLiteral("图层"));
-    EXPECT_EQ(Run("print n - print a -"), "text 7\ntext 图层\n"); // the file holds text only
-    EXPECT_EQ(Run("text a linked", true), "");
-    EXPECT_EQ(Stored("a", "/Unknown Organization.ini").toString(), QStringLiteral("linked"));
+    EXPECT_EQ(Run("text a 图层 number n 65 print n -"_q), "4: A\n"_q);
+    EXPECT_EQ(Stored("a"_q), "图层"_q);
+    EXPECT_EQ(Run("print n - print a -"_q), "1: 65\n1: 图层\n"_q); // the file holds text only
+    EXPECT_EQ(Run("text a linked"_q, kLinked), QString());
+    EXPECT_EQ(Stored("a"_q, "/Unknown Organization.ini"_q), "linked"_q);
 }
 
 TEST_F(RegistryProcess, TwoWritersLoseNothing)
 {
-    QProcess first;
-    QProcess second;
-    Start(first, "flushed a 100");
-    Start(second, "flushed b 100");
-    ASSERT_TRUE(first.waitForFinished() && second.waitForFinished());
-    for (int i = 0; i < 100; ++i) {
-        const std::string number = std::to_string(i);
-        EXPECT_EQ(Stored("a" + number), QStringLiteral("a")) << i;
-        EXPECT_EQ(Stored("b" + number), QStringLiteral("b")) << i;
-    }
+    QProcess other;
+    Start(other, "rounds a 50"_q);
+    Run("rounds b 50"_q);
+    ASSERT_TRUE(other.waitForFinished(kStaleLockMs));
+    for (int i = 0; i < 100; ++i)
+        EXPECT_EQ(Stored("a%1"_q.arg(i)) + Stored("b%1"_q.arg(i)), "4949"_q) << i;
 }
 
 TEST_F(RegistryProcess, AKilledWriterLeavesAReadableFile)
 {
-    EXPECT_EQ(Run("text kept old"), "");
+    Run("text kept old"_q);
     for (int kill = 0; kill < 10; ++kill) {
         QProcess writer;
-        Start(writer, "churn - -");
+        Start(writer, "rounds n 1000000"_q);
         for (int round = 0; round <= kill; ++round)
             ASSERT_TRUE(writer.canReadLine() || writer.waitForReadyRead(kStaleLockMs));
         writer.kill();
         ASSERT_TRUE(writer.waitForFinished());
-        EXPECT_EQ(Stored("kept"), QStringLiteral("old"));
-        for (int i = 0; i < 200; i += 199) // the file is one round's, whole
-            EXPECT_EQ(Stored("churn" + std::to_string(i)), Stored("churn0"));
-        EXPECT_FALSE(Stored("churn0").toString().isEmpty());
+        EXPECT_EQ(Stored("kept"_q), "old"_q);
+        EXPECT_FALSE(Stored("n0"_q).isEmpty());
+        EXPECT_EQ(Stored("n0"_q), Stored("n99"_q)); // the file is one round's, whole
     }
-    EXPECT_EQ(Run("text kept new print kept -"), "text new\n"); // not held up by a dead one's lock
-    EXPECT_EQ(Stored("kept"), QStringLiteral("new"));
+    // Not held up by a dead one's lock.
+    EXPECT_EQ(Run("text kept new print kept -"_q), "1: new\n"_q);
+    EXPECT_EQ(Stored("kept"_q), "new"_q);
 }
 
 } // namespace

@@ -1,30 +1,29 @@
-// Calls and their results, one a row, made in the order in which they stand.
+// What the tests of threads and of what they wait for share.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <initializer_list>
-#include <string>
+#include "support/test.h"
 
 #include <unistd.h>
 
 namespace vxtest {
 
-struct ResultRow
-{
-    int line;
-    long long result;
-    long long expected;
-};
+/// What calls gave, in the order in which they stand.
+using Results = std::vector<long long>;
 
-inline void expectResults(std::initializer_list<ResultRow> rows)
-{
-    for (const ResultRow& row : rows)
-        EXPECT_EQ(row.result, row.expected) << "in line " << row.line;
-}
+inline constexpr auto waitOn = WaitForSingleObject;
 
 /// A name for a semaphore that no other process uses. Each call has a buffer of its own.
 inline std::wstring semaphoreName() { return L"/vxmfc-test-" + std::to_wstring(getpid()); }
+
+/// Calls @p work in so many threads at once, with their numbers.
+inline void inThreads(int count, const std::function<void(int)>& work)
+{
+    std::vector<std::thread> threads;
+    for (int i = 0; i < count; ++i)
+        threads.emplace_back(work, i);
+    for (std::thread& thread : threads)
+        thread.join();
+}
 
 /// What the sanitizer reports by itself, whatever the test finds.
 #if defined(__SANITIZE_THREAD__)
@@ -34,3 +33,8 @@ inline constexpr bool kThreadSanitizer = false;
 #endif
 
 } // namespace vxtest
+
+using vxtest::inThreads;
+using vxtest::Results;
+using vxtest::semaphoreName;
+using vxtest::waitOn;

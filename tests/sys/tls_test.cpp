@@ -1,40 +1,25 @@
-#include <VxMFCEmu/sys/tls.h>
-
-#include <gtest/gtest.h>
-
-#include <set>
-#include <thread>
+#include "support/test.h"
 
 namespace {
 
-TEST(Tls, EachThreadHasItsOwnValue)
+TEST(Tls, EachThreadHasItsOwnValueUntilTheSlotIsFreed)
 {
     const DWORD slot = TlsAlloc_E();
-    ASSERT_NE(slot, TLS_OUT_OF_INDEXES);
-    int mine = 0;
-    int theirs = 0;
-    EXPECT_EQ(TlsGetValue_E(slot), nullptr);
-    // Intended: 0 means success.
-    EXPECT_EQ(TlsSetValue_E(slot, &mine), 0);
-    std::thread([&] {
+    const auto use = [slot] {
+        int own = 0;
         EXPECT_EQ(TlsGetValue_E(slot), nullptr);
-        EXPECT_EQ(TlsSetValue_E(slot, &theirs), 0);
-        EXPECT_EQ(TlsGetValue_E(slot), &theirs);
-    }).join();
-    EXPECT_EQ(TlsGetValue_E(slot), &mine);
+        EXPECT_EQ(TlsSetValue_E(slot, &own), 0); // Intended: 0 means success.
+        EXPECT_EQ(TlsGetValue_E(slot), &own);
+        return TlsGetValue_E(slot);
+    };
+    void* const mine = use();
+    std::thread(use).join();
+    EXPECT_EQ(TlsGetValue_E(slot), mine);
     EXPECT_EQ(TlsFree_E(slot), TRUE);
-}
-
-TEST(Tls, ASlotThatDoesNotExist)
-{
-    const DWORD freed = TlsAlloc_E();
-    int value = 0;
-    TlsSetValue_E(freed, &value);
-    EXPECT_EQ(TlsFree_E(freed), TRUE);
-    for (const DWORD slot : {freed, TLS_OUT_OF_INDEXES}) {
-        EXPECT_EQ(TlsFree_E(slot), FALSE);
-        EXPECT_EQ(TlsGetValue_E(slot), nullptr);
-        EXPECT_NE(TlsSetValue_E(slot, nullptr), 0);
+    for (const DWORD none : {slot, TLS_OUT_OF_INDEXES}) {
+        EXPECT_EQ(TlsFree_E(none), FALSE);
+        EXPECT_EQ(TlsGetValue_E(none), nullptr);
+        EXPECT_NE(TlsSetValue_E(none, nullptr), 0);
     }
 }
 

@@ -80,19 +80,17 @@ TEST(LoadString, ReadsTheCallersTable)
 
     const Plugin gizmo("libGizmo.so.2");
     auto* const load = gizmo.find<BOOL(CString_E*, UINT)>("pluginLoad");
-    const Row<UINT, BOOL, const wchar_t*> rows[] = {
-        {101, TRUE, L"Gizmo, ready"},
-        {102, TRUE, L"图层 \"%s\""},
-        {103, TRUE, L"one, two, three"},
-        {105, TRUE, L""},
-        {0, FALSE, L""},
-        {999, FALSE, L""},
-    };
-    for (const auto& [id, found, loaded] : rows) {
+    constexpr Row<UINT, BOOL, const wchar_t*> kRows[] = {{101, TRUE, L"Gizmo, ready"},
+                                                         {102, TRUE, L"图层 \"%s\""},
+                                                         {103, TRUE, L"one, two, three"},
+                                                         {105, TRUE, L""},
+                                                         {0, FALSE, L""},
+                                                         {999, FALSE, L""}};
+    forRows(kRows, [&](UINT id, BOOL found, const wchar_t* loaded) {
         text = L"old";
-        EXPECT_EQ(load(&text, id), found) << id;
-        EXPECT_EQ(text, loaded) << id;
-    }
+        EXPECT_EQ(load(&text, id), found);
+        EXPECT_EQ(text, loaded);
+    });
     EXPECT_EQ(gizmo.find<int(CString_E*, UINT)>("pluginFormat")(&text, 104), 17);
     EXPECT_EQ(text, L"3 of nine4 of ten");
 }
