@@ -61,14 +61,12 @@ TEST(Geometry, RectanglesAreHalfOpen)
     EXPECT_FALSE(rc.PtInRect(CPoint_E(4, 4)) || rc.PtInRect(CPoint_E(3, 5)));
     EXPECT_FALSE(CRect_E(4, 5, -2, -3).PtInRect(CPoint_E(0, 0)));
     EXPECT_TRUE(CRect_E(4, 5, -2, -3).IsRectEmpty());
-    EXPECT_FALSE(CRect_E(1, 1, 1, 1).IsRectNull());
-    EXPECT_FALSE(EqualRect_E(CRect_E(1, 1, 1, 1), CRect_E()));
+    EXPECT_FALSE(CRect_E(1, 1, 1, 1).IsRectNull() || EqualRect_E(CRect_E(1, 1, 1, 1), CRect_E()));
 }
 
 TEST(Geometry, MovingAndGrowing)
 {
     CRect_E rc(CPoint_E(10, 20), CSize_E(30, 40));
-    EXPECT_EQ(rc, CRect_E(10, 20, 40, 60));
     rc.InflateRect(1, 2, 3, 4);
     EXPECT_EQ(rc, CRect_E(9, 18, 43, 64));
     rc.DeflateRect(CRect_E(1, 2, 3, 4));
@@ -87,18 +85,7 @@ TEST(Geometry, MovingAndGrowing)
     EXPECT_EQ(rc.MulDiv(3, 2), CRect_E(-1, -1, 12, 55));
 }
 
-TEST(Geometry, CoordinatesWrapAround)
-{
-    CRect_E rc(INT_MIN, 0, INT_MAX, 1);
-    EXPECT_EQ(rc.Width(), -1);
-    rc.OffsetRect(1, 0);
-    EXPECT_EQ(rc, CRect_E(INT_MIN + 1, 0, INT_MIN, 1));
-    EXPECT_EQ(-CPoint_E(INT_MIN, 1), CPoint_E(INT_MIN, -1));
-    EXPECT_EQ(CRect_E(INT_MAX, INT_MAX, INT_MAX, INT_MAX).CenterPoint(),
-              CPoint_E(INT_MAX, INT_MAX));
-}
-
-TEST(Geometry, PointsAndSizes)
+TEST(Geometry, PointsAndSizesAndCoordinatesThatWrapAround)
 {
     const CPoint_E pt(MAKELPARAM(-5, 7));
     EXPECT_EQ(pt, CPoint_E(-5, 7));
@@ -108,4 +95,11 @@ TEST(Geometry, PointsAndSizes)
     EXPECT_EQ(CSize_E(MAKELONG(-1, 3)), CSize_E(-1, 3));
     const tagRECT rc{0, 0, 2, 2};
     EXPECT_EQ(distance + &rc, CRect_E(-6, 5, -4, 7));
+    EXPECT_EQ(-CPoint_E(INT_MIN, 1), CPoint_E(INT_MIN, -1));
+    const CRect_E far(INT_MAX, INT_MAX, INT_MAX, INT_MAX);
+    EXPECT_EQ(far.CenterPoint(), far.TopLeft());
+    CRect_E wide(INT_MIN, 0, INT_MAX, 1);
+    EXPECT_EQ(wide.Width(), -1);
+    wide.OffsetRect(1, 0);
+    EXPECT_EQ(wide, CRect_E(INT_MIN + 1, 0, INT_MIN, 1));
 }

@@ -6,97 +6,82 @@
 
 namespace {
 
-using KeyMap = std::map<int, int>; // Qt key -> virtual key
+using KeyMap = std::map<int, int>;
 
-/// Enters keys whose virtual keys follow each other.
-template <typename Keys = std::initializer_list<int>>
-void addRun(KeyMap& map, int vk, const Keys& keys)
-{
-    for (const int key : keys)
-        map.emplace(key, vk++);
-}
-
+/// The virtual key of each Qt key.
 KeyMap expectedKeys()
 {
     using namespace Qt;
-    KeyMap map;
-    addRun(map, 0x08, {Key_Backspace, Key_Tab});
-    addRun(map, 0x0C, {Key_Clear, Key_Return});
-    addRun(map, 0x0D, {Key_Enter});
-    addRun(map, 0x10, {Key_Shift, Key_Control, Key_Alt, Key_Pause, Key_CapsLock});
-    addRun(map, 0x1B, {Key_Escape});
-    addRun(map, 0x21,
-           {Key_PageUp, Key_PageDown, Key_End, Key_Home, Key_Left, Key_Up, Key_Right, Key_Down,
-            Key_Select, Key_Print, Key_Execute, Key_Printer, Key_Insert, Key_Delete, Key_Help});
-    addRun(map, 0x6A, {Key_multiply});
-    addRun(map, 0x90, {Key_NumLock, Key_ScrollLock});
-    addRun(map, 0xAD, {Key_VolumeMute, Key_VolumeDown, Key_VolumeUp});
-    addRun(map, 0xB2, {Key_MediaStop, Key_MediaPlay});
+    // Keys whose virtual keys follow each other.
+    const std::pair<int, std::vector<int>> runs[] = {
+        {0x08, {Key_Backspace, Key_Tab}},
+        {0x0C, {Key_Clear, Key_Return}},
+        {0x0D, {Key_Enter}},
+        {0x10, {Key_Shift, Key_Control, Key_Alt, Key_Pause, Key_CapsLock}},
+        {0x1B, {Key_Escape}},
+        {0x21,
+         {Key_PageUp, Key_PageDown, Key_End, Key_Home, Key_Left, Key_Up, Key_Right, Key_Down,
+          Key_Select, Key_Print, Key_Execute, Key_Printer, Key_Insert, Key_Delete, Key_Help}},
+        {0x6A, {Key_multiply}},
+        {0x90, {Key_NumLock, Key_ScrollLock}},
+        {0xAD, {Key_VolumeMute, Key_VolumeDown, Key_VolumeUp}},
+        {0xB2, {Key_MediaStop, Key_MediaPlay}}};
     // The Qt code of a printable key is its character.
     const std::pair<int, std::string_view> characters[] = {
         {0x20, " "},          {0x30, "0123456789"},
         {0x30, ")!@#$%^&*("}, {0x41, "ABCDEFGHIJKLMNOPQRSTUVWXYZ"},
         {0xBA, ";+,-./`"},    {0xBA, ":=<_>?~"},
         {0xDB, "[\\]'"},      {0xDB, "{|}\""}};
-    for (const auto& [vk, keys] : characters)
-        addRun(map, vk, keys);
+    KeyMap map;
+    const auto add = [&map](const auto& rows) {
+        for (auto [vk, keys] : rows)
+            for (const int key : keys)
+                map.emplace(key, vk++);
+    };
+    add(runs);
+    add(characters);
     for (int i = 0; i < 24; ++i)
-        map.emplace(Qt::Key_F1 + i, 0x70 + i);
+        map.emplace(Key_F1 + i, 0x70 + i);
     return map;
 }
 
-TEST(KeyTable, GivesEveryKeyItsVirtualKeyAndOthersNone)
+TEST(KeyTable, GivesEveryKeyItsVirtualKeyAndEveryVirtualKeyTheLowestOfItsKeys)
 {
     const KeyMap expected = expectedKeys();
     ASSERT_EQ(expected.size(), 127U);
-    const auto check = [&expected](int key) {
-        const auto it = expected.find(key);
-        EXPECT_EQ(qt_key_to_ansi_vk(key), it == expected.end() ? -1 : it->second) << key;
+    const auto valueIn = [](const KeyMap& map, int key) {
+        const auto it = map.find(key);
+        return it == map.end() ? -1 : it->second;
     };
-    for (int key = -1; key < 0x400; ++key)
-        check(key);
-    for (int key = 0x01000000; key < 0x01020100; ++key)
-        check(key);
-    for (int key : {INT_MIN, INT_MAX, int(Qt::Key_unknown)})
-        check(key);
-}
-
-TEST(KeyTable, GivesEveryVirtualKeyTheLowestOfItsKeys)
-{
-    std::map<int, int> lowest;
-    for (const auto& [key, vk] : expectedKeys())
+    for (int key = -1; key < 0x01020100; key += key == 0x400 ? 0x00FFFC00 : 1)
+        EXPECT_EQ(qt_key_to_ansi_vk(key), valueIn(expected, key)) << key;
+    KeyMap lowest;
+    for (const auto& [key, vk] : expected)
         lowest.emplace(vk, key);
-    for (int vk = -2; vk < 600; ++vk) {
-        const auto it = lowest.find(vk);
-        EXPECT_EQ(ansi_vk_to_qt_key(vk), it == lowest.end() ? -1 : it->second) << vk;
-    }
-    EXPECT_EQ(ansi_vk_to_qt_key(INT_MIN), -1);
-    EXPECT_EQ(ansi_vk_to_qt_key(INT_MAX), -1);
+    for (int vk = -2; vk < 600; ++vk)
+        EXPECT_EQ(ansi_vk_to_qt_key(vk), valueIn(lowest, vk)) << vk;
+    for (const int none : {INT_MIN, INT_MAX, int(Qt::Key_unknown)})
+        EXPECT_TRUE(qt_key_to_ansi_vk(none) == -1 && ansi_vk_to_qt_key(none) == -1);
     EXPECT_EQ(ansi_vk_to_qt_key(0x30), 0x29); // ")", not "0"
 }
 
 TEST(KeyFlags, KeepWhatMessagesCanSay)
 {
-    using Pairs = std::pair<UINT, UINT>[];
-    for (const auto& [qt, mfc] : Pairs{{0, 0},
-                                       {0x02000000, 4},
-                                       {0x04000000, 8},
-                                       {0x08000000, 0x20},
-                                       {0xFFFFFFFF, 0x2C},
-                                       {0xF1FFFFFF, 0}})
-        EXPECT_EQ(qt_kb_flag_2_flag(qt), mfc) << qt;
-    for (const auto& [qt, mfc] :
-         Pairs{{1, 1}, {2, 2}, {4, 0x10}, {0xFFFFFFFF, 0x13}, {0xFFFFFFF8, 0}})
-        EXPECT_EQ(qt_mouse_flag_2_flag(qt), mfc) << qt;
+    const Row<UINT, UINT> modifiers[] = {
+        {0, 0},         {0x02000000, 4}, {0x04000000, 8}, {0x08000000, 0x20}, {0xFFFFFFFF, 0x2C},
+        {0xF1FFFFFF, 0}};
+    forRows(modifiers, [](UINT qt, UINT mfc) { EXPECT_EQ(qt_kb_flag_2_flag(qt), mfc); });
+    const Row<UINT, UINT> buttons[] = {
+        {1, 1}, {2, 2}, {4, 0x10}, {0xFFFFFFFF, 0x13}, {0xFFFFFFF8, 0}};
+    forRows(buttons, [](UINT qt, UINT mfc) {
+        EXPECT_EQ(qt_mouse_flag_2_flag(qt), mfc);
+        EXPECT_EQ(mfc_flag_2_qt_mouse_flag(mfc), Qt::MouseButtons(qt & 7));
+    });
     EXPECT_EQ(mfc_flag_2_qt_kb_flag(0xFFFFFFFF), Qt::NoModifier);
-    EXPECT_EQ(mfc_flag_2_qt_mouse_flag(0xFFFFFFFF),
-              Qt::LeftButton | Qt::RightButton | Qt::MiddleButton);
-    for (UINT buttons = 0; buttons < 8; ++buttons)
-        EXPECT_EQ(mfc_flag_2_qt_mouse_flag(qt_mouse_flag_2_flag(buttons)),
-                  Qt::MouseButtons(buttons));
+    EXPECT_EQ(mfc_flag_2_qt_mouse_flag(0xFFFFFFFF), Qt::MouseButtons(7));
 }
 
-TEST(MapVirtualKey, IsTheCharacterItselfForPrintableCodes)
+TEST(MapVirtualKey, IsTheCharacterItselfForPrintableCodesAndVkKeyScanTheUpperCaseForm)
 {
     const std::set<UINT> controls = {0x08, 0x09, 0x0A, 0x0D};
     for (UINT code = 0; code < 1000; ++code) {
@@ -104,15 +89,10 @@ TEST(MapVirtualKey, IsTheCharacterItselfForPrintableCodes)
         EXPECT_EQ(MapVirtualKey_E(code, code % 5), printable ? code : 0U) << code;
     }
     EXPECT_EQ(MapVirtualKey_E(0xFFFFFFFFU, 0), 0U);
-}
-
-TEST(VkKeyScan, IsTheUpperCaseForm)
-{
     // Only the low 16 bits of a character count.
-    const std::pair<wchar_t, short> rows[] = {{L'a', 0x41}, {L'A', 0x41},      {L'1', 0x31},
-                                              {L'!', 0x21}, {L'\u00E9', 0xC9}, {0x10061, 0x41}};
-    for (const auto& [c, vk] : rows)
-        EXPECT_EQ(VkKeyScan_E(c), vk) << c;
+    const Row<wchar_t, short> rows[] = {{L'a', 0x41}, {L'A', 0x41},      {L'1', 0x31},
+                                        {L'!', 0x21}, {L'\u00E9', 0xC9}, {0x10061, 0x41}};
+    forRows(rows, [](wchar_t c, short vk) { EXPECT_EQ(VkKeyScan_E(c), vk); });
 }
 
 BOOL repeats(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,

@@ -1,3 +1,4 @@
+// The functions of windows, through the members of CWnd_E where there is one for them.
 #include "support/test.h"
 #include "support/xinput.h"
 
@@ -9,19 +10,24 @@ void setParentProperty(QWidget* pWidget, const QObject* pParent)
                          QVariant(static_cast<qlonglong>(reinterpret_cast<qintptr>(pParent))));
 }
 
+constexpr UINT kKeepRect = SWP_NOSIZE | SWP_NOMOVE;
+
 /// A shown window with a child at (10, 20) of 30 by 40 pixels.
-class WindowTest : public testing::Test
+struct WindowTest : testing::Test
 {
-protected:
     WindowTest()
     {
-        m_top.resize(300, 200);
-        m_child->setGeometry(10, 20, 30, 40);
-        vxtest::showAndActivate(&m_top);
+        m_widget.resize(300, 200);
+        m_childWidget->setGeometry(10, 20, 30, 40);
+        vxtest::showAndActivate(&m_widget);
+        m_top.SubclassWindow(&m_widget);
+        m_child.SubclassWindow(m_childWidget);
     }
+    ~WindowTest() override { ClearTempObjectPool(); }
 
-    QWidget m_top;
-    QWidget* const m_child = new QWidget(&m_top);
+    QWidget m_widget;
+    QWidget* const m_childWidget = new QWidget(&m_widget);
+    CWnd_E m_top, m_child;
 };
 
 } // namespace
@@ -29,232 +35,200 @@ protected:
 TEST_F(WindowTest, Rectangles)
 {
     CRect_E rc;
-    EXPECT_TRUE(GetClientRect_E(m_child, rc));
+    EXPECT_TRUE(m_child.GetClientRect(rc));
     EXPECT_EQ(rc, CRect_E(0, 0, 30, 40));
-    EXPECT_TRUE(GetWindowRect_E(m_child, rc));
-    const QPoint origin = m_top.mapToGlobal(QPoint());
-    EXPECT_EQ(rc, CRect_E(CPoint_E(origin.x() + 10, origin.y() + 20), CSize_E(30, 40)));
-    EXPECT_TRUE(ScreenToClient_E(m_child, static_cast<LPRECT>(rc)));
+    EXPECT_TRUE(m_child.GetWindowRect(rc));
+    const CPoint_E origin(m_widget.mapToGlobal(QPoint()).x(), m_widget.mapToGlobal(QPoint()).y());
+    EXPECT_EQ(rc, CRect_E(origin + CSize_E(10, 20), CSize_E(30, 40)));
+    EXPECT_EQ(CWnd_E::WindowFromPoint(rc.TopLeft()), &m_child);
+    m_child.EnableWindow(FALSE);
+    EXPECT_EQ(CWnd_E::WindowFromPoint(rc.TopLeft()), &m_top);
+    EXPECT_TRUE(m_child.ScreenToClient(static_cast<LPRECT>(rc)));
     EXPECT_EQ(rc, CRect_E(0, 0, 30, 40));
     CPoint_E pt(1, 2);
-    EXPECT_TRUE(ClientToScreen_E(m_child, &pt) && ScreenToClient_E(&m_top, &pt));
+    EXPECT_TRUE(m_child.ClientToScreen(&pt) && m_top.ScreenToClient(&pt));
     EXPECT_EQ(pt, CPoint_E(11, 22));
-    EXPECT_EQ(MapWindowPoints_E(&m_top, m_child, &pt, 1), static_cast<int>(MAKELONG(-10, -20)));
+    EXPECT_EQ(m_top.MapWindowPoints(&m_child, &pt, 1), static_cast<int>(MAKELONG(-10, -20)));
     EXPECT_EQ(pt, CPoint_E(1, 2));
-    MapWindowPoints_E(m_child, nullptr, static_cast<LPRECT>(rc));
-    EXPECT_EQ(rc.TopLeft(), CPoint_E(origin.x() + 10, origin.y() + 20));
-    EXPECT_TRUE(GetWindowRect_E(&m_top, rc));
-    EXPECT_EQ(rc.Size(), CSize_E(m_top.frameGeometry().width(), m_top.frameGeometry().height()));
+    m_child.MapWindowPoints(nullptr, static_cast<LPRECT>(rc));
+    EXPECT_EQ(rc.TopLeft(), origin + CSize_E(10, 20));
+    CRect_E corner(0, 0, 5, 6);
+    EXPECT_TRUE(m_child.ClientToScreen(static_cast<LPRECT>(corner)));
+    EXPECT_EQ(corner, CRect_E(rc.TopLeft(), CSize_E(5, 6)));
+    EXPECT_TRUE(m_top.GetWindowRect(rc) && rc.Width() == m_widget.frameGeometry().width());
+    EXPECT_TRUE(CWnd_E::GetDesktopWindow()->GetWindowRect(rc) && !rc.IsRectEmpty());
+    EXPECT_EQ(m_child.GetDpiForWindow(), static_cast<UINT>(m_widget.logicalDpiX()));
 
-    EXPECT_EQ(WindowFromPoint_E({origin.x() + 11, origin.y() + 21}), m_child);
-    m_child->setEnabled(false);
-    EXPECT_EQ(WindowFromPoint_E({origin.x() + 11, origin.y() + 21}), &m_top);
-    EXPECT_EQ(GetDpiForWindow_E(m_child), static_cast<UINT>(m_top.logicalDpiX()));
-    EXPECT_TRUE(GetWindowRect_E(GetDesktopWindow_E(), rc));
-    EXPECT_FALSE(rc.IsRectEmpty());
+    const QFontMetrics metrics(m_widget.font());
+    CRect_E units(4, 8, 400, 80); // of dialogs
+    EXPECT_TRUE(m_top.MapDialogRect(units));
+    EXPECT_TRUE(units.top == metrics.height() && units.bottom == 10 * metrics.height());
+    EXPECT_EQ(units.right, 100 * units.left);
+    EXPECT_GE(units.left, metrics.horizontalAdvance(QLatin1Char('l')));
+    EXPECT_LE(units.left, metrics.horizontalAdvance(QLatin1Char('W')));
 }
 
-TEST_F(WindowTest, MoveWindow)
+TEST_F(WindowTest, MovingAndCentring)
 {
-    EXPECT_TRUE(MoveWindow_E(m_child, 1, 2, 3, 4, FALSE));
-    EXPECT_EQ(m_child->geometry(), QRect(1, 2, 3, 4));
-    EXPECT_TRUE(MoveWindow_E(m_child, CRect_E(5, 6, 15, 26)));
-    EXPECT_EQ(m_child->geometry(), QRect(5, 6, 10, 20));
-    EXPECT_FALSE(MoveWindow_E(m_child, nullptr) || MoveWindow_E(nullptr, CRect_E()));
-}
-
-TEST_F(WindowTest, DialogUnits)
-{
-    const QFontMetrics metrics(m_top.font());
-    CRect_E rc(4, 8, 400, 80);
-    EXPECT_TRUE(MapDialogRect_E(&m_top, rc));
-    EXPECT_EQ(rc.top, metrics.height());
-    EXPECT_EQ(rc.bottom, 10 * metrics.height());
-    EXPECT_EQ(rc.right, 100 * rc.left);
-    EXPECT_GE(rc.left, metrics.horizontalAdvance(QLatin1Char('l')));
-    EXPECT_LE(rc.left, metrics.horizontalAdvance(QLatin1Char('W')));
+    EXPECT_TRUE(m_child.MoveWindow(1, 2, 3, 4, FALSE));
+    EXPECT_EQ(m_childWidget->geometry(), QRect(1, 2, 3, 4));
+    EXPECT_TRUE(m_child.MoveWindow(CRect_E(5, 6, 15, 26)));
+    EXPECT_EQ(m_childWidget->geometry(), QRect(5, 6, 10, 20));
+    EXPECT_FALSE(m_child.MoveWindow(nullptr) || MoveWindow_E(nullptr, CRect_E()));
+    CWnd_E other;
+    other.SubclassWindow(new QWidget(&m_widget));
+    other.CenterWindow(&m_child);
+    EXPECT_EQ(other.GetSafeHwnd()->geometry().center(), m_childWidget->geometry().center());
+    m_child.CenterWindow();
+    EXPECT_EQ(m_childWidget->geometry().center(), m_widget.rect().center());
 }
 
 TEST_F(WindowTest, SetWindowPosFlags)
 {
-    constexpr UINT keep = SWP_NOSIZE | SWP_NOMOVE;
     const Row<UINT, QRect, bool> rows[] = {
         {0, {1, 2, 5, 6}, true},
         {SWP_NOSIZE, {1, 2, 30, 40}, true},
         {SWP_NOMOVE, {10, 20, 5, 6}, true},
-        {keep | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
-        {keep | SWP_SHOWWINDOW | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
-    };
+        {kKeepRect | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
+        {kKeepRect | SWP_SHOWWINDOW | SWP_HIDEWINDOW, {10, 20, 30, 40}, false}};
     forRows(rows, [&](UINT flags, const QRect& geometry, bool visible) {
-        m_child->setGeometry(10, 20, 30, 40);
-        m_child->show();
-        EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 1, 2, 5, 6, flags));
-        EXPECT_EQ(m_child->geometry(), geometry);
-        EXPECT_EQ(m_child->isVisible(), visible);
-        EXPECT_EQ(IsWindowVisible_E(m_child), visible);
+        m_childWidget->setGeometry(10, 20, 30, 40);
+        m_childWidget->show();
+        EXPECT_TRUE(m_child.SetWindowPos(nullptr, 1, 2, 5, 6, flags));
+        EXPECT_EQ(m_childWidget->geometry(), geometry);
+        EXPECT_TRUE(m_childWidget->isVisible() == visible && m_child.IsWindowVisible() == visible);
     });
-    EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW));
-    EXPECT_TRUE(m_child->isVisible());
-    EXPECT_FALSE(SetWindowPos_E(nullptr, m_child, 0, 0, 0, 0, 0));
+    m_child.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW);
+    EXPECT_TRUE(m_childWidget->isVisible());
+    EXPECT_FALSE(SetWindowPos_E(nullptr, m_childWidget, 0, 0, 0, 0, 0));
 }
 
 TEST_F(WindowTest, StackingOrder)
 {
-    constexpr UINT keep = SWP_NOSIZE | SWP_NOMOVE;
-    auto* const pSecond = new QWidget(&m_top);
-    auto* const pThird = new QWidget(&m_top);
+    auto* const pSecond = new QWidget(&m_widget);
+    auto* const pThird = new QWidget(&m_widget);
     const Row<HWND, UINT, HWND> rows[] = {
-        {m_child, keep | SWP_NOZORDER, pThird},
-        {m_child, keep | SWP_NOOWNERZORDER, pThird},
-        {HWND_TOP, keep, pThird},
-        {m_child, keep, pSecond}, // the third goes under the first
-        {HWND_TOPMOST, keep, pThird},
-        {HWND_NOTOPMOST, keep, pThird},
-        {HWND_BOTTOM, keep, pSecond},
-    };
-    new QDialog(&m_top); // a window of its own is no child to be on top
+        {m_childWidget, kKeepRect | SWP_NOZORDER, pThird},
+        {m_childWidget, kKeepRect | SWP_NOOWNERZORDER, pThird},
+        {HWND_TOP, kKeepRect, pThird},
+        {m_childWidget, kKeepRect, pSecond}, // the third goes under the first
+        {HWND_TOPMOST, kKeepRect, pThird},
+        {HWND_NOTOPMOST, kKeepRect, pThird},
+        {HWND_BOTTOM, kKeepRect, pSecond}};
+    new QDialog(&m_widget); // a window of its own is no child to be on top
     forRows(rows, [&](HWND after, UINT flags, HWND top) {
         EXPECT_TRUE(SetWindowPos_E(pThird, after, 0, 0, 0, 0, flags));
-        EXPECT_EQ(GetTopWindow_E(&m_top), top);
+        EXPECT_EQ(m_top.GetTopWindow()->GetSafeHwnd(), top);
     });
 }
 
-TEST_F(WindowTest, ShowWindowKeepsThePlaceOfTopLevelWindows)
+TEST_F(WindowTest, ShowingKeepsThePlaceOfTopLevelWindowsAndEnablingTellsOfTheWindowItself)
 {
-    m_top.move(60, 70);
-    ASSERT_TRUE(vxtest::waitUntil([this] { return m_top.pos() == QPoint(60, 70); }));
-    EXPECT_TRUE(ShowWindow_E(&m_top, SW_HIDE));
-    EXPECT_FALSE(m_top.isVisible());
-    m_top.move(1, 1);
-    EXPECT_TRUE(ShowWindow_E(&m_top, SW_SHOWMINIMIZED)); // not one of those that do something
-    EXPECT_FALSE(m_top.isVisible());
-    EXPECT_TRUE(ShowWindow_E(&m_top, SW_SHOW));
-    EXPECT_TRUE(m_top.isVisible());
-    EXPECT_TRUE(vxtest::waitUntil([this] { return m_top.pos() == QPoint(60, 70); }));
-    EXPECT_FALSE(m_top.property("lastPos").isValid());
+    const auto isBack = [this] { return m_widget.pos() == QPoint(60, 70); };
+    m_widget.move(60, 70);
+    ASSERT_TRUE(vxtest::waitUntil(isBack));
+    EXPECT_TRUE(m_top.ShowWindow(SW_HIDE) && !m_widget.isVisible());
+    m_widget.move(1, 1);
+    EXPECT_TRUE(m_top.ShowWindow(SW_SHOWMINIMIZED)); // not one of those that do something
+    EXPECT_FALSE(m_widget.isVisible());
+    EXPECT_TRUE(m_top.ShowWindow(SW_SHOW) && m_widget.isVisible());
+    EXPECT_TRUE(vxtest::waitUntil(isBack));
+    EXPECT_TRUE(m_child.ShowWindow(SW_HIDE));
+    for (const QWidget* pWidget : {&m_widget, m_childWidget})
+        EXPECT_FALSE(pWidget->property("lastPos").isValid());
+    EXPECT_TRUE(m_child.ShowWindow(SW_SHOWNORMAL) && m_childWidget->isVisible());
 
-    EXPECT_TRUE(ShowWindow_E(m_child, SW_HIDE));
-    EXPECT_FALSE(m_child->property("lastPos").isValid());
-    EXPECT_TRUE(ShowWindow_E(m_child, SW_SHOWNORMAL));
-    EXPECT_TRUE(m_child->isVisible());
-    EXPECT_FALSE(ShowWindow_E(nullptr, SW_SHOW));
-}
-
-TEST_F(WindowTest, Enabling)
-{
-    EXPECT_FALSE(EnableWindow_E(m_child, FALSE));
-    EXPECT_FALSE(IsWindowEnabled_E(m_child));
-    EXPECT_TRUE(EnableWindow_E(m_child, TRUE));
-    EXPECT_FALSE(EnableWindow_E(&m_top, FALSE));
-    EXPECT_FALSE(m_child->isEnabled());
-    EXPECT_TRUE(IsWindowEnabled_E(m_child)); // itself it is
-    EXPECT_TRUE(CloseWindow_E(&m_top));
-    EXPECT_TRUE(m_top.isMinimized());
+    EXPECT_FALSE(m_child.EnableWindow(FALSE) || m_child.IsWindowEnabled());
+    EXPECT_TRUE(m_child.EnableWindow(TRUE));
+    EXPECT_FALSE(m_top.EnableWindow(FALSE) || m_childWidget->isEnabled());
+    EXPECT_TRUE(m_child.IsWindowEnabled()); // itself it is
+    EXPECT_TRUE(m_top.UpdateWindow() && m_top.CloseWindow() && m_widget.isMinimized());
 }
 
 TEST_F(WindowTest, FocusAndCapture)
 {
-    auto* const pOther = new QWidget(&m_top);
-    pOther->show();
-    m_child->setFocus();
-    ASSERT_EQ(GetFocus_E(), m_child);
-    EXPECT_EQ(SetFocus_E(pOther), m_child);
-    EXPECT_EQ(GetFocus_E(), pOther);
-    EXPECT_TRUE(SetWindowPos_E(m_child, nullptr, 0, 0, 9, 9, SWP_NOACTIVATE));
-    EXPECT_EQ(GetFocus_E(), pOther);
-    EXPECT_TRUE(SetWindowPos_E(pOther, nullptr, 0, 0, 9, 9, SWP_NOACTIVATE));
-    EXPECT_EQ(GetFocus_E(), nullptr);
-    SetFocus_E(pOther);
-    EXPECT_EQ(SetFocus_E(nullptr), nullptr);
-    EXPECT_EQ(GetFocus_E(), nullptr);
-    EXPECT_EQ(GetActiveWindow_E(), &m_top);
-    EXPECT_EQ(SetActiveWindow_E(m_child), &m_top);
+    CWnd_E other;
+    other.SubclassWindow(new QWidget(&m_widget));
+    other.ShowWindow(SW_SHOW);
+    m_childWidget->setFocus();
+    EXPECT_EQ(other.SetFocus(), &m_child);
+    EXPECT_EQ(CWnd_E::GetFocus(), &other);
+    EXPECT_TRUE(m_child.SetWindowPos(nullptr, 0, 0, 9, 9, SWP_NOACTIVATE));
+    EXPECT_EQ(CWnd_E::GetFocus(), &other);
+    EXPECT_TRUE(other.SetWindowPos(nullptr, 0, 0, 9, 9, SWP_NOACTIVATE));
+    EXPECT_EQ(CWnd_E::GetFocus(), nullptr);
+    other.SetFocus();
+    EXPECT_FALSE(SetFocus_E(nullptr) || GetFocus_E());
+    EXPECT_EQ(CWnd_E::GetActiveWindow(), &m_top);
+    EXPECT_EQ(m_child.SetActiveWindow(), &m_top) << "the one before";
 
-    EXPECT_EQ(SetCapture_E(m_child), nullptr);
-    EXPECT_EQ(SetCapture_E(pOther), m_child);
-    EXPECT_EQ(GetCapture_E(), pOther);
+    EXPECT_EQ(m_child.SetCapture(), nullptr);
+    EXPECT_EQ(other.SetCapture(), &m_child);
+    EXPECT_EQ(CWnd_E::GetCapture(), &other);
     EXPECT_TRUE(ReleaseCapture_E() && ReleaseCapture_E());
-    EXPECT_EQ(GetCapture_E(), nullptr);
+    EXPECT_EQ(CWnd_E::GetCapture(), nullptr);
 }
 
-TEST_F(WindowTest, CursorPosition)
-{
-    VXTEST_NEEDS_X11();
-    EXPECT_TRUE(SetCursorPos_E(33, 44));
-    EXPECT_TRUE(vxtest::waitUntil([] {
-        CPoint_E pt;
-        return GetCursorPos_E(&pt) && pt == CPoint_E(33, 44);
-    }));
-    EXPECT_FALSE(GetCursorPos_E(nullptr));
-}
-
-TEST_F(WindowTest, ParentProperty)
+TEST_F(WindowTest, ThePropertyNamesTheParentBeforeQt)
 {
     QWidget other;
     auto pGone = std::make_unique<QWidget>();
     QWidget* const pDangling = pGone.get();
     QObject noWidget;
-    EXPECT_EQ(GetParent_E(m_child), &m_top);
+    EXPECT_EQ(m_child.GetParent(), &m_top);
     const Row<const QObject*, QWidget*> rows[] = {
-        {&other, &other}, {nullptr, &m_top}, {&noWidget, &m_top}, {pDangling, pDangling}};
+        {&other, &other}, {nullptr, &m_widget}, {&noWidget, &m_widget}, {pDangling, pDangling}};
     for (const auto& [pSet, pParent] : rows) {
-        setParentProperty(m_child, pSet);
-        EXPECT_EQ(GetParent_E(m_child), pParent);
+        setParentProperty(m_childWidget, pSet);
+        EXPECT_EQ(GetParent_E(m_childWidget), pParent);
     }
     EXPECT_TRUE(IsWindow_E(pDangling));
     pGone.reset();
-    EXPECT_FALSE(IsWindow_E(pDangling));
-    EXPECT_EQ(GetParent_E(m_child), &m_top);
-    EXPECT_EQ(GetParent_E(&other), nullptr);
+    EXPECT_FALSE(IsWindow_E(pDangling) || GetParent_E(&other));
+    EXPECT_EQ(m_child.GetParent(), &m_top);
 }
 
 TEST_F(WindowTest, SetParent)
 {
     QWidget other;
-    EXPECT_EQ(SetParent_E(m_child, &other), &m_top);
-    EXPECT_EQ(m_child->parentWidget(), &other);
-    EXPECT_EQ(m_child->pos(), QPoint(10, 20));
-    EXPECT_FALSE(m_child->isHidden());
-    EXPECT_FALSE(m_child->property("parent").isValid());
-    setParentProperty(m_child, &other);
-    EXPECT_EQ(SetParent_E(m_child, &m_top), &other);
-    EXPECT_EQ(GetParent_E(m_child), &m_top);
-    EXPECT_TRUE(IsChild_E(&m_top, m_child));
+    auto* const pPlain = new QWidget(&m_widget); // without the property, which binding sets
+    pPlain->move(10, 20);
+    pPlain->show();
+    EXPECT_EQ(SetParent_E(pPlain, &other), &m_widget);
+    EXPECT_TRUE(pPlain->parentWidget() == &other && pPlain->pos() == QPoint(10, 20));
+    EXPECT_FALSE(pPlain->isHidden());
+    EXPECT_FALSE(pPlain->property("parent").isValid());
+    setParentProperty(m_childWidget, &other);
+    EXPECT_EQ(m_child.SetParent(&m_top)->GetSafeHwnd(), &other);
+    EXPECT_EQ(m_child.GetParent(), &m_top);
 
-    auto* const pInner = new QWidget(m_child);
-    EXPECT_EQ(SetParent_E(m_child, pInner), nullptr);
-    EXPECT_EQ(m_child->parentWidget(), &m_top);
-    EXPECT_TRUE(IsChild_E(&m_top, pInner));
-    EXPECT_FALSE(IsChild_E(m_child, m_child) || IsChild_E(pInner, m_child));
-    EXPECT_EQ(SetParent_E(m_child, nullptr), &m_top);
-    EXPECT_TRUE(m_child->isWindow());
-    EXPECT_EQ(GetParent_E(m_child), nullptr);
-    delete m_child;
+    auto* const pInner = new QWidget(m_childWidget);
+    EXPECT_FALSE(SetParent_E(m_childWidget, pInner));
+    EXPECT_TRUE(m_top.IsChild(&m_child) && IsChild_E(&m_widget, pInner));
+    EXPECT_FALSE(m_child.IsChild(&m_child) || IsChild_E(pInner, m_childWidget));
+    EXPECT_EQ(m_child.SetParent(nullptr), &m_top);
+    EXPECT_TRUE(m_childWidget->isWindow() && !m_child.GetParent());
+    delete m_childWidget;
 }
 
 TEST(HostWindows, FoundByNameAmongTopLevelWidgets)
 {
-    const QString strName = "CTolmMainFrame"_q;
-    EXPECT_EQ(TolmGetMainFrame(), nullptr);
-    EXPECT_EQ(TolmGetViewWindow(), nullptr);
     QWidget holder;
-    (new QWidget(&holder))->setObjectName(strName);
-    EXPECT_EQ(TolmGetMainFrame(), nullptr);
+    (new QWidget(&holder))->setObjectName("CTolmMainFrame"_q);
+    EXPECT_FALSE(TolmGetMainFrame() || TolmGetViewWindow());
     {
         QMainWindow frame;
-        frame.setObjectName(strName);
-        EXPECT_EQ(TolmGetMainFrame(), &frame);
-        EXPECT_EQ(TolmGetViewWindow(), nullptr);
+        for (const bool isFrame : {true, false, true}) {
+            frame.setObjectName(isFrame ? "CTolmMainFrame"_q : "ctolmmainframe"_q);
+            EXPECT_EQ(TolmGetMainFrame(), isFrame ? &frame : nullptr);
+            EXPECT_EQ(TolmGetViewWindow(), nullptr);
+        }
         auto* const pArea = new QMdiArea(&frame);
         QMdiSubWindow* const pSub = pArea->addSubWindow(new QWidget);
         frame.show();
         pSub->show();
         pArea->setActiveSubWindow(pSub);
         EXPECT_EQ(TolmGetViewWindow(), pSub);
-        frame.setObjectName(strName.toLower());
-        EXPECT_EQ(TolmGetMainFrame(), nullptr);
-        frame.setObjectName(strName);
-        EXPECT_EQ(TolmGetMainFrame(), &frame);
     }
     EXPECT_EQ(TolmGetMainFrame(), nullptr);
 }
@@ -268,7 +242,8 @@ TEST(WindowFunctions, NullWindows)
                  MapDialogRect_E(nullptr, &rc) || GetDpiForWindow_E(nullptr));
     EXPECT_FALSE(IsWindow_E(nullptr) || IsWindowVisible_E(nullptr) || IsWindowEnabled_E(nullptr) ||
                  EnableWindow_E(nullptr, TRUE) || CloseWindow_E(nullptr) ||
-                 UpdateWindow_E(nullptr));
+                 UpdateWindow_E(nullptr) || ShowWindow_E(nullptr, SW_SHOW) ||
+                 GetCursorPos_E(nullptr));
     EXPECT_FALSE(SetActiveWindow_E(nullptr) || SetCapture_E(nullptr) || GetParent_E(nullptr) ||
                  SetParent_E(nullptr, nullptr) || GetTopWindow_E(nullptr) ||
                  IsChild_E(nullptr, nullptr));

@@ -1,72 +1,50 @@
 #include "support/test.h"
 
-namespace {
-
-void setStyle(QWidget& widget, const char* style)
-{
-    widget.setProperty("mfcStyle", QString::fromLatin1(style));
-}
-
-} // namespace
-
 TEST(WindowStyle, FlagsAndStates)
 {
     constexpr Qt::WindowFlags none;
-    const Row<const char*, Qt::WindowFlags, Qt::WindowStates> rows[] = {
-        {"WS_MAXIMIZE", none, Qt::WindowMaximized},
-        {"WS_ICONIC", none, Qt::WindowMinimized},
-        {"WS_MINIMIZEBOX", Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
-        {"WS_MAXIMIZEBOX", Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
-        {"WS_MAXIMIZE|WS_ICONIC", none, Qt::WindowMinimized},
-        {"WS_THICKFRAME", Qt::Window, {}},
-        {"WS_SIZEBOX", Qt::Window, {}},
-        {"WS_DLGFRAME", Qt::Window, {}},
-        {"WS_CHILDWINDOW", Qt::SubWindow, {}},
-        {"WS_CHILD|WS_POPUP", none, {}},
-        {"WS_POPUP", Qt::FramelessWindowHint, {}},
-        {"WS_POPUP|WS_CAPTION", none, {}},
-        {"WS_POPUPWINDOW", Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint, {}},
-        {"ws_popup", none, {}},
-        {"", none, {}},
-    };
-    forRows(rows, [&](const char* style, Qt::WindowFlags flags, Qt::WindowStates states) {
+    const Row<QString, Qt::WindowFlags, Qt::WindowStates> rows[] = {
+        {"WS_MAXIMIZE"_q, none, Qt::WindowMaximized},
+        {"WS_MINIMIZEBOX"_q, Qt::WindowMinimizeButtonHint, Qt::WindowMinimized},
+        {"WS_MAXIMIZEBOX"_q, Qt::WindowMaximizeButtonHint, Qt::WindowMaximized},
+        {"WS_MAXIMIZE|WS_ICONIC"_q, none, Qt::WindowMinimized},
+        {"WS_THICKFRAME"_q, Qt::Window, {}},
+        {"WS_SIZEBOX"_q, Qt::Window, {}},
+        {"WS_DLGFRAME"_q, Qt::Window, {}},
+        {"WS_CHILDWINDOW"_q, Qt::SubWindow, {}},
+        {"WS_CHILD|WS_POPUP"_q, none, {}},
+        {"WS_POPUP"_q, Qt::FramelessWindowHint, {}},
+        {"WS_POPUP|WS_CAPTION"_q, none, {}},
+        {"WS_POPUPWINDOW"_q, Qt::FramelessWindowHint | Qt::Dialog | Qt::WindowSystemMenuHint, {}},
+        {"ws_popup"_q, none, {}}};
+    forRows(rows, [&](const QString& style, Qt::WindowFlags flags, Qt::WindowStates states) {
         // A child starts without flags of its own.
         QWidget parent;
         auto* const pChild = new QWidget(&parent);
         const Qt::WindowFlags before = pChild->windowFlags();
-        setStyle(*pChild, style);
+        pChild->setProperty("mfcStyle", style);
         setupStyle(pChild);
         EXPECT_EQ(int(pChild->windowFlags()), int(before | flags));
         EXPECT_EQ(int(pChild->windowState()), int(states));
     });
 }
 
-TEST(WindowStyle, StateOfTheWidget)
-{
-    QWidget parent;
-    auto* const pChild = new QWidget(&parent);
-    pChild->hide();
-    setStyle(*pChild, "WS_DISABLED|WS_VISIBLE|WS_BORDER|DS_MODALFRAME");
-    setupStyle(pChild);
-    EXPECT_FALSE(pChild->isEnabled());
-    EXPECT_FALSE(pChild->isHidden());
-    EXPECT_EQ(pChild->styleSheet(), "border: 1px solid black;"_q);
-    EXPECT_EQ(pChild->windowModality(), Qt::ApplicationModal);
-}
-
-TEST(WindowStyle, DirectChildrenOnly)
+TEST(WindowStyle, AppliesToAWidgetAndItsDirectChildren)
 {
     QWidget top;
     auto* const pFirst = new QWidget(&top);
     auto* const pSecond = new QWidget(&top);
     auto* const pGrandChild = new QWidget(pFirst);
     new QObject(&top);
-    setStyle(*pFirst, "WS_DISABLED|WS_SIZEBOX"); // moves it behind the second in the list
-    setStyle(*pSecond, "WS_DISABLED");
-    setStyle(*pGrandChild, "WS_BORDER");
+    pFirst->setProperty("mfcStyle", "WS_DISABLED|WS_SIZEBOX"_q); // moves it behind the second
+    pSecond->setProperty("mfcStyle", "WS_DISABLED|WS_VISIBLE|WS_BORDER|DS_MODALFRAME"_q);
+    pGrandChild->setProperty("mfcStyle", "WS_BORDER"_q);
+    pSecond->hide();
     setupStyle(&top); // without a style of its own
-    EXPECT_FALSE(pFirst->isEnabled() || pSecond->isEnabled());
-    EXPECT_TRUE(top.isEnabled());
+    EXPECT_TRUE(top.isEnabled() && !pFirst->isEnabled() && !pSecond->isEnabled());
+    EXPECT_FALSE(pSecond->isHidden());
+    EXPECT_EQ(pSecond->styleSheet(), "border: 1px solid black;"_q);
+    EXPECT_EQ(pSecond->windowModality(), Qt::ApplicationModal);
     EXPECT_EQ(pGrandChild->styleSheet(), QString());
     setupStyle(nullptr);
     setupDialogStyleData(nullptr, "DS_CENTER"_q);
