@@ -7,6 +7,8 @@
 
 #include <VxMFCEmu/core/modulestate.h>
 
+#include <utility>
+
 using namespace vx::detail;
 
 namespace {
@@ -125,8 +127,9 @@ BOOL CDC_E::Attach(HDC hDC)
 HDC CDC_E::Detach()
 {
     const HDC hDC = detachHandle(this, &CDC_E::m_hDC, &afxMapHDC_E);
+    m_hDC = hDC; // an override may ask what is released
     ReleaseAttribDC();
-    return hDC;
+    return std::exchange(m_hDC, nullptr);
 }
 
 void CDC_E::DeleteTempMap() { deleteTemp(afxMapHDC_E(FALSE)); }

@@ -60,7 +60,8 @@ BOOL CImageList_E::DeleteImageList()
 
 BOOL CImageList_E::Create(int cx, int cy, UINT, int nInitial, int)
 {
-    if (nInitial < 1)
+    constexpr int kMaxInitial = 1 << 16;
+    if (nInitial < 1 || nInitial > kMaxInitial)
         return FALSE;
     for (int i = 0; i < nInitial; ++i) {
         auto pBitmap = std::make_shared<CBitmap_E>();

@@ -195,7 +195,7 @@ TEST(DcHandles, AttachAndDetach)
     struct Recording : CDC_E
     {
         void SetAttribDC(HDC h) override { log.push_back(h); }
-        void ReleaseAttribDC() override { log.push_back(nullptr); }
+        void ReleaseAttribDC() override { log.push_back(m_hDC); }
         std::vector<HDC> log;
     } derived;
     int target = 0;
@@ -210,7 +210,7 @@ TEST(DcHandles, AttachAndDetach)
     derived.Attach(&target);
     derived.Detach();
     EXPECT_EQ(derived.m_hAttribDC, nullptr);
-    EXPECT_THAT(derived.log, testing::ElementsAre(&target, nullptr));
+    EXPECT_THAT(derived.log, testing::ElementsAre(&target, &target));
     EXPECT_EQ(handleOfNone(), nullptr);
 }
 

@@ -22,7 +22,8 @@ struct ImageLists : testing::Test
 
 TEST_F(ImageLists, CreateAppendsAndRemoveCounts)
 {
-    expectZeros({m_list.Create(16, 16, ILC_COLOR32, 0, 4), m_list.DeleteImageList()});
+    expectZeros({m_list.Create(16, 16, ILC_COLOR32, 0, 4), m_list.Create(0, 0, 0, INT_MAX, 0),
+                 m_list.DeleteImageList()});
     EXPECT_TRUE(m_list.Create(16, 8, ILC_COLOR32, 2, 4) && m_list.Create(16, 8, ILC_COLOR32, 1, 4));
     EXPECT_EQ(m_list.Add(&m_blue, &m_red), 3);
     EXPECT_EQ(CImageList_E::FromHandle(m_list), &m_list);

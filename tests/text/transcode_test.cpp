@@ -123,7 +123,7 @@ TEST(Locale, ThreadsDoNotMeet)
 
 TEST(Locale, LongTexts)
 {
-    for (const std::size_t length : {169, 170, 171, 1022, 1023, 1024, 5000}) {
+    for (const std::size_t length : {169U, 170U, 171U, 1022U, 1023U, 1024U, 5000U}) {
         const std::wstring text(length, L'\u4E2D');
         const std::string bytes = WideCharToMultiByte_E(text, "C.UTF-8");
         EXPECT_EQ(bytes.size(), 3 * length);

@@ -365,7 +365,7 @@ public:
     int ExcludeClipRect(const tagRECT* pRect);
     /// @}
     /// @{
-    /// Intersects the clip with the rectangle. Always 0.
+    /// Intersects the clip with the rectangle, whose right and bottom edges are outside. Always 0.
     int IntersectClipRect(int l, int t, int r, int b);
     int IntersectClipRect(const tagRECT* pRect);
     /// @}
@@ -477,7 +477,6 @@ private:
     BOOL DrawArcKind(ArcKind kind, const tagRECT* pRect, tagPOINT start, tagPOINT end);
     int DrawTextInRect(const QString& str, const tagRECT* pRect, int nFormat);
     BOOL TextOutAt(int x, int y, const QString& str, const int* pDxWidths);
-    void InvertWidget(const QRect& deviceRect);
     void MoveOnto(vx::detail::MemoryDevice* pMemory, HBITMAP hBitmap);
     void SetScale(const QSize& window, const QSize& viewport);
 

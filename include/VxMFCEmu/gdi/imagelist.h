@@ -94,7 +94,8 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
     /// Destroys the temporary objects.
     static void DeleteTempMap();
 
-    /// Appends @p nInitial new bitmaps of 32 bits with undefined pixels; FALSE for less than one.
+    /// Appends @p nInitial new bitmaps of 32 bits with undefined pixels; FALSE for less than one
+    /// and for more than 65536.
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);
     /// Makes this a list of copies of the images of @p pImageList; FALSE for null.
     BOOL Create(CImageList_E* pImageList);
@@ -105,7 +106,8 @@ class VXMFC_EXPORT CImageList_E : public CObject_E
 
     /// Appends @p pbmImage itself, which the caller keeps alive, after making every pixel in the
     /// mask colour transparent in the caller's bitmap (intended). A bitmap without alpha becomes
-    /// one with it. Returns the new image's index; -1 for a null or empty bitmap.
+    /// one with it; while it is selected into a device context, it is left as it is. Returns the
+    /// new image's index; -1 for a null or empty bitmap.
     int Add(CBitmap_E* pbmImage, COLORREF crMask);
     /// Appends @p pbmImage itself; the mask is kept for GetImageInfo(). -1 for a null bitmap.
     int Add(CBitmap_E* pbmImage, CBitmap_E* pbmMask);

@@ -57,7 +57,8 @@ class VXMFC_EXPORT CPalette_E : public CGdiObject_E
     /// The number of entries.
     int GetEntryCount() const;
     /// Copies nothing (intended). Returns @p nNumEntries, or the number of entries less @p
-    /// nStartIndex when there are fewer; 0 for null and for a start at the end or beyond.
+    /// nStartIndex when there are fewer; 0 for null and for a start at the end. From a start
+    /// beyond the end the difference wraps around (intended).
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
                            tagPALETTEENTRY* lpPaletteColors) const;
     /// Overwrites entries, up to the last one; returns how many. 0 for null.
@@ -65,7 +66,7 @@ class VXMFC_EXPORT CPalette_E : public CGdiObject_E
                            const tagPALETTEENTRY* lpPaletteColors);
     /// Does nothing.
     void AnimatePalette(UINT nStartIndex, UINT nNumEntries, const tagPALETTEENTRY* lpPaletteColors);
-    /// Cuts the palette or fills it up with (0, 0, 0, 0); FALSE when there is no memory for it.
+    /// Cuts the palette or fills it up with (0, 0, 0, 0); FALSE beyond 2^24 entries.
     BOOL ResizePalette(UINT nNumEntries);
     /// The first of the entries with the smallest sum of the differences in red, green and blue; 0
     /// for an empty palette.

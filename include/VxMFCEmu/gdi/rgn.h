@@ -76,12 +76,14 @@ class VXMFC_EXPORT CRgn_E : public CGdiObject_E
     BOOL CreateFromData(const tagXFORM* lpXForm, int nCount, const tagRGNDATA* pRgnData);
 
     /// @{
-    /// Replaces the region by a rectangle as of CreateRectRgn(). FALSE for null.
+    /// Replaces the region by a rectangle as of CreateRectRgn(). The handle stays unless another
+    /// object shares it, whose region is left alone. FALSE for null.
     BOOL SetRectRgn(int x1, int y1, int x2, int y2);
     BOOL SetRectRgn(const tagRECT* lpRect);
     /// @}
     /// Replaces the region by the combination of two, either of which may be this one. RGN_COPY
-    /// gives their union (intended), an unknown mode the empty region.
+    /// gives their union (intended), an unknown mode the empty region. Of the handle SetRectRgn()
+    /// tells.
     BOOL CombineRgn(const CRgn_E* pRgn1, const CRgn_E* pRgn2, int nCombineMode);
     /// Shares the handle of @p pRgnSrc (intended): what one object changes in place, the other
     /// sees; the last of them frees it. FALSE for an empty region.
