@@ -1,5 +1,5 @@
-// Combo boxes: each member and message over both kinds of widget, without a signal.
-#include "ctrl/items.h"
+// Combo boxes: their text, their list that drops down, and that they keep silent.
+#include "controls.h"
 #include "support/xinput.h"
 
 #include <VxCustomUI.h>
@@ -13,115 +13,115 @@ namespace {
 using namespace vxtest;
 
 using Box = CComboBox_E;
-using Form = FormWith<Box, QComboBox>;
 
-/// Items, selection and text.
-QString stateOf(const QComboBox& combo)
+struct EditableBox : QComboBox
 {
-    QStringList items;
-    for (int i = 0; i < combo.count(); ++i)
-        items += combo.itemText(i);
-    return "%1 @%2 %3"_q.arg(items.join(u',')).arg(combo.currentIndex()).arg(combo.currentText());
-}
-
-/// An item's text by member and message: whether both gave the expected one, and its length.
-Results textOf(Box& b, int nIndex, const wchar_t* expected)
-{
-    CString_E text(L"before");
-    wchar_t buffer[16] = L"";
-    const int length = b.GetLBText(nIndex, text);
-    return {text == expected, length == send(b, CB_GETLBTEXT, nIndex, buffer),
-            CString_E(buffer) == expected, length == b.GetLBTextLen(nIndex), length};
-}
-
-// clang-format off
-const Step<Box> kEditable[] = {
-    // Items
-    {__LINE__, [](Box& b) -> Results { return {(b.SetWindowText(L"typed"), b.GetCount()), b.GetCurSel()}; }, "0 -1", " @-1 typed"},
-    {__LINE__, [](Box& b) -> Results { return {b.AddString(L"ABC"), send(b, CB_ADDSTRING, 0, L"1"), b.AddString(nullptr)}; }, "0 1 2", "ABC,1, @-1 typed"},
-    {__LINE__, [](Box& b) -> Results { return {b.DeleteString(2), b.SetCurSel(1), b.AddString(L"abd")}; }, "2 1 2", "ABC,1,abd @1 1"},
-    {__LINE__, [](Box& b) -> Results { return {b.InsertString(0, L"xyz"), send(b, CB_INSERTSTRING, -1, L"2.9")}; }, "0 4", "xyz,ABC,1,abd,2.9 @2 1"},
-    {__LINE__, [](Box& b) -> Results { return {b.InsertString(6, L"no"), b.InsertString(-2, L"no")}; }, "-1 -1", "xyz,ABC,1,abd,2.9 @2 1"},
-    {__LINE__, [](Box& b) -> Results { return {(b.SetWindowText(L"own"), b.DeleteString(0)), b.DeleteString(4), send(b, CB_DELETESTRING, -1)}; }, "4 -1 -1", "ABC,1,abd,2.9 @1 own"},
-    {__LINE__, [](Box& b) -> Results { return textOf(b, 3, L"2.9"); }, "1 1 1 1 3", nullptr},
-    {__LINE__, [](Box& b) -> Results { return textOf(b, -1, L""); }, "1 1 1 1 -1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return textOf(b, 4, L""); }, "1 1 1 1 -1", nullptr},
-    // Searches: FindString() from the start itself, in any case, and not around
-    {__LINE__, [](Box& b) -> Results { return {b.FindString(0, L"ab"), b.FindString(1, L"ab"), b.FindString(3, L"ab"), send(b, CB_FINDSTRING, -5, L"2.")}; }, "0 2 -1 3", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {b.FindStringExact(0, L"ab"), send(b, CB_FINDSTRINGEXACT, 1, L"ABD"), b.FindStringExact(99, L"abd")}; }, "-1 2 -1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {b.SelectString(3, L"abc")}; }, "0", "ABC,1,abd,2.9 @0 ABC"},
-    {__LINE__, [](Box& b) -> Results { return {send(b, CB_SELECTSTRING, 0, L"2.5"), b.SelectString(0, L"3.9"), b.SelectString(0, L"ab")}; }, "3 -1 -1", "ABC,1,abd,2.9 @3 2.9"},
-    {__LINE__, [](Box& b) -> Results { return {(b.SetWindowText(L"abd"), b.GetCurSel()), (b.SetWindowText(L"ABD"), b.GetCurSel())}; }, "2 2", "ABC,1,abd,2.9 @2 ABD"},
-    // Data
-    {__LINE__, [](Box& b) -> Results { return {send(b, CB_GETEDITSEL, 0), b.SetItemData(2, ~0UL - 1), b.GetItemData(2), b.GetItemData(0), b.GetEditSel()}; }, "0 0 -2 0 0", "ABC,1,abd,2.9 @2 ABD"},
-    {__LINE__, [](Box& b) -> Results { return {send(b, CB_GETITEMDATA, 9), send(b, CB_SETITEMDATA, 9), b.SetItemDataPtr(0, &b), b.GetItemDataPtr(0) == &b, !b.GetItemDataPtr(1), !b.GetItemDataPtr(9)}; }, "-1 -1 0 1 1 1", nullptr},
-    // The line edit
-    {__LINE__, [](Box& b) -> Results { return {b.SetEditSel(1, -1), b.GetEditSel() == MAKELONG(1, 3), send(b, CB_SETEDITSEL, 0, reinterpret_cast<void*>(MAKELPARAM(0, 2))), b.GetEditSel() == MAKELONG(0, 2)}; }, "1 1 1 1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {(b.Copy(), b.SetEditSel(2, 99)), (b.Cut(), b.Paste(), b.Paste(), b.SetEditSel(-1, 2)), b.GetEditBox()->hasSelectedText()}; }, "1 1 0", "ABC,1,abd,2.9 @2 ABDD"},
-    {__LINE__, [](Box& b) -> Results { return {b.LimitText(7), b.GetEditBox()->maxLength(), send(b, CB_SETCUEBANNER, 0, L"which?"), b.GetCueBanner() == L"which?"}; }, "1 7 1 1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {send(b, CB_LIMITTEXT, 0), b.GetEditBox()->maxLength() > 9999, send(b, CB_GETCOUNT, 0), send(b, CB_GETLBTEXTLEN, 3), send(b, CB_GETLBTEXTLEN, 4)}; }, "1 1 4 3 -1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {send(b, CB_SETCURSEL, 3), send(b, CB_GETCURSEL, 0), send(b, CB_SETCURSEL, -1), send(b, CB_GETCURSEL, 0), b.SetCurSel(2)}; }, "3 3 -1 -1 2", nullptr},
-    // The list that drops down
-    {__LINE__, [](Box& b) -> Results { return {b.SetItemHeight(0, 31), b.GetItemHeight(-1), b.GetItemHeight(0) > 0, b.GetItemHeight(4)}; }, "0 31 1 -1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {send(b, CB_SETDROPPEDWIDTH, 333), b.GetDroppedWidth(), b.SetMinVisibleItems(5), b.SetMinVisibleItems(0), b.GetMinVisible()}; }, "333 333 1 0 5", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {b.SetTopIndex(1), b.SetTopIndex(4), b.InitStorage(7, 0), send(b, CB_SHOWDROPDOWN, 1), (b.ShowDropDown(), b.GetDroppedState())}; }, "0 -1 7 1 0", nullptr},
-    // The selection goes
-    {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(99)}; }, "-1", "ABC,1,abd,2.9 @-1 "},
-    {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), b.DeleteString(1)}; }, "1 3", "ABC,abd,2.9 @-1 "},
-    {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), (b.GetEditBox()->setText("typed"_q), b.DeleteString(1))}; }, "1 2", "ABC,2.9 @-1 typed"},
-    {__LINE__, [](Box& b) -> Results { return {b.SetCurSel(1), send(b, CB_RESETCONTENT, 0)}; }, "1 0", " @-1 "},
+    explicit EditableBox(QWidget* pParent) : QComboBox(pParent) { setEditable(true); }
 };
 
-const Step<Box> kFailures[] = {
-    {__LINE__, [](Box& b) -> Results { return {b.GetCount(), b.GetCurSel(), b.SetCurSel(0), b.AddString(L"a"), b.DeleteString(0), b.FindString(0, L""), b.SelectString(0, L"")}; }, "-1 -1 -1 -1 -1 -1 -1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {b.GetItemData(0), b.SetItemDataPtr(0, &b), !b.GetItemDataPtr(0), b.GetLBText(0, nullptr), b.GetLBTextLen(0)}; }, "-1 -1 1 -1 -1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {!b.GetEditBox(), static_cast<int>(b.GetEditSel()), b.SetEditSel(0, 1), b.LimitText(9), b.GetCueBanner().IsEmpty()}; }, "1 -1 -1 -1 1", nullptr},
-    {__LINE__, [](Box& b) -> Results { return {b.SetItemHeight(0, 9), b.GetItemHeight(-1), b.SetDroppedWidth(9), b.GetDroppedWidth(), b.GetDroppedState()}; }, "-1 -1 -1 -1 0", nullptr},
-    {__LINE__, [](Box& b) -> Results { return b.ResetContent(), b.Clear(), b.SetWindowText(L"a"), b.Cut(), Results{}; }, "", nullptr},
-};
-// clang-format on
-
-TEST(ComboBox, EveryMemberKeepsSilent)
+TEST(ComboBox, Editable)
 {
-    expectFailures<QComboBox>(kFailures);
-    for (const bool bMade : {true, false}) {
-        SCOPED_TRACE(bMade ? "made" : "found");
-        Form form(bMade, CBS_DROPDOWN);
-        form.widget->setEditable(true);
-        const QSignalSpy index(form.widget, qOverload<int>(&QComboBox::currentIndexChanged));
-        const QSignalSpy edit(form.widget, &QComboBox::editTextChanged);
-        runSteps(form.control, kEditable, [&] { return stateOf(*form.widget); });
+    wchar_t cue[4] = L"";
+    DWORD ends[2] = {};
+    tagRECT rect{};
+    COMBOBOXINFO info{};
+    // clang-format off
+    const Steps steps = {
+        // What is typed stays when items come and go
+        {WM_SETTEXT, 0, at(L"typed"), TRUE}, {CB_ADDSTRING, 0, at(L"ABC"), 0},
+        {CB_ADDSTRING, 0, at(L"1"), 1}, {"ABC,1 @typed"_q}, {CB_SETCURSEL, 1, 1},
+        {CB_ADDSTRING, 0, at(L"abd"), 2}, {CB_INSERTSTRING, 0, at(L"xyz"), 0},
+        {CB_ADDSTRING, 0, at(L"2.9"), 4}, {"xyz,ABC,1*,abd,2.9 @1"_q},
+        {WM_SETTEXT, 0, at(L"own"), TRUE}, {CB_DELETESTRING, 4}, {"ABC,1*,abd,2.9 @own"_q},
+        {CB_SELECTSTRING, 0, at(L"2.5"), 3}, // Intended: the numbers differ by less than 1
+        {CB_SELECTSTRING, 0, at(L"3.9"), -1}, {CB_SELECTSTRING, 0, at(L"ab"), -1},
+        {"currentText", "2.9"_q}, {WM_SETTEXT, 0, at(L"abd"), TRUE}, {CB_GETCURSEL, 2},
+        {WM_SETTEXT, 0, at(L"ABD"), TRUE}, {CB_GETCURSEL, 2}, {"currentText", "ABD"_q},
+        // The line edit
+        {CB_SETEDITSEL, 0, MAKELPARAM(1, -1), TRUE}, {CB_SETITEMDATA, 2, 7, 0},
+        {"currentText", "ABD"_q}, {CB_GETEDITSEL, at(&ends[0]), at(&ends[1]), MAKELONG(1, 3)},
+        {CB_SETEDITSEL, 0, MAKELPARAM(0, 2), TRUE}, {CB_GETEDITSEL, MAKELONG(0, 2)},
+        {CB_SETEDITSEL, 0, MAKELPARAM(-1, 2), TRUE}, {CB_GETEDITSEL, MAKELONG(2, 2)},
+        {CB_LIMITTEXT, 7, TRUE}, {CB_SETCUEBANNER, 0, at(L"which?"), TRUE},
+        {CB_GETCUEBANNER, at(cue), 4, TRUE}, {cue, "whi"_q}, {CB_GETCUEBANNER, 0, 4, FALSE},
+        // The list that drops down
+        {CB_SETITEMHEIGHT, 0, 31, 0}, {CB_GETITEMHEIGHT, -1, 31}, {CB_SETDROPPEDWIDTH, 333, 333},
+        {CB_GETDROPPEDWIDTH, 333}, {CB_SETMINVISIBLE, 5, TRUE}, {CB_SETMINVISIBLE, FALSE},
+        {CB_GETMINVISIBLE, 5}, {CB_SHOWDROPDOWN, 1, TRUE},
+        {CB_GETDROPPEDSTATE, FALSE}, // Intended: it does not drop
+        {CB_GETDROPPEDCONTROLRECT, 0, at(&rect), TRUE}, {CB_GETDROPPEDCONTROLRECT, FALSE},
+        {CB_GETCOMBOBOXINFO, 0, at(&info), TRUE}, {CB_GETCOMBOBOXINFO, FALSE},
+        // The selection goes, and the text of the item with it
+        {CB_SETCURSEL, 99, -1}, {"currentText", ""_q}, {CB_SETCURSEL, 1, 1},
+        {CB_DELETESTRING, 1, 3}, {"ABC,abd,2.9 @"_q}, {CB_SETCURSEL, 1, 1},
+        {WM_SETTEXT, 0, at(L"typed"), TRUE}, {CB_DELETESTRING, 1, 2}, {"ABC,2.9 @typed"_q},
+        {CB_SETCURSEL, 1, 1}, {CB_RESETCONTENT, 0}, {" @"_q},
+    };
+    // clang-format on
+    forMadeAndFound<Box, EditableBox>(CBS_DROPDOWN, [&](Box& box) {
+        auto* const pCombo = qobject_cast<QComboBox*>(box.GetSafeHwnd());
+        const QSignalSpy index(pCombo, qOverload<int>(&QComboBox::currentIndexChanged));
+        const QSignalSpy edit(pCombo, &QComboBox::editTextChanged);
+        runSteps(pCombo, steps);
+        EXPECT_EQ(index.size() + edit.size(), 0);
+        EXPECT_EQ(ends[0] + 10 * ends[1], 31U);
+        EXPECT_LT(info.rcItem.left, info.rcButton.left);
+        EXPECT_EQ(pCombo->lineEdit()->maxLength(), 7);
+        EXPECT_TRUE(box.GetCueBanner() == L"which?");
+        box.LimitText(0);
+        EXPECT_GT(pCombo->lineEdit()->maxLength(), 9999);
+
+        box.AddString(L"last");
+        box.SetCurSel(0);
+        EXPECT_GT(box.GetItemHeight(0), 0);
+        box.SetWindowText(L"123456");
+        for (const Selection& row : kSelections) {
+            box.SetEditSel(1, 1);
+            box.SetEditSel(row.nStart, row.nEnd);
+            EXPECT_EQ(box.GetEditSel(), row.combo) << row.nStart;
+        }
+        box.SetWindowText(L"last");
+        box.SetEditSel(1, -1);
+        box.Copy();
+        box.SetEditSel(9, 9);
+        box.Paste();
+        EXPECT_EQ(pCombo->currentText(), "lastast"_q);
+        box.SetEditSel(1, -1);
+        box.Cut();
+        EXPECT_EQ(pCombo->currentText(), "l"_q);
         EXPECT_EQ(index.size(), 0);
-        EXPECT_EQ(edit.size(), 4); // of Cut(), Paste() and what is typed, not of the members
-        form.control.AddString(L"last");
-        form.control.SetCurSel(0);
-        form.control.Clear();
-        EXPECT_EQ(index.size(), 1); // the one member that is heard
-    }
+        box.Clear();
+        EXPECT_EQ(index.size(), 1) << "the one member that is heard";
+    });
 }
 
 TEST(ComboBox, Full)
 {
-    Form form(false, 0);
-    form.widget->setMaxCount(1);
-    EXPECT_EQ(form.control.AddString(L"a"), 0);
-    EXPECT_EQ(form.control.AddString(L"b"), CB_ERRSPACE);
-    EXPECT_EQ(send(form.control, CB_INSERTSTRING, 0, L"b"), CB_ERRSPACE);
-    EXPECT_EQ(send(form.control, CB_INSERTSTRING, 2, L"b"), CB_ERR);
-    EXPECT_EQ(stateOf(*form.widget), "a @-1 "_q);
+    QComboBox combo;
+    combo.setMaxCount(1);
+    // clang-format off
+    const Steps steps = {
+        {CB_ADDSTRING, 0, at(L"a"), 0}, {CB_ADDSTRING, 0, at(L"b"), CB_ERRSPACE},
+        {CB_INSERTSTRING, 0, at(L"b"), CB_ERRSPACE}, {CB_INSERTSTRING, 2, at(L"b"), CB_ERR},
+        {"a"_q},
+    };
+    // clang-format on
+    runSteps(&combo, steps);
 }
 
 TEST(ComboBox, IsMadeByItsStyle)
 {
+    QWidget parent;
     for (const auto& [dwStyle, bEditable, dwKept] :
          {Row<DWORD, bool, DWORD>{CBS_DROPDOWN | WS_VSCROLL, true, CBS_DROPDOWN},
           {CBS_SIMPLE, true, CBS_SIMPLE},
           {CBS_DROPDOWNLIST | WS_HSCROLL | WS_VSCROLL, false, CBS_DROPDOWNLIST | WS_HSCROLL}}) {
-        Form form(true, dwStyle);
-        EXPECT_TRUE(qobject_cast<VxCUIComboBox*>(form.widget));
-        EXPECT_EQ(form.widget->geometry(), QRect(10, 10, 200, 30));
-        EXPECT_EQ(form.widget->isEditable(), bEditable);
-        EXPECT_EQ(form.control.GetStyle(), dwKept);
+        Box box;
+        ASSERT_TRUE(box.Create(dwStyle, kPlace, &parent));
+        auto* const pCombo = qobject_cast<VxCUIComboBox*>(box.GetSafeHwnd());
+        ASSERT_TRUE(pCombo);
+        EXPECT_EQ(pCombo->isEditable(), bEditable);
+        EXPECT_EQ(box.GetStyle(), dwKept);
     }
     VxCUIComboBox companion;
     const std::unique_ptr<CObject_E> made(CObject_E::FromImpMetaObject(companion.metaObject()));
@@ -131,53 +131,50 @@ TEST(ComboBox, IsMadeByItsStyle)
 
 TEST(ComboBox, WithoutALineEdit)
 {
-    Form form(true, CBS_DROPDOWNLIST);
-    Box& box = form.control;
-    for (const wchar_t* text : {L"red", L"Red", L"green"})
-        box.AddString(text);
-    box.SetWindowText(L"Red");
-    box.SetWindowText(L"RED");
-    CString_E text;
-    box.GetWindowText(text);
-    EXPECT_STREQ(text.GetString(), L"Red");
-    EXPECT_EQ(
-        Results(box.SetItemHeight(0, 20), box.SetEditSel(0, 1), send(box, CB_GETEDITSEL, 0)).text,
-        "-1 -1 -1"_q);
-    wchar_t cue[4] = L"";
-    EXPECT_TRUE(box.SetCueBanner(L"which?") && box.GetCueBanner(cue, 4));
-    EXPECT_STREQ(cue, L"whi");
-    COMBOBOXINFO info{};
-    EXPECT_TRUE(box.GetComboBoxInfo(&info) && !box.GetComboBoxInfo(nullptr));
-    EXPECT_LT(info.rcItem.left, info.rcButton.left);
+    wchar_t text[8] = L"";
+    // clang-format off
+    const Steps steps = {
+        {CB_ADDSTRING, 0, at(L"red"), 0}, {CB_ADDSTRING, 0, at(L"Red"), 1},
+        {WM_SETTEXT, 0, at(L"Red"), TRUE}, {WM_SETTEXT, 0, at(L"RED"), CB_ERR},
+        {WM_GETTEXT, 8, at(text), 3}, {text, "Red"_q}, {WM_GETTEXTLENGTH, 3},
+        {CB_SETITEMHEIGHT, 0, 20, CB_ERR}, {CB_SETEDITSEL, 0, 1, CB_ERR}, {CB_GETEDITSEL, CB_ERR},
+        {CB_SETCUEBANNER, 0, at(L"which?"), TRUE}, {CB_GETCUEBANNER, at(text), 4, TRUE},
+        {text, "whi"_q},
+    };
+    // clang-format on
+    runSteps<Box, QComboBox>(CBS_DROPDOWNLIST, steps);
 }
 
 TEST(ComboBox, RealInputDropsSelectsAndTypes)
 {
     VXTEST_NEEDS_X11();
-    Form form(true, CBS_DROPDOWN | WS_VISIBLE);
-    Box& box = form.control;
+    QWidget form;
+    form.resize(300, 300);
+    CComboBox_E box;
+    ASSERT_TRUE(box.Create(CBS_DROPDOWN | WS_VISIBLE, kPlace, &form));
     for (const wchar_t* text : {L"alpha", L"beta", L"gamma"})
         box.AddString(text);
-    const QSignalSpy index(form.widget, qOverload<int>(&QComboBox::currentIndexChanged));
-    ASSERT_TRUE(showAndActivate(&form.form));
+    auto* const pCombo = qobject_cast<QComboBox*>(box.GetSafeHwnd());
+    const QSignalSpy index(pCombo, qOverload<int>(&QComboBox::currentIndexChanged));
+    ASSERT_TRUE(showAndActivate(&form));
     tagRECT dropped{};
     box.GetDroppedControlRect(&dropped);
-    EXPECT_GT(dropped.bottom - dropped.top, form.widget->height());
-    movePointer(form.widget, {form.widget->width() - 8, form.widget->height() / 2});
+    EXPECT_GT(dropped.bottom - dropped.top, pCombo->height());
+    movePointer(pCombo, {pCombo->width() - 8, pCombo->height() / 2});
     clickButton(1);
     ASSERT_TRUE(waitUntil([&] { return box.GetDroppedState() != FALSE; }));
-    const QAbstractItemView* const pView = form.widget->view();
-    movePointer(pView->viewport(), pView->visualRect(form.widget->model()->index(1, 0)).center());
+    const QAbstractItemView* const pView = pCombo->view();
+    movePointer(pView->viewport(), pView->visualRect(pCombo->model()->index(1, 0)).center());
     ASSERT_TRUE(waitUntil([pView] { return pView->currentIndex().row() == 1; }));
     typeKey(XK_Return); // the list takes no click right after it has dropped
     ASSERT_TRUE(waitUntil([&] { return box.GetDroppedState() == FALSE; }));
     EXPECT_EQ(box.GetCurSel(), 1);
     EXPECT_EQ(index.size(), 1);
-    form.widget->setFocus();
-    form.widget->lineEdit()->selectAll();
+    pCombo->setFocus();
+    pCombo->lineEdit()->selectAll();
     typeKey(XK_g);
     typeKey(XK_Return);
-    EXPECT_TRUE(waitUntil([&] { return form.widget->currentText() == "g"_q; })); // not completed
+    EXPECT_TRUE(waitUntil([&] { return pCombo->currentText() == "g"_q; })); // not completed
     EXPECT_EQ(box.GetCount(), 3);
 }
 

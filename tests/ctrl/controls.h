@@ -41,31 +41,53 @@ void forMadeAndFound(DWORD style, const Check& check)
     (checkFound<Control, Widgets>(check), ...);
 }
 
-/// Calls @p check with a control that has no widget, one whose widget is gone, and one whose widget
-/// is of another class.
-template <typename Control, typename Check>
-void forUnusable(const Check& check)
+/// The items of a combo box or a list box, the selected ones marked, and the text to be edited.
+inline QString itemsOf(const QWidget* pWidget)
 {
-    Control control;
-    check(control);
-    {
-        QWidget parent;
-        ASSERT_TRUE(control.Create(0, kPlace, &parent));
-    }
-    check(control);
-    QGroupBox other;
-    control.SetImpQObject(&other);
-    check(control);
-    control.SetImpQObject(nullptr);
+    QStringList items;
+    const auto* const pCombo = qobject_cast<const QComboBox*>(pWidget);
+    for (int i = 0; pCombo && i < pCombo->count(); ++i)
+        items += pCombo->itemText(i) + (i == pCombo->currentIndex() ? "*"_q : ""_q);
+    const auto* const pList = qobject_cast<const QListWidget*>(pWidget);
+    for (int i = 0; pList && i < pList->count(); ++i)
+        items += pList->item(i)->text() + (pList->item(i)->isSelected() ? "*"_q : ""_q);
+    const bool bText = pCombo && pCombo->isEditable();
+    return items.join(u',') + (bText ? " @"_q + pCombo->currentText() : QString());
 }
 
+/// What a control is told, or how it is then.
 struct Step
 {
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
-    LRESULT result;
+    /// A message, its parameters as far as they are not 0, and its result.
+    Step(UINT nMessage, LPARAM w, LPARAM l, LRESULT nResult)
+        : ask([=](const auto& send, QWidget*) { return qlonglong{send(nMessage, w, l)}; }),
+          expected(qlonglong{nResult})
+    {
+    }
+    Step(UINT nMessage, LPARAM w, LRESULT nResult) : Step(nMessage, w, 0, nResult) {}
+    Step(UINT nMessage, LRESULT nResult) : Step(nMessage, 0, 0, nResult) {}
+    /// A property of the widget.
+    Step(const char* pszName, const QVariant& value)
+        : ask([=](const auto&, QWidget* pWidget) { return pWidget->property(pszName); }),
+          expected(value)
+    {
+    }
+    /// What a message has left in a buffer.
+    Step(const wchar_t* pszBuffer, const QString& text)
+        : ask([=](const auto&, QWidget*) { return QString::fromWCharArray(pszBuffer); }),
+          expected(text)
+    {
+    }
+    /// The items.
+    Step(const QString& items)
+        : ask([](const auto&, QWidget* pWidget) { return itemsOf(pWidget); }), expected(items)
+    {
+    }
+    using Send = std::function<LRESULT(UINT, LPARAM, LPARAM)>;
+    std::function<QVariant(const Send&, QWidget*)> ask;
+    QVariant expected;
 };
+using Steps = std::vector<Step>;
 
 template <typename T>
 LPARAM at(T* p)
@@ -73,28 +95,106 @@ LPARAM at(T* p)
     return static_cast<LPARAM>(reinterpret_cast<std::intptr_t>(p));
 }
 
-/// Sends the messages of @p steps, one after the other, to a made control, to found ones, to form
-/// widgets that no window is bound to and to such that a plain one is bound to.
-template <typename Control, typename... Widgets>
-void runSteps(DWORD style, const std::vector<Step>& steps)
+inline void runSteps(QWidget* pWidget, const Steps& steps, const Step::Send& send)
 {
-    const auto run = [&](QWidget* pWidget) {
-        for (const Step& step : steps)
-            EXPECT_EQ(SendMessage_E(pWidget, step.message, step.wParam, step.lParam), step.result)
-                << "step " << &step - steps.data() << ", message " << step.message;
-    };
-    forMadeAndFound<Control, Widgets...>(style,
-                                         [&run](Control& control) { run(control.GetSafeHwnd()); });
+    for (const Step& step : steps) {
+        QVariant got = step.ask(send, pWidget);
+        EXPECT_TRUE(got.convert(step.expected.userType()));
+        EXPECT_EQ(got.toString(), step.expected.toString()) << "step " << &step - steps.data();
+    }
+}
+
+/// Walks through @p steps, one after the other.
+inline void runSteps(QWidget* pWidget, const Steps& steps)
+{
+    runSteps(pWidget, steps, [pWidget](UINT message, LPARAM w, LPARAM l) {
+        return SendMessage_E(pWidget, message, static_cast<WPARAM>(w), l);
+    });
+}
+
+inline void runSteps(CWnd_E& control, const Steps& steps)
+{
+    runSteps(control.GetSafeHwnd(), steps);
+}
+
+/// Walks through @p steps with a made control, with found ones, with form widgets that no window is
+/// bound to and with such that a plain one is bound to.
+template <typename Control, typename... Widgets>
+void runSteps(DWORD style, const Steps& steps)
+{
+    forMadeAndFound<Control, Widgets...>(
+        style, [&](Control& control) { runSteps(control.GetSafeHwnd(), steps); });
     const auto runPlain = [&](auto* pWidget, bool bound) {
         SCOPED_TRACE(bound ? "bound to a plain window" : "not bound");
         CWnd_E plain;
         if (bound)
             plain.SubclassWindow(pWidget);
-        run(pWidget);
+        runSteps(pWidget, steps);
         delete pWidget;
     };
     (runPlain(new Widgets, false), ...);
     (runPlain(new Widgets, true), ...);
+}
+
+/// Sends messages that must give their failure to a control that has no widget, to one whose widget
+/// is gone, and to one whose widget is of another class; calls @p check with each.
+template <typename Control>
+void forUnusable(const Steps& failures, const std::function<void(Control&)>& check = {})
+{
+    Control control;
+    QGroupBox other;
+    for (const int i : {0, 1, 2}) {
+        if (QWidget parent; i == 1) {
+            ASSERT_TRUE(control.CWnd_E::Create(0, kPlace, &parent));
+        }
+        if (i == 2)
+            control.SetImpQObject(&other);
+        runSteps(nullptr, failures, [&control](UINT message, LPARAM w, LPARAM l) {
+            LRESULT result = 12345;
+            control.OnControlMessage(message, static_cast<WPARAM>(w), l, &result);
+            return result;
+        });
+        if (check)
+            check(control);
+    }
+    control.SetImpQObject(nullptr);
+}
+
+/// What setting a selection leaves of "123456" where 1 to 1 was selected before, the end and the
+/// start in the halves: of a single line, of many, and of the line of a combo box.
+struct Selection
+{
+    int nStart, nEnd;
+    DWORD line, lines, combo;
+};
+constexpr Selection kSelections[] = {
+    {0, -1, 0x60000, 0x60000, 0x60000},      {-1, 2, 0x60006, 0x60006, 0x10001},
+    {2, 4, 0x40002, 0x40002, 0x40002},       {6, 6, 0x60006, 0x60006, 0x60006},
+    {2, -1, 0x20000, 0x60002, 0x60002},      {4, 1, 0x40001, 0x40001, 0x40001},
+    {2, INT_MAX, 0x60002, 0x60002, 0x60002}, {1, INT_MIN, 0x10000, 0x10000, 0x60001},
+    {-2, 3, 0x10001, 0x60006, 0x10001},      {INT_MAX, 0, 0x10001, 0x60006, 0x60000},
+};
+
+/// Images by member and by the messages that set one and ask for it.
+template <typename Control>
+void checkImages(Control& control, UINT set, UINT get)
+{
+    QImage image(12, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QIcon icon(QPixmap::fromImage(image));
+    EXPECT_TRUE(control.SetBitmap(icon.pixmap(12, 10)).isNull());
+    EXPECT_EQ(control.GetBitmap().size(), image.size());
+    control.SetIcon(icon);
+    EXPECT_EQ(control.GetIcon().cacheKey(), icon.cacheKey());
+    EXPECT_EQ(control.SendMessage(set, IMAGE_BITMAP, at(&image)), 0);
+    EXPECT_EQ(control.GetBitmap().toImage().pixelColor(3, 3), QColor(Qt::red));
+    EXPECT_EQ(control.SendMessage(get, IMAGE_BITMAP), at(&image));
+    EXPECT_EQ(control.SendMessage(set, IMAGE_BITMAP, 0), at(&image));
+    EXPECT_TRUE(control.GetBitmap().isNull());
+    control.SendMessage(set, IMAGE_ICON, at(&icon));
+    EXPECT_EQ(control.GetIcon().cacheKey(), icon.cacheKey());
+    EXPECT_EQ(control.SendMessage(get, IMAGE_ICON), at(&icon));
+    EXPECT_EQ(control.SendMessage(set, IMAGE_ENHMETAFILE, at(&image)), 0);
 }
 
 } // namespace vxtest

@@ -28,27 +28,23 @@ ON_MESSAGE_E(PBM_SETPOS, &OwnProgress::OnSetPos)
 ON_MESSAGE_E(WM_USER + 500, &OwnProgress::OnUser)
 END_MESSAGE_MAP_E()
 
-struct Fixture
+struct MessagesTest : testing::TestWithParam<Bound>
 {
-    explicit Fixture(Bound bound)
+    MessagesTest()
     {
+        const Bound bound = GetParam();
         bar->setValue(1);
-        if (bound == Bound::Plainly)
-            window = std::make_unique<CWnd_E>();
-        else if (bound == Bound::ByItsClass)
-            window = std::make_unique<CProgressCtrl_E>();
-        else if (bound == Bound::ByOwnHandler)
-            window = std::make_unique<OwnProgress>();
+        window.reset(bound == Bound::Plainly      ? new CWnd_E
+                     : bound == Bound::ByItsClass ? new CProgressCtrl_E
+                     : own                        ? new OwnProgress
+                                                  : nullptr);
         if (window)
             window->SubclassWindow(bar);
     }
-    ~Fixture() { delete bar; }
+    ~MessagesTest() override { delete bar; }
+    const bool own = GetParam() == Bound::ByOwnHandler;
     QPointer<QProgressBar> bar = new QProgressBar;
     std::unique_ptr<CWnd_E> window;
-};
-
-struct MessagesTest : testing::TestWithParam<Bound>
-{
 };
 INSTANTIATE_TEST_SUITE_P(Controls, MessagesTest,
                          testing::Values(Bound::Not, Bound::Plainly, Bound::ByItsClass,
@@ -56,76 +52,73 @@ INSTANTIATE_TEST_SUITE_P(Controls, MessagesTest,
 
 TEST_P(MessagesTest, AHandlerTakesThemThenTheControl)
 {
-    Fixture fixture(GetParam());
-    const bool own = GetParam() == Bound::ByOwnHandler;
-    EXPECT_EQ(SendMessage_E(fixture.bar, PBM_SETPOS, 40), own ? 40 : 1);
-    EXPECT_EQ(fixture.bar->value(), own ? 1 : 40);
-    EXPECT_EQ(SendMessage_E(fixture.bar, PBM_GETPOS), own ? 1 : 40);
-    EXPECT_EQ(SendMessage_E(fixture.bar, WM_USER + 500), own ? 99 : 0) << "no message of the class";
-    EXPECT_EQ(SendMessage_E(fixture.bar, WM_APP + 1), 0);
-    EXPECT_EQ(SendMessage_E(fixture.bar, WM_COMMAND, 1), 0);
-    EXPECT_EQ(SendMessage_E(fixture.bar, PBM_GETRANGE, FALSE), 100);
-    EXPECT_EQ(CObject_E::GetOwner(fixture.bar), fixture.window.get()) << "nobody else was bound";
+    // clang-format off
+    runSteps(bar, {
+        {PBM_SETPOS, 40, own ? 40 : 1}, {"value", own ? 1 : 40}, {PBM_GETPOS, own ? 1 : 40},
+        {WM_USER + 500, own ? 99 : 0}, // no message of the class
+        {WM_APP + 1, 0}, {WM_COMMAND, 1, 0}, {PBM_GETRANGE, 100},
+    });
+    // clang-format on
+    EXPECT_EQ(CObject_E::GetOwner(bar), window.get()) << "nobody else was bound";
 }
 
 TEST_P(MessagesTest, PostedOnesArriveInTheirOrderFromAnyThread)
 {
+    const auto post = [pBar = bar.data()] {
+        EXPECT_TRUE(PostMessage_E(pBar, PBM_SETRANGE32, 0, 1000));
+        EXPECT_TRUE(PostMessage_E(pBar, PBM_SETPOS, 500));
+        EXPECT_TRUE(PostMessage_E(pBar, PBM_DELTAPOS, 5));
+    };
     for (const bool elsewhere : {false, true}) {
-        Fixture fixture(GetParam());
-        const auto post = [bar = fixture.bar.data()] {
-            EXPECT_TRUE(PostMessage_E(bar, PBM_SETRANGE32, 0, 1000));
-            EXPECT_TRUE(PostMessage_E(bar, PBM_SETPOS, 500));
-            EXPECT_TRUE(PostMessage_E(bar, PBM_DELTAPOS, 5));
-        };
+        bar->setValue(1);
         if (elsewhere)
             std::thread(post).join();
         else
             post();
-        EXPECT_EQ(fixture.bar->value(), 1) << "not yet";
-        const bool own = GetParam() == Bound::ByOwnHandler;
-        EXPECT_TRUE(waitUntil([&] { return fixture.bar->value() == (own ? 6 : 505); }));
-        EXPECT_EQ(own ? static_cast<OwnProgress&>(*fixture.window).m_nSeen : 500, 500);
+        EXPECT_EQ(bar->value(), 1) << "not yet";
+        EXPECT_TRUE(waitUntil([&] { return bar->value() == (own ? 6 : 505); }));
     }
+    EXPECT_EQ(own ? static_cast<OwnProgress&>(*window).m_nSeen : 500, 500);
 }
 
 TEST_P(MessagesTest, WhatDeletesTheWidgetMeanwhile)
 {
     for (const bool withItsWindow : {false, true}) {
-        Fixture fixture(GetParam());
-        QTimer::singleShot(0, qApp, [&] {
-            delete fixture.bar.data();
+        if (withItsWindow) {
+            bar = new QProgressBar;
+            if (window)
+                window->SubclassWindow(bar);
+        }
+        QTimer::singleShot(0, qApp, [this, withItsWindow] {
+            delete bar.data();
             if (withItsWindow)
-                fixture.window.reset();
+                window.reset();
         });
-        // Setting the position lets the timer fire.
-        SendMessage_E(fixture.bar, PBM_SETPOS, 40);
-        EXPECT_EQ(fixture.bar.isNull(), GetParam() != Bound::ByOwnHandler);
-        EXPECT_TRUE(waitUntil([&] { return fixture.bar.isNull(); }));
+        SendMessage_E(bar, PBM_SETPOS, 40); // lets the timer fire
+        EXPECT_EQ(bar.isNull(), !own);
+        EXPECT_TRUE(waitUntil([&] { return bar.isNull(); }));
     }
 }
 
 TEST_P(MessagesTest, WhatIsPostedToAWidgetThatIsGone)
 {
-    Fixture fixture(GetParam());
-    EXPECT_TRUE(PostMessage_E(fixture.bar, PBM_SETPOS, 40));
-    EXPECT_TRUE(PostMessage_E(fixture.bar, WM_USER + 500));
-    delete fixture.bar.data();
+    EXPECT_TRUE(PostMessage_E(bar, PBM_SETPOS, 40));
+    EXPECT_TRUE(PostMessage_E(bar, WM_USER + 500));
+    delete bar.data();
     deliverPosted();
-    auto* const pOwn = dynamic_cast<OwnProgress*>(fixture.window.get());
-    EXPECT_EQ(pOwn ? pOwn->m_nSeen : -1, -1);
+    EXPECT_EQ(own ? static_cast<OwnProgress&>(*window).m_nSeen : -1, -1);
 }
 
 TEST_P(MessagesTest, WhatIsPostedWhileTheBindingChanges)
 {
-    Fixture fixture(GetParam());
-    PostMessage_E(fixture.bar, PBM_SETPOS, 40);
-    fixture.window.reset();
+    PostMessage_E(bar, PBM_SETPOS, 40);
+    window.reset();
     CProgressCtrl_E other;
-    other.SubclassWindow(fixture.bar);
-    PostMessage_E(fixture.bar, PBM_DELTAPOS, 2);
+    other.SubclassWindow(bar);
+    PostMessage_E(bar, PBM_DELTAPOS, 2);
     other.Detach();
     deliverPosted();
-    EXPECT_EQ(fixture.bar->value(), 42);
+    EXPECT_EQ(bar->value(), 42);
 }
 
 /// Records the numbers of the messages that come.
@@ -164,28 +157,22 @@ TEST(Messages, NumbersOfTheirOwnInPlainWindows)
 TEST(Messages, OfTexts)
 {
     for (const bool bound : {false, true}) {
-        QComboBox fixed;
-        fixed.addItems({"a"_q, "other"_q});
-        const auto pSpin = std::make_unique<QSpinBox>();
-        pSpin->setSuffix("%"_q);
         QDialog dialog;
         QLineEdit line;
-        const Row<QWidget*, const wchar_t*, LRESULT, const wchar_t*> rows[] = {
-            {&fixed, L"other", TRUE, L"other"}, {&fixed, L"none", CB_ERR, L"other"},
-            {pSpin.get(), L"42", TRUE, L"42"},  {&dialog, L"Title", TRUE, L"Title"},
-            {&line, nullptr, TRUE, L""},        {&line, L"text", TRUE, L"text"},
-        };
-        forRows(rows, [&](QWidget* pWidget, const wchar_t* set, LRESULT done, const wchar_t* got) {
+        const Row<QWidget*, const wchar_t*, const char*> rows[] = {
+            {&dialog, L"Title", "Title"}, {&line, nullptr, ""}, {&line, L"text", "text"}};
+        forRows(rows, [&](QWidget* pWidget, const wchar_t* set, const char* got) {
             CWnd_E window;
             if (bound)
                 window.SubclassWindow(pWidget);
             wchar_t buffer[8] = L"";
-            EXPECT_EQ(SendMessage_E(pWidget, WM_SETTEXT, 0, at(set)), done);
-            EXPECT_EQ(SendMessage_E(pWidget, WM_GETTEXT, 8, at(buffer)),
-                      static_cast<LRESULT>(std::wcslen(got)));
-            EXPECT_STREQ(buffer, got);
-            EXPECT_EQ(SendMessage_E(pWidget, WM_GETTEXTLENGTH), CString_E(got).GetLength());
-            EXPECT_EQ(SendMessage_E(pWidget, WM_GETTEXT, 8, 0), 0);
+            const QString text = QString::fromLatin1(got);
+            // clang-format off
+            runSteps(pWidget, {
+                {WM_SETTEXT, 0, at(set), TRUE}, {WM_GETTEXT, 8, at(buffer), text.size()},
+                {buffer, text}, {WM_GETTEXTLENGTH, text.size()}, {WM_GETTEXT, 8, 0},
+            });
+            // clang-format on
         });
     }
 }

@@ -23,7 +23,7 @@ TEST(Slider, ByMessages)
         {TBM_SETTIC, 0, 15, TRUE}, {TBM_SETTIC, 0, 15, TRUE},
         {TBM_SETTIC, 0, 60, TRUE}, // the last one is there anyway
         {TBM_SETTIC, 0, 61, FALSE}, {TBM_SETTIC, 0, -1, FALSE}, {TBM_SETTICFREQ, 1, 0, 0}, {TBM_GETNUMTICS, 0, 0, 4},
-        {TBM_GETTIC, 0, 0, 15}, {TBM_GETTIC, 1, 0, 40}, {TBM_GETTIC, 2, 0, -1}, {TBM_GETTIC, WPARAM(-1), 0, -1},
+        {TBM_GETTIC, 0, 0, 15}, {TBM_GETTIC, 1, 0, 40}, {TBM_GETTIC, 2, 0, -1}, {TBM_GETTIC, -1, 0, -1},
         {TBM_CLEARTICS, 0, 0, 0}, {TBM_GETNUMTICS, 0, 0, 2}, {TBM_GETSELEND, 0, 0, 0}, {TBM_SETSEL, TRUE, MAKELPARAM(-5, 20), 0},
         {TBM_GETSELSTART, 0, 0, 0}, {TBM_GETSELEND, 0, 0, 20}, {TBM_SETSELSTART, 0, 30, 0}, {TBM_GETSELEND, 0, 0, 30},
         {TBM_SETSELEND, 0, 1000, 0}, {TBM_GETSELSTART, 0, 0, 30}, {TBM_GETSELEND, 0, 0, 60}, {TBM_CLEARSEL, 0, 0, 0},
@@ -36,74 +36,46 @@ TEST(Slider, ByMessages)
 
 TEST(Slider, WhatShows)
 {
-    forMadeAndFound<CSliderCtrl_E, QSlider>(TBS_VERT | TBS_TOP, [](CSliderCtrl_E& slider) {
-        auto* const pSlider = qobject_cast<QSlider*>(slider.GetSafeHwnd());
-        EXPECT_EQ(pSlider->orientation(), Qt::Vertical) << "a form's stands by default";
-        EXPECT_EQ(pSlider->invertedAppearance(), !slider.IsTemporary());
-        slider.SetRange(0, 100);
-        EXPECT_EQ(pSlider->tickPosition(), QSlider::NoTicks);
-        for (const int nTic : {20, 50, 100})
-            slider.SetTic(nTic);
-        EXPECT_EQ(pSlider->tickInterval(), 10);
-        EXPECT_EQ(pSlider->tickPosition(),
-                  slider.IsTemporary() ? QSlider::TicksBelow : QSlider::TicksAbove);
-        slider.ClearTics();
-        EXPECT_EQ(pSlider->tickInterval(), 100);
-        slider.SetTicFreq(5);
-        EXPECT_EQ(pSlider->tickInterval(), 100);
-        slider.SetRange(INT_MIN, INT_MAX);
-        EXPECT_TRUE(slider.SetTic(0));
-        EXPECT_EQ(pSlider->tickInterval(), INT_MAX) << "not each of its 4294967295 positions";
-        slider.SetRange(-1, 3);
-        EXPECT_EQ(pSlider->tickInterval(), 1);
-        slider.SetRangeMax(1000);
-        EXPECT_EQ(pSlider->tickInterval(), 1001);
-        pSlider->setTracking(false);
-        QSignalSpy moved(pSlider, &QSlider::valueChanged);
-        slider.SetPos(17);
-        EXPECT_EQ(slider.GetPos(), 17) << "the slider's position, not yet the value";
-        EXPECT_EQ(moved.count(), 0);
+    // clang-format off
+    runSteps<CSliderCtrl_E, QSlider>(TBS_VERT, {
+        {"orientation", Qt::Vertical}, // a form's stands by default
+        {TBM_SETRANGE, TRUE, MAKELPARAM(0, 100), 0}, {"tickPosition", QSlider::NoTicks},
+        {TBM_SETTIC, 0, 20, TRUE}, {TBM_SETTIC, 0, 50, TRUE}, {TBM_SETTIC, 0, 100, TRUE},
+        {"tickInterval", 10}, {"tickPosition", QSlider::TicksBelow}, {TBM_CLEARTICS, 0},
+        {TBM_SETTICFREQ, 5, 0}, {"tickInterval", 100}, // Intended: tics stand where they are set
+        {TBM_SETRANGEMIN, 0, INT_MIN, 0}, {TBM_SETRANGEMAX, 0, INT_MAX, 0}, {TBM_SETTIC, TRUE},
+        {"tickInterval", INT_MAX}, // not each of its 4294967295 positions
+        {TBM_SETRANGEMIN, 0, -1, 0}, {TBM_SETRANGEMAX, 0, 3, 0}, {"tickInterval", 1},
+        {TBM_SETRANGEMAX, 0, 1000, 0}, {"tickInterval", 1001},
     });
-    CSliderCtrl_E automatic;
-    QWidget window;
-    ASSERT_TRUE(automatic.Create(TBS_AUTOTICKS, kPlace, &window));
-    const auto* const pAutomatic = qobject_cast<QSlider*>(automatic.GetSafeHwnd());
-    automatic.SetRange(0, 1000000);
-    EXPECT_EQ(pAutomatic->tickInterval(), 1000000);
-    automatic.SetPageSize(1000);
-    EXPECT_EQ(pAutomatic->tickInterval(), 0) << "the widget's own choice";
-    CSliderCtrl_E plain;
+    // clang-format on
     QWidget parent;
-    ASSERT_TRUE(plain.Create(TBS_NOTICKS, kPlace, &parent));
-    plain.SetTic(50);
-    EXPECT_EQ(plain.GetNumTics(), 0U);
-    EXPECT_EQ(qobject_cast<QSlider*>(plain.GetSafeHwnd())->tickPosition(), QSlider::NoTicks);
-}
+    CSliderCtrl_E sliders[3];
+    QSlider* made[3];
+    const DWORD styles[] = {TBS_VERT | TBS_TOP, TBS_AUTOTICKS, TBS_NOTICKS};
+    for (const int i : {0, 1, 2}) {
+        ASSERT_TRUE(sliders[i].Create(styles[i], kPlace, &parent));
+        made[i] = qobject_cast<QSlider*>(sliders[i].GetSafeHwnd());
+        EXPECT_EQ(made[i]->invertedAppearance(), i == 0);
+        sliders[i].SetRange(0, 1000000);
+    }
+    int nMin = -1, nMax = -1;
+    sliders[0].GetRange(nMin, nMax);
+    EXPECT_EQ(nMin + nMax, 1000000);
+    sliders[0].SetTic(50);
+    EXPECT_EQ(made[0]->tickPosition(), QSlider::TicksAbove);
+    EXPECT_EQ(made[1]->tickInterval(), 1000000);
+    sliders[1].SetPageSize(1000);
+    EXPECT_EQ(made[1]->tickInterval(), 0) << "the widget's own choice";
+    sliders[2].SetTic(50);
+    EXPECT_EQ(sliders[2].GetNumTics(), 0U);
+    EXPECT_EQ(made[2]->tickPosition(), QSlider::NoTicks);
 
-TEST(Slider, WithoutAUsableWidget)
-{
-    forUnusable<CSliderCtrl_E>([](CSliderCtrl_E& slider) {
-        int first = 1, second = 2;
-        RECT rect{1, 1, 1, 1};
-        slider.SetRange(1, 5);
-        slider.SetRangeMin(1);
-        slider.SetRangeMax(1);
-        slider.GetRange(first, second);
-        EXPECT_EQ(first | second, 0);
-        slider.SetPos(3);
-        slider.SetSelection(1, 2);
-        slider.ClearSel();
-        slider.ClearTics();
-        slider.GetSelection(first, second);
-        EXPECT_EQ(first | second | slider.GetPos(), 0);
-        EXPECT_EQ(slider.SetLineSize(3) | slider.SetPageSize(3), 0);
-        EXPECT_EQ(slider.GetLineSize() | slider.GetPageSize(), 0);
-        EXPECT_FALSE(slider.SetTic(0));
-        EXPECT_EQ(slider.GetNumTics(), 0U);
-        EXPECT_EQ(slider.GetTic(0), -1);
-        slider.GetThumbRect(&rect);
-        EXPECT_EQ(rect.right, 0);
-    });
+    made[0]->setTracking(false);
+    const QSignalSpy moved(made[0], &QSlider::valueChanged);
+    sliders[0].SetPos(17);
+    EXPECT_EQ(sliders[0].GetPos(), 17) << "the slider's position, not yet the value";
+    EXPECT_EQ(moved.count(), 0);
 }
 
 TEST(Slider, RealSliding)
