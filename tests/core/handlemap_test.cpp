@@ -19,60 +19,50 @@ struct Holder : CObject_E
 
 void* handle(std::uintptr_t n) { return reinterpret_cast<void*>(n * 16); }
 
-CHandleMap_E* makeMap(int handles)
+template <typename T>
+std::unique_ptr<CHandleMap_E> makeMap(void* T::*field, int handles = 1)
 {
-    return vx::detail::makeHandleMap<Holder>(RUNTIME_CLASS_E(CObject_E), &Holder::first, handles);
+    return std::unique_ptr<CHandleMap_E>(
+        vx::detail::makeHandleMap<T>(RUNTIME_CLASS_E(CObject_E), field, handles));
 }
 
-TEST(HandleMap, TemporaryObjectsAreKeptUntilDeleted)
+TEST(HandleMap, TemporaryObjectsAreKeptAndPermanentOnesWin)
 {
-    const std::unique_ptr<CHandleMap_E> map(makeMap(1));
+    const auto map = makeMap(&Holder::first);
     EXPECT_EQ(map->FromHandle(nullptr), nullptr);
     EXPECT_EQ(map->LookupTemporary(handle(1)), nullptr);
     auto* const object = static_cast<Holder*>(map->FromHandle(handle(1)));
-    EXPECT_EQ(object->first, handle(1));
     EXPECT_EQ(object->second, nullptr) << "one handle";
     object->first = nullptr;
     EXPECT_EQ(map->FromHandle(handle(1)), object);
     EXPECT_EQ(object->first, handle(1)) << "rewritten";
-    EXPECT_EQ(map->LookupTemporary(handle(1)), object);
     EXPECT_EQ(map->LookupPermanent(handle(1)), nullptr);
+    CObject_E one, two;
+    for (CObject_E* permanent : {&one, &two}) {
+        map->SetPermanent(handle(1), permanent);
+        map->SetPermanent(handle(2), permanent);
+        EXPECT_EQ(map->FromHandle(handle(1)), permanent);
+    }
     map->RemoveHandle(handle(1));
-    EXPECT_EQ(map->LookupTemporary(handle(1)), object) << "removes permanent entries only";
+    EXPECT_EQ(map->FromHandle(handle(1)), object) << "removes permanent entries only";
     map->DeleteTemp();
     EXPECT_EQ(alive, 0);
     EXPECT_EQ(map->LookupTemporary(handle(1)), nullptr);
-}
-
-TEST(HandleMap, PermanentEntriesWinAndAreOverwritten)
-{
-    const std::unique_ptr<CHandleMap_E> map(makeMap(2));
-    CObject_E* const temporary = map->FromHandle(handle(2));
-    EXPECT_EQ(static_cast<Holder*>(temporary)->second, handle(2)) << "two handles";
-    CObject_E one, two;
-    map->SetPermanent(handle(2), &one);
-    EXPECT_EQ(map->FromHandle(handle(2)), &one);
-    map->SetPermanent(handle(2), &two);
     EXPECT_EQ(map->LookupPermanent(handle(2)), &two);
-    map->DeleteTemp();
-    EXPECT_EQ(map->FromHandle(handle(2)), &two);
-    map->RemoveHandle(handle(2));
-    EXPECT_NE(map->FromHandle(handle(2)), &two);
 }
 
 TEST(HandleMap, ManyObjectsDoNotOverlapAndDieWithTheMap)
 {
-    std::unique_ptr<CHandleMap_E> map(makeMap(2));
-    const auto object = [&](std::uintptr_t i) {
-        return static_cast<Holder*>(map->FromHandle(handle(i)));
-    };
-    for (std::uintptr_t i = 1; i <= 500; ++i)
-        object(i)->more[199] = static_cast<char>(i % 100);
-    EXPECT_EQ(alive, 500);
-    for (std::uintptr_t i = 1; i <= 500; ++i) {
-        ASSERT_EQ(object(i)->first, handle(i));
-        ASSERT_EQ(object(i)->second, handle(i));
-        ASSERT_EQ(object(i)->more[199], static_cast<char>(i % 100));
+    auto map = makeMap(&Holder::first, 2);
+    for (const bool made : {false, true}) {
+        for (std::uintptr_t i = 1; i <= 500; ++i) {
+            auto* const object = static_cast<Holder*>(map->FromHandle(handle(i)));
+            ASSERT_EQ(object->first, handle(i));
+            ASSERT_EQ(object->second, handle(i)) << "two handles";
+            ASSERT_EQ(object->more[199], made ? static_cast<char>(i % 100) : 0);
+            object->more[199] = static_cast<char>(i % 100);
+        }
+        EXPECT_EQ(alive, 500);
     }
     map.reset();
     EXPECT_EQ(alive, 0);
@@ -86,55 +76,26 @@ struct Failing : CObject_E
 
 TEST(HandleMap, AFailedConstructionLeavesNothingBehind)
 {
-    const std::unique_ptr<CHandleMap_E> map(
-        vx::detail::makeHandleMap<Failing>(RUNTIME_CLASS_E(CObject_E), &Failing::handle));
+    const auto map = makeMap(&Failing::handle);
     EXPECT_THROW(map->FromHandle(handle(1)), int);
     EXPECT_EQ(map->LookupTemporary(handle(1)), nullptr);
 }
 
-template <typename T>
-class HandleHolder : public testing::Test
+TEST(HandleHolder, AttachAndTemporary)
 {
-};
-using Holders = testing::Types<CDC_E, CGdiObject_E, CImageList_E>;
-TYPED_TEST_SUITE(HandleHolder, Holders);
-
-void* handleOf(const CDC_E* object) { return object->GetSafeHdc(); }
-template <typename T>
-void* handleOf(const T* object)
-{
-    return object->GetSafeHandle();
-}
-
-TYPED_TEST(HandleHolder, AttachAndTemporary)
-{
-    EXPECT_EQ(TypeParam::FromHandle(nullptr), nullptr);
     {
-        TypeParam object;
-        EXPECT_EQ(handleOf(&object), nullptr);
-        EXPECT_EQ(object.Attach(nullptr), FALSE);
-        EXPECT_EQ(object.Attach(handle(3)), TRUE);
-        EXPECT_EQ(TypeParam::FromHandle(handle(3)), &object);
-        EXPECT_EQ(object.Attach(handle(4)), TRUE);
-        EXPECT_NE(TypeParam::FromHandle(handle(3)), &object);
-        EXPECT_EQ(object.Detach(), handle(4));
-        EXPECT_EQ(object.Detach(), nullptr);
-        object.Attach(handle(4));
+        CImageList_E list;
+        EXPECT_FALSE(list.Attach(nullptr));
+        EXPECT_TRUE(list.Attach(handle(3)) && list.Attach(handle(4)));
+        EXPECT_NE(CImageList_E::FromHandle(handle(3)), &list);
+        EXPECT_EQ(CImageList_E::FromHandle(handle(4)), &list);
+        EXPECT_EQ(list.Detach(), handle(4));
+        EXPECT_EQ(list.Detach(), nullptr);
+        list.Attach(handle(4));
     }
-    TypeParam* const temporary = TypeParam::FromHandle(handle(4));
-    EXPECT_EQ(handleOf(temporary), handle(4));
-    EXPECT_EQ(TypeParam::FromHandle(handle(4)), temporary);
-    TypeParam::DeleteTempMap();
-}
-
-TEST(DeviceContext, BothHandlesFollow)
-{
-    CDC_E dc;
-    dc.Attach(handle(5));
-    EXPECT_EQ(dc.m_hAttribDC, handle(5));
-    dc.Detach();
-    EXPECT_EQ(dc.m_hAttribDC, nullptr);
-    EXPECT_EQ(CDC_E::FromHandle(handle(6))->m_hAttribDC, handle(6));
+    EXPECT_EQ(CImageList_E::FromHandle(handle(4))->Detach(), handle(4)) << "a temporary one";
+    CImageList_E::DeleteTempMap();
+    EXPECT_EQ(CDC_E::FromHandle(handle(6))->m_hAttribDC, handle(6)) << "both handles";
     CDC_E::DeleteTempMap();
 }
 

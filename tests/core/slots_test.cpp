@@ -25,49 +25,17 @@ TEST(ThreadSlots, NeverZeroAndTheTableGrows)
     EXPECT_EQ(slots.AllocSlot(), 101) << "the rover goes first";
     for (int i = 102; i < 128; ++i)
         slots.AllocSlot();
-    EXPECT_EQ(slots.AllocSlot(), 7) << "then the lowest free one";
-    EXPECT_EQ(slots.AllocSlot(), 40);
-    EXPECT_EQ(slots.AllocSlot(), 128);
-}
-
-TEST(ThreadSlots, NumbersThatAreNoSlotAreIgnored)
-{
-    CThreadSlotData_E slots;
-    slots.AllocSlot();
+    for (const int next : {7, 40, 128}) // then the lowest free one
+        EXPECT_EQ(slots.AllocSlot(), next);
     Value value;
-    for (const int number : {0, -1, 2, 1 << 30}) {
-        slots.SetValue(number, &value);
-        slots.FreeSlot(number);
-        EXPECT_EQ(slots.GetThreadValue(number), nullptr) << number;
+    for (const int none : {0, -1, 129, 1 << 30}) {
+        slots.SetValue(none, &value);
+        slots.FreeSlot(none);
+        EXPECT_EQ(slots.GetThreadValue(none), nullptr) << none;
     }
 }
 
-TEST(ThreadSlots, EachThreadHasItsValueAndFreeingDeletesAll)
-{
-    CThreadSlotData_E slots;
-    const int first = slots.AllocSlot();
-    auto* const mine = new Value;
-    slots.SetValue(first, mine);
-    std::thread([&] {
-        EXPECT_EQ(slots.GetThreadValue(first), nullptr);
-        slots.SetValue(first, new Value);
-        EXPECT_NE(slots.GetThreadValue(first), mine);
-    }).join();
-    EXPECT_EQ(alive, 2) << "values stay when their thread ends";
-    int last = 0;
-    while (last < 70)
-        last = slots.AllocSlot();
-    EXPECT_EQ(slots.GetThreadValue(last), nullptr) << "beyond the thread's values so far";
-    slots.SetValue(last, new Value);
-    EXPECT_EQ(slots.GetThreadValue(first), mine) << "kept when the values move";
-    slots.FreeSlot(first);
-    EXPECT_EQ(alive, 1);
-    EXPECT_EQ(slots.GetThreadValue(first), nullptr);
-    slots.FreeSlot(last);
-    EXPECT_EQ(alive, 0);
-}
-
-TEST(ThreadSlots, ValuesOfAModule)
+TEST(ThreadSlots, EachThreadHasItsValuesAndAModuleItsSlots)
 {
     CThreadSlotData_E slots;
     const int ofA = slots.AllocSlot();
@@ -75,6 +43,7 @@ TEST(ThreadSlots, ValuesOfAModule)
     const int ofB = slots.AllocSlot();
     slots.AssignInstance(&moduleB);
     const auto fill = [&] {
+        EXPECT_EQ(slots.GetThreadValue(ofA), nullptr);
         slots.SetValue(ofA, new Value);
         slots.SetValue(ofB, new Value);
     };
@@ -84,9 +53,7 @@ TEST(ThreadSlots, ValuesOfAModule)
         fill();
         filled.set_value();
         emptied.get_future().wait();
-        // The record of this thread was emptied behind its back; it goes on as if new.
-        EXPECT_EQ(slots.GetThreadValue(ofA), nullptr);
-        fill();
+        fill(); // the record of this thread was emptied behind its back; it goes on as if new
         slots.DeleteValues(nullptr, FALSE);
         fill();
     });
@@ -100,39 +67,29 @@ TEST(ThreadSlots, ValuesOfAModule)
     EXPECT_EQ(alive, 0);
     emptied.set_value();
     other.join();
-    EXPECT_EQ(alive, 2);
+    EXPECT_EQ(alive, 2) << "values stay when their thread ends";
+    fill();
+    void* const mine = slots.GetThreadValue(ofA);
+    int last = 0;
+    while (last < 70)
+        last = slots.AllocSlot();
+    EXPECT_EQ(slots.GetThreadValue(last), nullptr) << "beyond the thread's values so far";
+    slots.SetValue(last, new Value);
+    EXPECT_EQ(slots.GetThreadValue(ofA), mine) << "kept when the values move";
+    slots.FreeSlot(ofA);
+    EXPECT_EQ(alive, 3) << "freeing deletes those of all threads";
+    EXPECT_EQ(slots.GetThreadValue(ofA), nullptr);
+    slots.FreeSlot(last);
+    slots.FreeSlot(ofB);
+    EXPECT_EQ(alive, 0);
 }
 
 struct Nested : CNoTrackObject_E
 {
     static CThreadLocal_E<Value> s_other;
-    Nested() { ++alive; }
-    ~Nested() override
-    {
-        s_other->number = 1;
-        --alive;
-    }
+    ~Nested() override { s_other->number = 1; }
 };
 CThreadLocal_E<Value> Nested::s_other;
-
-TEST(ThreadLocal, MadeOnFirstUseInEachThread)
-{
-    {
-        CThreadLocal_E<Value> local;
-        EXPECT_EQ(local.GetDataNA(), nullptr);
-        EXPECT_EQ(alive, 0) << "asking makes nothing";
-        local->number = 5;
-        EXPECT_EQ(local.GetData(), local.GetDataNA());
-        EXPECT_EQ(local->number, 5);
-        std::thread([&] {
-            EXPECT_EQ(local.GetDataNA(), nullptr);
-            EXPECT_EQ(local->number, 0);
-        }).join();
-        EXPECT_EQ(alive, 2);
-        EXPECT_ANY_THROW(static_cast<CThreadLocalObject_E&>(local).GetData(nullptr));
-    }
-    EXPECT_EQ(alive, 0);
-}
 
 TEST(ThreadLocal, AValueMayUseOthersWhileItDies)
 {
@@ -176,43 +133,39 @@ TEST(ThreadLocal, TheTableComesWithTheFirstUserAndGoesWithTheLast)
     EXPECT_EQ(alive, 0);
 }
 
-TEST(ThreadLocal, ManyThreadsAtOnce)
+TEST(ThreadLocal, MadeOnFirstUseInEachOfManyThreads)
 {
     AfxTlsRelease_E();
-    CThreadLocal_E<Value> shared;
-    std::atomic<int> waiting = 8;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i) {
-        threads.emplace_back([&, i] {
-            for (--waiting; waiting > 0;)
-                std::this_thread::yield();
-            // The first use of the table, of the object and of the thread's values, all at once.
-            shared->number = i;
-            for (int round = 0; round < 300; ++round) {
-                CThreadLocal_E<Value> own;
-                own->number = round;
-                ASSERT_EQ(shared->number, i);
-                ASSERT_EQ(own->number, round);
-            }
-        });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(alive, 8);
-    AfxTlsRelease_E();
-    EXPECT_EQ(alive, 0);
-}
-
-TEST(ProcessLocal, MadeOnceAndDeletedWithItsHolder)
-{
     {
-        CProcessLocal_E<Value> local;
-        EXPECT_ANY_THROW(static_cast<CProcessLocalObject_E&>(local).GetData(nullptr));
-        local->number = 9;
-        std::thread([&] { EXPECT_EQ(local->number, 9); }).join();
-        EXPECT_EQ(alive, 1);
+        CThreadLocal_E<Value> shared;
+        CProcessLocal_E<Value> common;
+        EXPECT_ANY_THROW(static_cast<CThreadLocalObject_E&>(shared).GetData(nullptr));
+        EXPECT_ANY_THROW(static_cast<CProcessLocalObject_E&>(common).GetData(nullptr));
+        common->number = 5;
+        std::atomic<int> waiting = 8;
+        std::vector<std::thread> threads;
+        for (int i = 0; i < 8; ++i) {
+            threads.emplace_back([&, i] {
+                for (--waiting; waiting > 0;)
+                    std::this_thread::yield();
+                // The first use of the table, of the object and of the thread's values, all at
+                // once.
+                EXPECT_EQ(shared.GetDataNA(), nullptr) << "asking makes nothing";
+                EXPECT_EQ(std::exchange(shared->number, i), 0);
+                for (int round = 0; round < 300; ++round) {
+                    CThreadLocal_E<Value> own;
+                    own->number = round;
+                    ASSERT_EQ(shared.GetDataNA()->number, i);
+                    ASSERT_EQ(own->number, round);
+                    ASSERT_EQ(common->number, 5);
+                }
+            });
+        }
+        for (std::thread& thread : threads)
+            thread.join();
+        EXPECT_EQ(alive, 9);
     }
-    EXPECT_EQ(alive, 0);
+    EXPECT_EQ(alive, 0) << "deleted with their holders";
 }
 
 } // namespace
