@@ -1,6 +1,7 @@
 #include <VxMFCEmu/core/log.h>
 #include <VxMFCEmu/text/vxqstring.h>
 
+#include <QtCore/QCalendar>
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>
 
@@ -15,6 +16,9 @@
 namespace {
 
 using LinkText = std::array<char, 1024>;
+
+// Calendars are there while it is: Qt could not write the date when static objects log at the end.
+const QCalendar g_calendar;
 
 /// Read once. A plain array, which is still there when the destructors of static objects log.
 const LinkText& executableLink()
@@ -79,8 +83,8 @@ void vxLogPrintf(const wchar_t* lpszFormat, ...)
         QFile::encodeName(VxQString(GetMainDirectory()) + QLatin1String("/Common/Plok.log"));
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
-    const QString time =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss ddd"));
+    const QString time = QDateTime::currentDateTime().toString(
+        QStringLiteral("yyyy-MM-dd hh:mm:ss ddd"), g_calendar);
     const QByteArray line = '[' + time.toUtf8() + "] " + VxQString(message).toUtf8() + '\n';
     appendToFile(path.constData(), line);
 }
