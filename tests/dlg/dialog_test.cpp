@@ -158,6 +158,7 @@ TEST(Dialog, InvalidInputShowsItsMessageAndLeavesTheDialogOpen)
         EXPECT_EQ(QApplication::activeModalWidget(), dialog) << "one box for both failures";
         ASSERT_TRUE(vxtest::showAndActivate(dialog));
         EXPECT_TRUE(pEdit->hasFocus());
+        ASSERT_EQ(pEdit->selectedText(), "x"_q);
         vxtest::typeKey(XK_7); // in place of what is selected
         vxtest::typeKey(XK_Return);
     });
