@@ -1,36 +1,21 @@
 // Commands and their state: from actions and buttons to the handlers of a message map.
-#include "support/test.h"
+#include "modal.h"
 
 namespace {
 
 class CommandDlg : public CDialog_E
 {
 public:
-    using CDialog_E::CDialog_E;
-
-    void OnOK() override { ++oks; }
+    void OnOK() override { notes += "OnOK "; }
     void OnApply() { onApply(); }
-    void OnZoom() { ++zooms; }
-    void OnLate() { ++lates; }
-    void OnPick(UINT nID) { picked.push_back(nID); }
-    void OnUpdatePick(CCmdUI_E*)
-    {
-        ++depth;
-        maxDepth = std::max(maxDepth, depth);
-        onUpdatePick();
-        --depth;
-    }
-    void OnUpdateZoom(CCmdUI_E* pCmdUI)
-    {
-        pCmdUI->Enable(enabled);
-        ++updates;
-    }
+    void OnZoom() { notes += "zoom "; }
+    void OnPick(UINT nID) { notes += std::to_string(nID) + ' '; }
+    void OnUpdatePick(CCmdUI_E*) { onUpdatePick(); }
+    void OnUpdateZoom(CCmdUI_E* pCmdUI) { pCmdUI->Enable(++updates > 20); }
 
-    int oks = 0, zooms = 0, lates = 0, updates = 0;
-    BOOL enabled = TRUE;
-    int depth = 0, maxDepth = 0;
-    std::vector<UINT> picked;
-    std::function<void()> onApply = [] {}, onUpdatePick = [] {};
+    std::string notes;
+    int updates = 0;
+    std::function<void()> onApply = [this] { notes += "apply "; }, onUpdatePick = [] {};
     DECLARE_MESSAGE_MAP_E()
 };
 
@@ -40,8 +25,7 @@ ON_BN_CLICKED_E(IDOK, &CommandDlg::OnApply)
 ON_BN_CLICKED_E(1020, &CommandDlg::OnApply)
 ON_COMMAND_E(1021, &CommandDlg::OnZoom)
 ON_UPDATE_COMMAND_UI_E(1021, &CommandDlg::OnUpdateZoom)
-ON_COMMAND_E(1022, &CommandDlg::OnLate)
-ON_COMMAND_E(4711, &CommandDlg::OnLate)
+ON_COMMAND_E(4711, &CommandDlg::OnZoom)
 ON_COMMAND_RANGE_E(1023, 1030, &CommandDlg::OnPick)
 ON_UPDATE_COMMAND_UI_RANGE_E(1023, 1030, &CommandDlg::OnUpdatePick)
 END_MESSAGE_MAP_E()
@@ -59,147 +43,94 @@ bool waitIdle(const std::function<bool()>& done)
 
 struct CommandTest : testing::Test
 {
+    CommandTest() { m_pWindow->SubclassWindow(m_pWidget.get()); }
     template <typename Object>
     Object* add(const char* name)
     {
-        auto* const pObject = new Object(&m_widget);
+        auto* const pObject = new Object(m_pWidget.get());
         pObject->setObjectName(QLatin1String(name));
         return pObject;
     }
-    QDialog m_widget;
+    std::unique_ptr<QDialog> m_pWidget{new QDialog};
     QPushButton* const m_pOk = add<QPushButton>("OK");
     QPushButton* const m_pApply = add<QPushButton>("apply");
     QAction* const m_pApplyAction = add<QAction>("apply");
     QAction* const m_pZoom = add<QAction>("zoom");
     QPushButton* const m_pZoomButton = add<QPushButton>("zoom");
-    CommandDlg m_window;
-    int m_applied = 0;
-
-    CommandTest()
-    {
-        m_window.onApply = [this] { ++m_applied; };
-        EXPECT_TRUE(m_window.SubclassWindow(&m_widget));
-    }
+    std::unique_ptr<CommandDlg> m_pWindow{new CommandDlg};
 };
 
 TEST_F(CommandTest, ReachTheHandlers)
 {
     m_pApply->click();
-    EXPECT_EQ(m_applied, 1);
-    m_pApplyAction->trigger();
-    EXPECT_EQ(m_applied, 1) << "the button has the name too";
+    m_pApplyAction->trigger(); // the button has the name too
     m_pZoom->trigger();
-    m_pZoomButton->click();
-    EXPECT_EQ(m_window.zooms, 1);
+    m_pZoomButton->click(); // the action has it
     m_pOk->click();
-    EXPECT_EQ(m_applied, 2) << "the last one registered";
-    EXPECT_EQ(m_window.oks, 0) << "the command takes the place of OnOK()";
-    m_window.Detach();
+    EXPECT_EQ(m_pWindow->notes, "apply zoom apply ") << "the last one registered, not OnOK()";
+    m_pWindow->Detach();
     m_pApply->click();
-    EXPECT_EQ(m_applied, 2);
-    m_window.SubclassWindow(&m_widget);
+    m_pWindow->SubclassWindow(m_pWidget.get());
     m_pApply->click();
-    EXPECT_EQ(m_applied, 3) << "connected once";
-}
-
-TEST_F(CommandTest, StateFollowsAtIdleTime)
-{
-    for (const BOOL enabled : {FALSE, TRUE}) {
-        m_window.enabled = enabled;
-        EXPECT_TRUE(waitIdle([&] { return m_pZoom->isEnabled() == (enabled == TRUE); }));
-    }
-    EXPECT_TRUE(m_pZoomButton->isEnabled());
-}
-
-TEST_F(CommandTest, WhatComesLaterIsFound)
-{
-    for (int round = 1; round <= 2; ++round) { // the second after the first has gone
-        const QPointer<QAction> pLate(add<QAction>("late"));
-        EXPECT_TRUE(waitIdle([&] {
-            pLate->trigger();
-            return m_window.lates >= round;
-        }));
-        delete pLate;
-    }
-}
-
-// What menus and tool buttons of the window show may belong elsewhere.
-TEST_F(CommandTest, ActionsOfOthers)
-{
-    QMenu menu, inner;
-    menu.addMenu(&inner);
-    QToolButton tool(&m_widget);
-    QAction action;
-    QMenuBar bar(&m_widget);
-    bar.addMenu(&menu);
-    inner.addAction(&action);
-    action.setObjectName("first"_q);
-    QAction second;
-    second.setObjectName("second"_q);
-    tool.setDefaultAction(&second);
-    EXPECT_TRUE(waitIdle([&] {
-        action.trigger();
-        tool.click();
-        return m_window.picked.size() >= 2;
-    }));
-    EXPECT_EQ(m_window.picked, (std::vector<UINT>{1023, 1024}));
-}
-
-TEST_F(CommandTest, UpdatesDoNotNest)
-{
-    add<QAction>("first");
-    int calls = 0;
-    m_window.onUpdatePick = [&calls] {
-        ++calls;
-        waitIdle([] { return true; });
-    };
-    EXPECT_TRUE(waitIdle([&] { return calls >= 2; }));
-    EXPECT_EQ(m_window.maxDepth, 1);
-}
-
-TEST_F(CommandTest, AnUpdateThatThrowsIsReportedOnce)
-{
-    add<QAction>("first");
-    int boxes = 0, calls = 0;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, &poll, [&boxes] {
-        QWidget* const pBox = QApplication::activeModalWidget();
-        boxes += pBox && pBox->isVisible() && pBox->close();
-    });
-    poll.start(5);
-    m_window.onUpdatePick = [&calls] {
-        ++calls;
-        AfxThrowMemoryException_E();
-    };
-    const int updates = m_window.updates;
-    EXPECT_TRUE(waitIdle([&] { return boxes > 0 && m_window.updates > updates + 20; }));
-    EXPECT_EQ(boxes, 1);
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(m_pWindow->notes, "apply zoom apply apply ") << "connected once";
 }
 
 TEST_F(CommandTest, HandlersMayThrowAndDelete)
 {
-    auto* const pOther = new CommandDlg;
-    auto* const pWidget = new QDialog;
-    auto* const pButton = new QPushButton(pWidget);
-    pButton->setObjectName("apply"_q);
-    pOther->SubclassWindow(pWidget);
-    QTimer poll;
-    bool reported = false;
-    QObject::connect(&poll, &QTimer::timeout, &poll, [&reported] {
-        QWidget* const pBox = QApplication::activeModalWidget();
-        if (pBox && pBox->isVisible())
-            reported = pBox->close();
-    });
-    poll.start(5);
-    pOther->onApply = [] { AfxThrowMemoryException_E(); };
-    pButton->click();
-    EXPECT_TRUE(reported);
-    pOther->onApply = [=] {
-        const std::unique_ptr<QWidget> widget(pWidget); // what was captured goes with the window
-        delete pOther;
+    m_pWindow->onApply = [] { AfxThrowMemoryException_E(); };
+    withBox([this] { m_pApply->click(); }, closeBox);
+    m_pWindow->onApply = [this] {
+        const auto pWidget = std::move(m_pWidget); // what was captured goes with the window
+        m_pWindow.reset();
     };
-    pButton->click();
+    m_pApply->click();
+    EXPECT_FALSE(m_pWidget);
+}
+
+TEST_F(CommandTest, UpdatesRunAtIdleTimeOneAtATimeUntilTheyThrow)
+{
+    add<QAction>("first");
+    int depth = 0, calls = 0;
+    m_pWindow->onUpdatePick = [&] {
+        EXPECT_EQ(++depth, 1);
+        waitIdle([] { return true; });
+        --depth;
+        if (++calls == 2)
+            AfxThrowMemoryException_E();
+    };
+    const auto wait = [&] {
+        EXPECT_TRUE(waitIdle([&] { return !m_pZoom->isEnabled(); }));
+        EXPECT_TRUE(waitIdle([&] { return m_pZoom->isEnabled() && calls >= 2; }));
+        const int updates = m_pWindow->updates;
+        EXPECT_TRUE(waitIdle([&] { return m_pWindow->updates > updates + 5; }));
+    };
+    withBox(wait, closeBox);
+    EXPECT_EQ(calls, 2) << "reported once";
+    EXPECT_TRUE(m_pZoomButton->isEnabled());
+}
+
+// What menus and tool buttons of the window show may belong elsewhere.
+TEST_F(CommandTest, WhatComesLaterAndBelongsToOthersIsFound)
+{
+    for (int round = 0; round < 2; ++round) { // the second after the first has gone
+        QMenu menu, inner;
+        menu.addMenu(&inner);
+        QMenuBar bar(m_pWidget.get());
+        bar.addMenu(&menu);
+        QToolButton tool(m_pWidget.get());
+        QAction first, second;
+        first.setObjectName("first"_q);
+        inner.addAction(&first);
+        second.setObjectName("second"_q);
+        tool.setDefaultAction(&second);
+        m_pWindow->notes.clear();
+        EXPECT_TRUE(waitIdle([&] {
+            first.trigger();
+            tool.click();
+            return m_pWindow->notes.size() >= 10;
+        }));
+        EXPECT_EQ(m_pWindow->notes, "1023 1024 ");
+    }
 }
 
 } // namespace
