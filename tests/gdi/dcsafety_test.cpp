@@ -223,6 +223,7 @@ TEST(DcResults, WithAndWithoutADevice)
     CDC_E none, noImage(static_cast<QImage*>(nullptr)), noWidget(static_cast<QWidget*>(nullptr)),
         dead(pWidget.get());
     CClientDC_E noWindow(static_cast<CWnd_E*>(nullptr));
+    CPaintDC_E noPaint(static_cast<CWnd_E*>(nullptr));
     pWidget.reset();
     CPen_E pen(PS_SOLID, 1, RGB(1, 2, 3));
     CBrush_E brush(RGB(1, 2, 3));
@@ -230,7 +231,8 @@ TEST(DcResults, WithAndWithoutADevice)
     CRgn_E empty;
     tagRECT rect{0, 0, 5, 5}, *const pNone = nullptr;
     constexpr tagPOINT kPoints[] = {{0, 0}, {5, 0}, {5, 5}, {0, 5}};
-    const std::reference_wrapper<CDC_E> all[] = {none, noImage, noWidget, noWindow, dead, image.dc};
+    const std::reference_wrapper<CDC_E> all[] = {none,    noImage, noWidget, noWindow,
+                                                 noPaint, dead,    image.dc};
     for (CDC_E& dc : all) {
         EXPECT_NE(dc.SelectObject(&pen), nullptr);
         dc.SelectObject(&brush);
@@ -269,8 +271,19 @@ TEST(DcResults, WithAndWithoutADevice)
                  none.BitBlt(0, 0, 3, 3, &dead, 0, 0, SRCCOPY),
                  none.TransparentBlt(0, 0, 3, 3, &dead, 0, 0, 3, 3, 0), none.TextOut(0, 0, L"a", 1),
                  none.GetClipBox(&rect), none.GetDeviceCaps(HORZRES)});
-    EXPECT_EQ(image.dc.GetDeviceCaps(HORZRES), 60);
-    EXPECT_EQ(image.dc.GetDeviceCaps(LOGPIXELSX), image.image.logicalDpiX());
+    const QImage& device = image.image;
+    const Row<int, int> caps[] = {{TECHNOLOGY, DT_RASDISPLAY},
+                                  {HORZSIZE, device.widthMM()},
+                                  {VERTSIZE, device.heightMM()},
+                                  {HORZRES, 60},
+                                  {VERTRES, 50},
+                                  {BITSPIXEL, 32},
+                                  {PLANES, 1},
+                                  {LOGPIXELSX, device.logicalDpiX()},
+                                  {LOGPIXELSY, device.logicalDpiY()},
+                                  {-1, 0}};
+    forRows(caps,
+            [&](int nIndex, int expected) { EXPECT_EQ(image.dc.GetDeviceCaps(nIndex), expected); });
     EXPECT_EQ(none.GetPixel(0, 0), CLR_INVALID);
     EXPECT_EQ(GetDC_E(nullptr), nullptr);
 }
