@@ -1,11 +1,33 @@
+// Buttons and static controls: their styles, their checks and their images.
 #include "controls.h"
-#include "support/xinput.h"
+
+#include <VxCustomUI.h>
 
 #include <QtTest/QSignalSpy>
 
 namespace {
 
 using namespace vxtest;
+
+/// Images by member and by the messages that set one and ask for it.
+template <typename Control>
+void checkImages(Control& control, UINT set, UINT get)
+{
+    QImage image(12, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QIcon icon(QPixmap::fromImage(image));
+    EXPECT_TRUE(control.SetBitmap(icon.pixmap(12, 10)).isNull());
+    EXPECT_EQ(control.GetBitmap().size(), image.size());
+    control.SetIcon(icon);
+    EXPECT_EQ(control.GetIcon().cacheKey(), icon.cacheKey());
+    runSteps(control, {{set, IMAGE_BITMAP, at(&image), 0}, {get, IMAGE_BITMAP, at(&image)}});
+    EXPECT_EQ(control.GetBitmap().toImage().pixelColor(3, 3), QColor(Qt::red));
+    runSteps(control, {{set, IMAGE_BITMAP, at(&image)}, {get, IMAGE_BITMAP, 0}});
+    EXPECT_TRUE(control.GetBitmap().isNull());
+    runSteps(control, {{set, IMAGE_ICON, at(&icon), 0}, {get, IMAGE_ICON, at(&icon)}});
+    runSteps(control, {{set, IMAGE_ENHMETAFILE, at(&image), 0}});
+    EXPECT_EQ(control.GetIcon().cacheKey(), icon.cacheKey());
+}
 
 TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
 {
@@ -46,8 +68,7 @@ TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
         pButton->SetWindowText(L"&Text");
         EXPECT_EQ(pWidget->property(set == BS_GROUPBOX ? "title" : "text"), "&Text"_q);
         for (const int nSet : {1, 2, 3, -1, 0}) {
-            const Steps check = {{BM_SETCHECK, nSet, 0}, {BM_GETCHECK, *pszStates++ - '0'}};
-            runSteps(pWidget, check);
+            runSteps(pWidget, {{BM_SETCHECK, nSet, 0}, {BM_GETCHECK, *pszStates++ - '0'}});
         }
     });
     CButton_E found;
@@ -60,57 +81,66 @@ TEST(Button, StyleAndCheckOfMadeAndFoundButtons)
     ClearTempObjectPool();
 }
 
-TEST(Button, CheckInAGroupAndClick)
+TEST(Button, ClicksAndImages)
 {
-    QWidget parent;
-    CButton_E radios[2];
-    for (CButton_E& radio : radios) {
-        ASSERT_TRUE(radio.Create(L"", BS_AUTORADIOBUTTON, kPlace, &parent));
-        radio.SetCheck(1);
-    }
-    EXPECT_EQ(radios[0].GetCheck(), 0);
-    radios[1].SetCheck(0);
-    EXPECT_EQ(radios[1].GetCheck(), 1) << "one of a group stays checked";
-    const QSignalSpy clicks(radios[1].GetSafeHwnd(), SIGNAL(clicked()));
-    radios[0].Click();
-    radios[1].SetCheck(1);
-    EXPECT_EQ(clicks.count(), 0);
-    radios[0].Click();
-    radios[1].SendMessage(BM_CLICK);
-    EXPECT_EQ(clicks.count(), 1);
-    EXPECT_EQ(radios[1].GetCheck(), 1);
-}
-
-TEST(Button, Images)
-{
-    CButton_E button;
-    ASSERT_TRUE(button.Create(L"&Go", 0, kPlace, static_cast<QWidget*>(nullptr)));
-    EXPECT_EQ(button.GetSafeHwnd()->geometry(), QRect(10, 20, 100, 30));
-    EXPECT_EQ(button.GetSafeHwnd()->property("text"), "&Go"_q);
-    checkImages(button, BM_SETIMAGE, BM_GETIMAGE);
-    tagSIZE size{};
-    EXPECT_TRUE(button.GetIdealSize(&size) && size.cx > 0 && !button.GetIdealSize(nullptr));
-}
-
-TEST(Button, RealClicksAndFocus)
-{
-    VXTEST_NEEDS_X11();
-    QWidget window;
     CButton_E box;
-    CButton_E push;
-    ASSERT_TRUE(box.Create(L"three", BS_AUTO3STATE | WS_VISIBLE, kPlace, &window));
-    ASSERT_TRUE(push.Create(L"push", WS_VISIBLE, {5, 50, 105, 80}, &window));
-    ASSERT_TRUE(showAndActivate(&window));
-    for (const int nState : {2, 1, 0}) {
-        movePointer(box.GetSafeHwnd(), {10, 15});
-        clickButton(1);
-        EXPECT_TRUE(waitUntil([&] { return box.GetCheck() == nState; })) << nState;
+    ASSERT_TRUE(box.Create(L"&Go", BS_AUTOCHECKBOX, kPlace, static_cast<QWidget*>(nullptr)));
+    EXPECT_EQ(box.GetSafeHwnd()->geometry(), QRect(10, 20, 100, 30));
+    EXPECT_EQ(box.GetSafeHwnd()->property("text"), "&Go"_q);
+    const QSignalSpy clicks(box.GetSafeHwnd(), SIGNAL(clicked()));
+    box.SetCheck(1);
+    EXPECT_EQ(clicks.count(), 0);
+    box.Click();
+    runSteps(box, {{BM_GETCHECK, 0}, {BM_CLICK, 0}, {BM_GETCHECK, 1}});
+    EXPECT_EQ(clicks.count(), 2);
+    checkImages(box, BM_SETIMAGE, BM_GETIMAGE);
+    tagSIZE size{};
+    EXPECT_TRUE(box.GetIdealSize(&size) && size.cx > 0 && !box.GetIdealSize(nullptr));
+}
+
+TEST(Static, StyleOfWhatIsMade)
+{
+    CWnd_E window;
+    ASSERT_TRUE(window.Create(static_cast<QWidget*>(nullptr)));
+    const Row<DWORD, int, bool, int> rows[] = {
+        {SS_LEFT, Qt::AlignLeft | Qt::AlignTop, true, QFrame::NoFrame},
+        {SS_CENTER | SS_CENTERIMAGE, Qt::AlignCenter, true, QFrame::NoFrame},
+        {SS_LEFTNOWORDWRAP, Qt::AlignLeft | Qt::AlignTop, false, QFrame::NoFrame},
+        {SS_ETCHEDHORZ, Qt::AlignLeft | Qt::AlignTop, false, QFrame::HLine},
+        {SS_BITMAP | SS_CENTERIMAGE, Qt::AlignCenter, false, QFrame::NoFrame},
+        {SS_SIMPLE | SS_SUNKEN, Qt::AlignLeft | Qt::AlignTop, false, QFrame::Panel},
+    };
+    forRows(rows, [&](DWORD dwStyle, int alignment, bool bWrap, int shape) {
+        CStatic_E label;
+        ASSERT_EQ(label.Create(L"Text", dwStyle, kPlace, &window), 1);
+        // clang-format off
+        runSteps(label, {
+            {"text", "Text"_q}, {"alignment", alignment}, {"wordWrap", bWrap},
+            {"frameShape", shape},
+        });
+        // clang-format on
+    });
+}
+
+TEST(Static, TextAndImages)
+{
+    CStatic_E made;
+    ASSERT_TRUE(made.Create(nullptr, SS_LEFT, {}, nullptr));
+    QLabel label;
+    VxCUILabel companion;
+    for (QWidget* const pWidget : std::initializer_list<QWidget*>{made, &label, &companion}) {
+        auto* const pStatic = qobject_cast<CStatic_E*>(CWnd_E::FromHandle(pWidget));
+        ASSERT_TRUE(pStatic);
+        pStatic->SetWindowText(L"A & B");
+        CString_E strText;
+        pStatic->GetWindowText(strText);
+        EXPECT_STREQ(strText.GetString(), L"A & B");
+        checkImages(*pStatic, STM_SETIMAGE, STM_GETIMAGE);
+        EXPECT_NE(pStatic->SendMessage(STM_GETICON), 0);
+        EXPECT_NE(pStatic->SendMessage(STM_SETICON), 0);
+        EXPECT_EQ(pStatic->SendMessage(STM_GETICON), 0);
     }
-    push.SetState(TRUE);
-    EXPECT_EQ(push.GetState(), 8U);
-    EXPECT_EQ(box.SendMessage(BM_GETSTATE), 0);
-    push.SendMessage(BM_SETSTATE, FALSE);
-    EXPECT_EQ(push.GetState(), 0U);
+    ClearTempObjectPool();
 }
 
 } // namespace

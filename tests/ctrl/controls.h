@@ -9,21 +9,6 @@ namespace vxtest {
 constexpr tagRECT kPlace{10, 20, 110, 50};
 constexpr UINT kItem = 1001;
 
-template <typename Control, typename Widget, typename Check>
-void checkFound(const Check& check)
-{
-    SCOPED_TRACE(Widget::staticMetaObject.className());
-    QDialog form;
-    (new Widget(&form))->setObjectName("item"_q);
-    CWnd_E dialog;
-    dialog.SubclassWindow(&form);
-    auto* const pControl = qobject_cast<Control*>(dialog.GetDlgItem(int(kItem)));
-    ASSERT_TRUE(pControl);
-    EXPECT_TRUE(pControl->IsTemporary());
-    check(*pControl);
-    ClearTempObjectPool(); // as the next idle time would
-}
-
 /// Calls @p check with a control made by Create() and with those of the form widgets @p Widgets.
 template <typename Control, typename... Widgets, typename Check>
 void forMadeAndFound(DWORD style, const Check& check)
@@ -38,49 +23,55 @@ void forMadeAndFound(DWORD style, const Check& check)
     EXPECT_FALSE(made.GetSafeHwnd()->isHidden());
     EXPECT_EQ(dialog.GetDlgItem(int(kItem)), &made);
     check(made);
-    (checkFound<Control, Widgets>(check), ...);
+    const auto checkFound = [&check](QWidget* pWidget) {
+        SCOPED_TRACE(pWidget->metaObject()->className());
+        auto* const pControl = qobject_cast<Control*>(CWnd_E::FromHandle(pWidget));
+        ASSERT_TRUE(pControl && pControl->IsTemporary());
+        check(*pControl);
+        ClearTempObjectPool(); // as the next idle time would
+    };
+    (checkFound(new Widgets(&form)), ...);
 }
 
 /// The items of a combo box or a list box, the selected ones marked, and the text to be edited.
-inline QString itemsOf(const QWidget* pWidget)
+inline QString shownBy(QWidget* pWidget)
 {
+    if (const auto* const pText = qobject_cast<QTextEdit*>(pWidget))
+        return pText->toPlainText();
     QStringList items;
-    const auto* const pCombo = qobject_cast<const QComboBox*>(pWidget);
+    auto* const pCombo = qobject_cast<QComboBox*>(pWidget);
     for (int i = 0; pCombo && i < pCombo->count(); ++i)
         items += pCombo->itemText(i) + (i == pCombo->currentIndex() ? "*"_q : ""_q);
-    const auto* const pList = qobject_cast<const QListWidget*>(pWidget);
+    const auto* const pList = qobject_cast<QListWidget*>(pWidget);
     for (int i = 0; pList && i < pList->count(); ++i)
         items += pList->item(i)->text() + (pList->item(i)->isSelected() ? "*"_q : ""_q);
-    const bool bText = pCombo && pCombo->isEditable();
-    return items.join(u',') + (bText ? " @"_q + pCombo->currentText() : QString());
+    const auto* const pLine = pCombo ? pCombo->lineEdit() : qobject_cast<QLineEdit*>(pWidget);
+    return items.join(u',') + (pCombo && pLine ? " @"_q : ""_q) + (pLine ? pLine->text() : ""_q);
 }
 
 /// What a control is told, or how it is then.
 struct Step
 {
     /// A message, its parameters as far as they are not 0, and its result.
-    Step(UINT nMessage, LPARAM w, LPARAM l, LRESULT nResult)
-        : ask([=](const auto& send, QWidget*) { return qlonglong{send(nMessage, w, l)}; }),
-          expected(qlonglong{nResult})
+    Step(UINT nMessage, LPARAM w, LPARAM l, LRESULT nResult) : expected(qlonglong{nResult})
     {
+        ask = [=](const auto& send, QWidget*) { return qlonglong{send(nMessage, w, l)}; };
     }
     Step(UINT nMessage, LPARAM w, LRESULT nResult) : Step(nMessage, w, 0, nResult) {}
     Step(UINT nMessage, LRESULT nResult) : Step(nMessage, 0, 0, nResult) {}
     /// A property of the widget.
-    Step(const char* pszName, const QVariant& value)
-        : ask([=](const auto&, QWidget* pWidget) { return pWidget->property(pszName); }),
-          expected(value)
+    Step(const char* pszName, const QVariant& value) : expected(value)
     {
+        ask = [=](const auto&, QWidget* pWidget) { return pWidget->property(pszName); };
     }
     /// What a message has left in a buffer.
-    Step(const wchar_t* pszBuffer, const QString& text)
-        : ask([=](const auto&, QWidget*) { return QString::fromWCharArray(pszBuffer); }),
-          expected(text)
+    Step(const wchar_t* pszBuffer, const QString& text) : expected(text)
     {
+        ask = [=](const auto&, QWidget*) { return QString::fromWCharArray(pszBuffer); };
     }
-    /// The items.
-    Step(const QString& items)
-        : ask([](const auto&, QWidget* pWidget) { return itemsOf(pWidget); }), expected(items)
+    /// The items or the text.
+    Step(const QString& shown)
+        : ask([](const auto&, QWidget* pWidget) { return shownBy(pWidget); }), expected(shown)
     {
     }
     using Send = std::function<LRESULT(UINT, LPARAM, LPARAM)>;
@@ -112,11 +103,6 @@ inline void runSteps(QWidget* pWidget, const Steps& steps)
     });
 }
 
-inline void runSteps(CWnd_E& control, const Steps& steps)
-{
-    runSteps(control.GetSafeHwnd(), steps);
-}
-
 /// Walks through @p steps with a made control, with found ones, with form widgets that no window is
 /// bound to and with such that a plain one is bound to.
 template <typename Control, typename... Widgets>
@@ -124,25 +110,24 @@ void runSteps(DWORD style, const Steps& steps)
 {
     forMadeAndFound<Control, Widgets...>(
         style, [&](Control& control) { runSteps(control.GetSafeHwnd(), steps); });
-    const auto runPlain = [&](auto* pWidget, bool bound) {
+    const auto runPlain = [&](const std::unique_ptr<QWidget>& widget, bool bound) {
         SCOPED_TRACE(bound ? "bound to a plain window" : "not bound");
         CWnd_E plain;
         if (bound)
-            plain.SubclassWindow(pWidget);
-        runSteps(pWidget, steps);
-        delete pWidget;
+            plain.SubclassWindow(widget.get());
+        runSteps(widget.get(), steps);
     };
-    (runPlain(new Widgets, false), ...);
-    (runPlain(new Widgets, true), ...);
+    (runPlain(std::make_unique<Widgets>(), false), ...);
+    (runPlain(std::make_unique<Widgets>(), true), ...);
 }
 
 /// Sends messages that must give their failure to a control that has no widget, to one whose widget
 /// is gone, and to one whose widget is of another class; calls @p check with each.
-template <typename Control>
+template <typename Control, typename Other = QGroupBox>
 void forUnusable(const Steps& failures, const std::function<void(Control&)>& check = {})
 {
     Control control;
-    QGroupBox other;
+    Other other;
     for (const int i : {0, 1, 2}) {
         if (QWidget parent; i == 1) {
             ASSERT_TRUE(control.CWnd_E::Create(0, kPlace, &parent));
@@ -160,41 +145,15 @@ void forUnusable(const Steps& failures, const std::function<void(Control&)>& che
     control.SetImpQObject(nullptr);
 }
 
-/// What setting a selection leaves of "123456" where 1 to 1 was selected before, the end and the
-/// start in the halves: of a single line, of many, and of the line of a combo box.
-struct Selection
-{
-    int nStart, nEnd;
-    DWORD line, lines, combo;
-};
-constexpr Selection kSelections[] = {
+/// What setting a selection from one position to another leaves of "123456" where 1 to 1 was
+/// selected before, the end and the start in the halves: of a single line, of many, and of the line
+/// of a combo box.
+constexpr Row<int, int, DWORD, DWORD, DWORD> kSelections[] = {
     {0, -1, 0x60000, 0x60000, 0x60000},      {-1, 2, 0x60006, 0x60006, 0x10001},
     {2, 4, 0x40002, 0x40002, 0x40002},       {6, 6, 0x60006, 0x60006, 0x60006},
     {2, -1, 0x20000, 0x60002, 0x60002},      {4, 1, 0x40001, 0x40001, 0x40001},
     {2, INT_MAX, 0x60002, 0x60002, 0x60002}, {1, INT_MIN, 0x10000, 0x10000, 0x60001},
     {-2, 3, 0x10001, 0x60006, 0x10001},      {INT_MAX, 0, 0x10001, 0x60006, 0x60000},
 };
-
-/// Images by member and by the messages that set one and ask for it.
-template <typename Control>
-void checkImages(Control& control, UINT set, UINT get)
-{
-    QImage image(12, 10, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    const QIcon icon(QPixmap::fromImage(image));
-    EXPECT_TRUE(control.SetBitmap(icon.pixmap(12, 10)).isNull());
-    EXPECT_EQ(control.GetBitmap().size(), image.size());
-    control.SetIcon(icon);
-    EXPECT_EQ(control.GetIcon().cacheKey(), icon.cacheKey());
-    EXPECT_EQ(control.SendMessage(set, IMAGE_BITMAP, at(&image)), 0);
-    EXPECT_EQ(control.GetBitmap().toImage().pixelColor(3, 3), QColor(Qt::red));
-    EXPECT_EQ(control.SendMessage(get, IMAGE_BITMAP), at(&image));
-    EXPECT_EQ(control.SendMessage(set, IMAGE_BITMAP, 0), at(&image));
-    EXPECT_TRUE(control.GetBitmap().isNull());
-    control.SendMessage(set, IMAGE_ICON, at(&icon));
-    EXPECT_EQ(control.GetIcon().cacheKey(), icon.cacheKey());
-    EXPECT_EQ(control.SendMessage(get, IMAGE_ICON), at(&icon));
-    EXPECT_EQ(control.SendMessage(set, IMAGE_ENHMETAFILE, at(&image)), 0);
-}
 
 } // namespace vxtest

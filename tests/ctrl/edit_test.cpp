@@ -1,12 +1,7 @@
 #include "controls.h"
-#include "support/xinput.h"
-
-#include <VxCustomUI.h>
 
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
-
-#include <X11/keysym.h>
 
 namespace {
 
@@ -21,16 +16,16 @@ public:
     void SetStyle(DWORD dwStyle) { m_dwStyle = dwStyle; }
 };
 
-/// Calls @p check with edit controls of a single line, and of many lines when the second argument
-/// says so, which take a selection without the focus.
+/// Calls @p check with edit controls of a single line and of many lines, which take a selection
+/// without the focus, and with what chooses the result of the one or of the other.
 template <typename Check>
 void forKinds(const Check& check)
 {
     QWidget parent;
-    const Row<bool, QWidget*> kinds[] = {
-        {false, nullptr}, {false, new QLineEdit(&parent)}, {false, new VxCUILineEdit(&parent)},
-        {true, nullptr},  {true, new QTextEdit(&parent)},  {true, new VxCUITextEdit(&parent)},
-    };
+    const Row<bool, QWidget*> kinds[] = {{false, nullptr},
+                                         {false, new QLineEdit(&parent)},
+                                         {true, nullptr},
+                                         {true, new QTextEdit(&parent)}};
     forRows(kinds, [&](bool bText, QWidget* pFound) {
         Edit edit;
         edit.SetStyle(ES_NOHIDESEL);
@@ -38,48 +33,66 @@ void forKinds(const Check& check)
             ASSERT_TRUE(edit.SubclassWindow(pFound));
         else
             ASSERT_TRUE(edit.Create(ES_NOHIDESEL | (bText ? ES_MULTILINE : 0), kRect, &parent));
-        check(edit, bText);
+        check(edit, [bText](auto line, auto lines) { return bText ? lines : line; });
     });
-}
-
-/// Chooses the result of a single line or the one of many.
-auto chooser(bool bText)
-{
-    return [bText](LRESULT line, LRESULT lines) { return bText ? lines : line; };
-}
-
-QString textOf(const CEdit_E& edit, bool bText)
-{
-    return edit.GetSafeHwnd()->property(bText ? "plainText" : "text").toString();
 }
 
 TEST(Edit, StyleAndLook)
 {
-    forKinds([](Edit& edit, bool bText) {
-        EXPECT_EQ((edit.GetStyle() & ES_MULTILINE) != 0, bText);
+    forKinds([](Edit& edit, auto of) {
+        EXPECT_EQ(edit.GetStyle() & ES_MULTILINE, of(0U, ES_MULTILINE));
         const bool bMade = !edit.IsExternalImpObj();
-        if (const auto* const pText = qobject_cast<QTextEdit*>(edit.GetSafeHwnd())) {
-            EXPECT_EQ(pText->lineWrapMode() == QTextEdit::NoWrap, bMade);
-            EXPECT_EQ(pText->contextMenuPolicy() == Qt::NoContextMenu, bMade);
-            for (const QScrollBar* pBar :
-                 {pText->verticalScrollBar(), pText->horizontalScrollBar()})
-                EXPECT_NE(pBar->isEnabled(), bMade);
-            EXPECT_EQ(pText->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff, bMade);
-            EXPECT_EQ(pText->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff, bMade);
-        }
+        auto* const pText = qobject_cast<QTextEdit*>(edit.GetSafeHwnd());
+        if (!pText)
+            return;
+        const auto bars = bMade ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded;
+        // clang-format off
+        runSteps(pText, {
+            {"lineWrapMode", bMade ? QTextEdit::NoWrap : QTextEdit::WidgetWidth},
+            {"contextMenuPolicy", bMade ? Qt::NoContextMenu : Qt::DefaultContextMenu},
+            {"verticalScrollBarPolicy", bars}, {"horizontalScrollBarPolicy", bars},
+        });
+        // clang-format on
+        EXPECT_NE(pText->verticalScrollBar()->isEnabled(), bMade);
+        EXPECT_NE(pText->horizontalScrollBar()->isEnabled(), bMade);
     });
+    QLineEdit line;
+    line.setReadOnly(true);
+    line.setEchoMode(QLineEdit::Password);
+    QTextEdit text;
+    text.setReadOnly(true);
+    CEdit_E edit;
+    for (const auto& [pWidget, dwStyle] : {Row<QWidget*, DWORD>{&text, ES_MULTILINE | ES_READONLY},
+                                           {&text, ES_MULTILINE},
+                                           {&line, ES_READONLY | ES_PASSWORD}}) {
+        ASSERT_TRUE(edit.SubclassWindow(pWidget));
+        EXPECT_EQ(edit.GetStyle() & (ES_MULTILINE | ES_READONLY | ES_PASSWORD), dwStyle);
+        text.setReadOnly(false);
+    }
+    EXPECT_TRUE(text.verticalScrollBar()->isEnabled()) << "bound again, it keeps the form's look";
 }
 
-TEST(Edit, Selection)
+TEST(Edit, LimitSelectionAndState)
 {
-    forKinds([](Edit& edit, bool bText) {
+    forKinds([](Edit& edit, auto of) {
+        EXPECT_GE(edit.GetLimitText(), 30000U);
+        runSteps(edit, {{EM_SETLIMITTEXT, 5, 0}, {EM_GETLIMITTEXT, 5}});
+        QTest::keyClicks(edit.GetSafeHwnd(), "abcdefg"_q);
+        edit.SetSel(1, 3);
+        QGuiApplication::clipboard()->setText("wxyz"_q);
+        QTest::keySequence(edit.GetSafeHwnd(), QKeySequence::Paste);
+        runSteps(edit, {{"awxde"_q}});
+        edit.LimitText();
+        QTest::keyClicks(edit.GetSafeHwnd(), "123"_q);
+        runSteps(edit, {{"awx123de"_q}});
+
         edit.SetWindowText(L"123456");
         DWORD first = 0, last = 0;
-        for (const Selection& row : kSelections) {
-            const LRESULT set = bText ? row.lines : row.line;
+        for (const auto& [nStart, nEnd, line, lines, combo] : kSelections) {
+            const LRESULT set = of(line, lines);
             // clang-format off
             runSteps(edit, {
-                {EM_SETSEL, 1, 1, 0}, {EM_SETSEL, row.nStart, row.nEnd, 0},
+                {EM_SETSEL, 1, 1, 0}, {EM_SETSEL, nStart, nEnd, 0},
                 {EM_GETSEL, at(&first), at(&last), set},
             });
             // clang-format on
@@ -87,23 +100,13 @@ TEST(Edit, Selection)
         }
         edit.SetSel(MAKELONG(1, 3));
         edit.ReplaceSel(L"X\x1F600");
-        EXPECT_EQ(textOf(edit, bText), "1X\U0001F600456"_q);
-        edit.SetStyle(0);
-        edit.SetSel(0, -1); // without the focus
-        EXPECT_EQ(edit.GetSel(), MAKELONG(4, 4));
-    });
-}
-
-TEST(Edit, TextAndState)
-{
-    forKinds([](Edit& edit, bool bText) {
-        const auto of = chooser(bText);
+        runSteps(edit, {{"1X\U0001F600456"_q}});
         edit.SetWindowText(L"<b>x</b>"); // Intended: markup, where there are many lines
-        EXPECT_EQ(textOf(edit, bText), bText ? "x"_q : "<b>x</b>"_q);
+        runSteps(edit, {{of("<b>x</b>"_q, "x"_q)}});
         edit.SetWindowText(L"abc");
         const EDITBALLOONTIP tip{0, L"<", nullptr, 0};
         const QSignalSpy changes(edit.GetSafeHwnd(),
-                                 bText ? SIGNAL(textChanged()) : SIGNAL(textChanged(QString)));
+                                 of(SIGNAL(textChanged(QString)), SIGNAL(textChanged())));
         // clang-format off
         runSteps(edit, {
             {EM_SETMODIFY, TRUE, 0}, {EM_GETMODIFY, TRUE}, {EM_SETMODIFY, 0}, {EM_GETMODIFY, 0},
@@ -120,29 +123,30 @@ TEST(Edit, TextAndState)
         EXPECT_TRUE(edit.GetCueBanner().IsEmpty() && !(edit.GetStyle() & ES_READONLY));
         edit.SetSel(0, 2);
         edit.Cut();
-        edit.SetSel(-1, 0);
         edit.Paste();
-        edit.SetSel(0, 1);
+        edit.SetSel(1, 3);
         edit.Copy();
         edit.SetSel(-1, 0);
         edit.Paste();
-        EXPECT_EQ(textOf(edit, bText), "cabc"_q);
+        runSteps(edit, {{"abcbc"_q}});
         edit.SetSel(1, 2);
         const int nChanges = changes.count();
         edit.SetModify();
         edit.EmptyUndoBuffer();
         EXPECT_TRUE(!edit.CanUndo() && edit.GetModify() && edit.GetSel() == MAKELONG(1, 2));
         EXPECT_EQ(changes.count(), nChanges);
+        edit.SetStyle(0);
+        edit.SetSel(0, -1); // without the focus
+        EXPECT_EQ(edit.GetSel(), MAKELONG(1, 2));
         edit.Clear(); // Intended: all of it
-        EXPECT_EQ(textOf(edit, bText), ""_q);
+        runSteps(edit, {{""_q}});
     });
 }
 
-TEST(Edit, Lines)
+TEST(Edit, LinesPlacesAndScrolling)
 {
-    forKinds([](Edit& edit, bool bText) {
-        const auto of = chooser(bText);
-        edit.SetWindowText(bText ? L"first\nsecond\n\nlast" : L"only");
+    forKinds([](Edit& edit, auto of) {
+        edit.SetWindowText(of(L"only", L"first\nsecond\n\nlast"));
         wchar_t room[8] = L"\3";
         // clang-format off
         runSteps(edit, {
@@ -155,27 +159,20 @@ TEST(Edit, Lines)
             {EM_FMTLINES, FALSE}, {EM_SETTABSTOPS, 2, 0, FALSE},
         });
         // clang-format on
-        EXPECT_EQ(room[2], bText ? L'c' : L'l');
+        EXPECT_EQ(room[2], of(L'l', L'c'));
         EXPECT_EQ(edit.GetLine(0, g_buffer, 4), 4);
-        EXPECT_EQ(g_buffer[3], bText ? L's' : L'y') << "no end";
-        EXPECT_EQ(edit.GetLine(2, g_buffer, 8), bText ? 0 : 4);
-        EXPECT_EQ(edit.SetTabStops(16), bText);
-    });
-}
+        EXPECT_EQ(g_buffer[3], of(L'y', L's')) << "no end";
+        EXPECT_EQ(edit.GetLine(2, g_buffer, 8), of(4, 0));
+        EXPECT_EQ(edit.SetTabStops(16), of(FALSE, TRUE));
 
-TEST(Edit, PlacesAndScrolling)
-{
-    forKinds([](Edit& edit, bool bText) {
-        const auto of = chooser(bText);
         edit.MoveWindow(&kRect);
         edit.GetSafeHwnd()->window()->show();
         edit.ShowWindow(SW_SHOW);
-        const QString lines = bText ? "\nline"_q.repeated(30) : ""_q;
-        edit.SetWindowText(CString_E("abcdefgh"_q + lines).GetString());
+        const QString strLines = "\nline"_q.repeated(of(0, 30));
+        edit.SetWindowText(CString_E("abcdefgh"_q + strLines).GetString());
         const CPoint_E first = edit.PosFromChar(0);
         const CPoint_E fifth = edit.PosFromChar(4);
         EXPECT_GT(fifth.x, first.x + 8);
-        EXPECT_EQ(edit.CharFromPos(CPoint_E(fifth.x + 1, fifth.y + 5)), 4);
         CRect_E place(3, 4, 103, 54), got;
         // clang-format off
         runSteps(edit, {
@@ -201,22 +198,6 @@ TEST(Edit, PlacesAndScrolling)
     });
 }
 
-TEST(Edit, Limit)
-{
-    forKinds([](Edit& edit, bool bText) {
-        EXPECT_GE(edit.GetLimitText(), 30000U);
-        runSteps(edit, {{EM_SETLIMITTEXT, 5, 0}, {EM_GETLIMITTEXT, 5}});
-        QTest::keyClicks(edit.GetSafeHwnd(), "abcdefg"_q);
-        edit.SetSel(1, 3);
-        QGuiApplication::clipboard()->setText("wxyz"_q);
-        QTest::keySequence(edit.GetSafeHwnd(), QKeySequence::Paste);
-        EXPECT_EQ(textOf(edit, bText), "awxde"_q);
-        edit.LimitText();
-        QTest::keyClicks(edit.GetSafeHwnd(), "123"_q);
-        EXPECT_EQ(textOf(edit, bText), "awx123de"_q);
-    });
-}
-
 TEST(Edit, CharacterStyles)
 {
     QWidget parent;
@@ -239,41 +220,21 @@ TEST(Edit, CharacterStyles)
     });
 }
 
-TEST(Edit, TakesItsStyleFromTheWidget)
-{
-    QLineEdit line;
-    line.setReadOnly(true);
-    line.setEchoMode(QLineEdit::Password);
-    QTextEdit text;
-    text.setReadOnly(true);
-    CEdit_E edit;
-    const Row<QWidget*, DWORD> rows[] = {{&text, ES_MULTILINE | ES_READONLY},
-                                         {&text, ES_MULTILINE},
-                                         {&line, ES_READONLY | ES_PASSWORD}};
-    forRows(rows, [&](QWidget* pWidget, DWORD dwStyle) {
-        ASSERT_TRUE(edit.SubclassWindow(pWidget));
-        EXPECT_EQ(edit.GetStyle() & (ES_MULTILINE | ES_READONLY | ES_PASSWORD), dwStyle);
-        text.setReadOnly(false);
-    });
-    EXPECT_TRUE(text.verticalScrollBar()->isEnabled()) << "bound again, it keeps the form's look";
-}
-
 TEST(Edit, SlotsThatDeleteIt)
 {
     QLineEdit line;
     line.setText("long text"_q);
-    auto pEdit = std::make_unique<CEdit_E>();
-    ASSERT_TRUE(pEdit->SubclassWindow(&line));
-    const auto drop = QObject::connect(&line, &QLineEdit::textChanged, [&] { pEdit.reset(); });
-    line.insert("!"_q);
-    EXPECT_FALSE(pEdit);
-    for (const bool undo : {true, false}) {
+    std::unique_ptr<CEdit_E> pEdit;
+    QObject::connect(&line, &QLineEdit::textChanged, [&] { pEdit.reset(); });
+    const std::function<void()> changes[] = {
+        [&] { line.insert("!"_q); },
+        [&] { EXPECT_TRUE(pEdit->Undo()); },
+        [&] { pEdit->SetLimitText(3); },
+    };
+    for (const auto& change : changes) {
         pEdit = std::make_unique<CEdit_E>();
         ASSERT_TRUE(pEdit->SubclassWindow(&line));
-        if (undo)
-            EXPECT_TRUE(pEdit->Undo());
-        else
-            pEdit->SetLimitText(3);
+        change();
         EXPECT_FALSE(pEdit);
     }
     EXPECT_EQ(line.text(), "lon"_q);
@@ -295,31 +256,6 @@ TEST(Edit, ScrollBarsOfTheWindow)
     EXPECT_EQ(edit.GetScrollPos(SB_VERT), pInner->value());
     EXPECT_LT(pInner->value(), pInner->maximum());
     EXPECT_EQ(edit.GetMargins(), 0U);
-}
-
-TEST(Edit, RealTyping)
-{
-    VXTEST_NEEDS_X11();
-    QWidget window;
-    CEdit_E line;
-    CEdit_E text;
-    ASSERT_TRUE(line.Create(WS_VISIBLE, kRect, &window));
-    ASSERT_TRUE(text.Create(WS_VISIBLE | ES_MULTILINE, {0, 70, 200, 150}, &window));
-    ASSERT_TRUE(showAndActivate(&window));
-    for (CEdit_E* const pEdit : {&line, &text}) {
-        pEdit->SetFocus();
-        for (const unsigned long key : {XK_a, XK_b, XK_Return, XK_c, XK_Left})
-            typeKey(key);
-        const int nLines = pEdit == &text ? 2 : 1;
-        EXPECT_TRUE(waitUntil([&] {
-            return pEdit->GetSel() == MAKELONG(nLines + 1, nLines + 1) &&
-                   pEdit->LineLength() == nLines + 2;
-        }));
-        EXPECT_EQ(pEdit->GetLineCount(), nLines);
-        EXPECT_TRUE(pEdit->GetModify() && pEdit->CanUndo());
-        pEdit->SetSel(0, -1); // it has the focus
-        EXPECT_EQ(pEdit->GetSel(), MAKELONG(0, nLines + 2));
-    }
 }
 
 } // namespace

@@ -42,7 +42,7 @@ void checkItems(const Numbers& n, int (Control::*pGetText)(int, CString_E&) cons
         // A list is searched behind the start and around, a combo box from the start itself
         {n.find, -1, at(L"aB"), 1}, {n.find, 1, at(L"ab"), of(2, 1)},
         {n.find, 2, at(L"ab"), of(1, 2)}, {n.find, 0, at(L"x"), 0},
-        {n.find, 99, at(L"ab"), of(1, -1)}, {n.find, 0, at(L"none"), -1},
+        {n.find, 99, at(L"ab"), of(1, -1)}, {n.find, 3, at(L"none"), -1},
         {n.findExact, 0, at(L"ab"), -1}, {n.findExact, 2, at(L"abc"), of(1, -1)},
         {n.findExact, 0, at(L"abc"), 1},
         // The one from the start and by case, the other all and by either

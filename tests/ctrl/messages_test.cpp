@@ -5,65 +5,61 @@ namespace {
 
 using namespace vxtest;
 
-enum class Bound
-{
-    Not,
-    Plainly,
-    ByItsClass,
-    ByOwnHandler
-};
-
-/// A control with a handler of its own for a message of its class.
-class OwnProgress : public CProgressCtrl_E
+/// A window that takes one message of a class and one of no class itself.
+template <typename Base>
+class Own : public Base
 {
 public:
-    LRESULT OnSetPos(WPARAM wParam, LPARAM) { return m_nSeen = static_cast<int>(wParam); }
-    LRESULT OnUser(WPARAM, LPARAM) { return 99; }
-    int m_nSeen = -1;
-    DECLARE_MESSAGE_MAP_E()
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override
+    {
+        if (message != PBM_SETPOS && message != WM_USER + 500)
+            return Base::OnWndMsg(message, wParam, lParam, pResult);
+        m_seen << message;
+        *pResult = 99;
+        return TRUE;
+    }
+    QList<UINT> m_seen;
 };
+using OwnProgress = Own<CProgressCtrl_E>;
 
-BEGIN_MESSAGE_MAP_E(OwnProgress, CProgressCtrl_E)
-ON_MESSAGE_E(PBM_SETPOS, &OwnProgress::OnSetPos)
-ON_MESSAGE_E(WM_USER + 500, &OwnProgress::OnUser)
-END_MESSAGE_MAP_E()
+template <typename Window>
+CWnd_E* make()
+{
+    if constexpr (std::is_void_v<Window>)
+        return nullptr;
+    else
+        return new Window;
+}
 
-struct MessagesTest : testing::TestWithParam<Bound>
+/// A widget that nothing is bound to, or a plain window, a control or one with handlers of its own.
+struct MessagesTest : testing::TestWithParam<CWnd_E* (*)()>
 {
     MessagesTest()
     {
-        const Bound bound = GetParam();
         bar->setValue(1);
-        window.reset(bound == Bound::Plainly      ? new CWnd_E
-                     : bound == Bound::ByItsClass ? new CProgressCtrl_E
-                     : own                        ? new OwnProgress
-                                                  : nullptr);
         if (window)
             window->SubclassWindow(bar);
     }
     ~MessagesTest() override { delete bar; }
-    const bool own = GetParam() == Bound::ByOwnHandler;
     QPointer<QProgressBar> bar = new QProgressBar;
-    std::unique_ptr<CWnd_E> window;
+    std::unique_ptr<CWnd_E> window{GetParam()()};
+    const OwnProgress* const own = dynamic_cast<OwnProgress*>(window.get());
 };
 INSTANTIATE_TEST_SUITE_P(Controls, MessagesTest,
-                         testing::Values(Bound::Not, Bound::Plainly, Bound::ByItsClass,
-                                         Bound::ByOwnHandler));
+                         testing::Values(make<void>, make<CWnd_E>, make<CProgressCtrl_E>,
+                                         make<OwnProgress>));
 
-TEST_P(MessagesTest, AHandlerTakesThemThenTheControl)
+TEST_P(MessagesTest, SentAndPosted)
 {
     // clang-format off
     runSteps(bar, {
-        {PBM_SETPOS, 40, own ? 40 : 1}, {"value", own ? 1 : 40}, {PBM_GETPOS, own ? 1 : 40},
+        {PBM_SETPOS, 40, own ? 99 : 1}, {"value", own ? 1 : 40}, {PBM_GETPOS, own ? 1 : 40},
         {WM_USER + 500, own ? 99 : 0}, // no message of the class
         {WM_APP + 1, 0}, {WM_COMMAND, 1, 0}, {PBM_GETRANGE, 100},
     });
     // clang-format on
     EXPECT_EQ(CObject_E::GetOwner(bar), window.get()) << "nobody else was bound";
-}
 
-TEST_P(MessagesTest, PostedOnesArriveInTheirOrderFromAnyThread)
-{
     const auto post = [pBar = bar.data()] {
         EXPECT_TRUE(PostMessage_E(pBar, PBM_SETRANGE32, 0, 1000));
         EXPECT_TRUE(PostMessage_E(pBar, PBM_SETPOS, 500));
@@ -76,19 +72,22 @@ TEST_P(MessagesTest, PostedOnesArriveInTheirOrderFromAnyThread)
         else
             post();
         EXPECT_EQ(bar->value(), 1) << "not yet";
-        EXPECT_TRUE(waitUntil([&] { return bar->value() == (own ? 6 : 505); }));
+        EXPECT_TRUE(waitUntil([&] { return bar->value() == (own ? 6 : 505); })) << "in their order";
     }
-    EXPECT_EQ(own ? static_cast<OwnProgress&>(*window).m_nSeen : 500, 500);
+    EXPECT_TRUE(PostMessage_E(bar, PBM_SETPOS, 40));
+    EXPECT_TRUE(PostMessage_E(bar, WM_USER + 500));
+    delete bar.data();
+    deliverPosted();
+    EXPECT_EQ(own ? own->m_seen.size() : 4, 4);
 }
 
 TEST_P(MessagesTest, WhatDeletesTheWidgetMeanwhile)
 {
     for (const bool withItsWindow : {false, true}) {
-        if (withItsWindow) {
+        if (withItsWindow)
             bar = new QProgressBar;
-            if (window)
-                window->SubclassWindow(bar);
-        }
+        if (window)
+            window->SubclassWindow(bar);
         QTimer::singleShot(0, qApp, [this, withItsWindow] {
             delete bar.data();
             if (withItsWindow)
@@ -98,15 +97,6 @@ TEST_P(MessagesTest, WhatDeletesTheWidgetMeanwhile)
         EXPECT_EQ(bar.isNull(), !own);
         EXPECT_TRUE(waitUntil([&] { return bar.isNull(); }));
     }
-}
-
-TEST_P(MessagesTest, WhatIsPostedToAWidgetThatIsGone)
-{
-    EXPECT_TRUE(PostMessage_E(bar, PBM_SETPOS, 40));
-    EXPECT_TRUE(PostMessage_E(bar, WM_USER + 500));
-    delete bar.data();
-    deliverPosted();
-    EXPECT_EQ(own ? static_cast<OwnProgress&>(*window).m_nSeen : -1, -1);
 }
 
 TEST_P(MessagesTest, WhatIsPostedWhileTheBindingChanges)
@@ -121,60 +111,32 @@ TEST_P(MessagesTest, WhatIsPostedWhileTheBindingChanges)
     EXPECT_EQ(bar->value(), 42);
 }
 
-/// Records the numbers of the messages that come.
-class UserWnd : public CWnd_E
+TEST(Messages, NumbersAndTextsOfPlainWindows)
 {
-public:
-    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override
-    {
-        if (message < WM_USER)
-            return CWnd_E::OnWndMsg(message, wParam, lParam, pResult);
-        m_seen << message;
-        *pResult = 5;
-        return TRUE;
-    }
-    QList<UINT> m_seen;
-};
-
-TEST(Messages, NumbersOfTheirOwnInPlainWindows)
-{
-    QWidget widget;
     QDialog dialog;
-    for (QWidget* const pWidget : {&widget, static_cast<QWidget*>(&dialog)}) {
+    QLineEdit line;
+    for (QWidget* const pWidget : {static_cast<QWidget*>(&dialog), static_cast<QWidget*>(&line)}) {
+        wchar_t buffer[8] = L"";
+        // clang-format off
+        const Steps texts = {
+            {WM_SETTEXT, 0, at(L"Title"), TRUE}, {WM_GETTEXT, 8, at(buffer), 5},
+            {buffer, "Title"_q}, {WM_GETTEXTLENGTH, 5}, {WM_GETTEXT, 8, 0}, {WM_SETTEXT, TRUE},
+            {WM_GETTEXTLENGTH, 0},
+        };
+        // clang-format on
+        runSteps(pWidget, texts);
         EXPECT_EQ(SendMessage_E(pWidget, PBM_SETPOS, 1), 0);
         EXPECT_TRUE(PostMessage_E(pWidget, PBM_SETPOS, 1));
-        UserWnd window;
+        Own<CWnd_E> window;
         window.SubclassWindow(pWidget);
-        EXPECT_EQ(SendMessage_E(pWidget, PBM_SETPOS, 1), 5);
-        EXPECT_TRUE(PostMessage_E(pWidget, WM_USER + 7));
+        runSteps(pWidget, texts);
+        EXPECT_EQ(SendMessage_E(pWidget, PBM_SETPOS, 1), 99);
+        EXPECT_TRUE(PostMessage_E(pWidget, WM_USER + 500));
         deliverPosted();
-        EXPECT_EQ(window.m_seen, QList<UINT>({PBM_SETPOS, PBM_SETPOS, WM_USER + 7}));
+        EXPECT_EQ(window.m_seen, QList<UINT>({PBM_SETPOS, PBM_SETPOS, WM_USER + 500}));
     }
     EXPECT_EQ(SendMessage_E(nullptr, PBM_SETPOS, 1), 0);
     EXPECT_FALSE(PostMessage_E(nullptr, PBM_SETPOS, 1));
-}
-
-TEST(Messages, OfTexts)
-{
-    for (const bool bound : {false, true}) {
-        QDialog dialog;
-        QLineEdit line;
-        const Row<QWidget*, const wchar_t*, const char*> rows[] = {
-            {&dialog, L"Title", "Title"}, {&line, nullptr, ""}, {&line, L"text", "text"}};
-        forRows(rows, [&](QWidget* pWidget, const wchar_t* set, const char* got) {
-            CWnd_E window;
-            if (bound)
-                window.SubclassWindow(pWidget);
-            wchar_t buffer[8] = L"";
-            const QString text = QString::fromLatin1(got);
-            // clang-format off
-            runSteps(pWidget, {
-                {WM_SETTEXT, 0, at(set), TRUE}, {WM_GETTEXT, 8, at(buffer), text.size()},
-                {buffer, text}, {WM_GETTEXTLENGTH, text.size()}, {WM_GETTEXT, 8, 0},
-            });
-            // clang-format on
-        });
-    }
 }
 
 /// A widget that knows a message itself.
@@ -193,12 +155,10 @@ protected:
 TEST(Messages, TheWidgetItselfComesFirstWhenNothingIsBound)
 {
     KnowingBar bar;
-    EXPECT_EQ(SendMessage_E(&bar, PBM_SETPOS, 9), 77);
-    EXPECT_LT(bar.value(), 9);
+    runSteps(&bar, {{PBM_SETPOS, 9, 77}, {"value", -1}});
     CProgressCtrl_E control;
     control.SubclassWindow(&bar);
-    EXPECT_LT(SendMessage_E(&bar, PBM_SETPOS, 9), 77);
-    EXPECT_EQ(bar.value(), 9);
+    runSteps(&bar, {{PBM_SETPOS, 9, -1}, {"value", 9}});
 }
 
 } // namespace

@@ -5,23 +5,20 @@ namespace {
 
 using namespace vxtest;
 
-template <typename Control>
-void expectNoImages(Control& control)
-{
-    EXPECT_TRUE(control.SetBitmap(QPixmap(1, 1)).isNull() && control.GetBitmap().isNull());
-    EXPECT_TRUE(control.SetIcon(QIcon()).isNull() && control.GetIcon().isNull());
-}
-
 // clang-format off
 TEST(Unusable, ButtonsAndRanges)
 {
+    const auto noImages = [](auto& control) {
+        EXPECT_TRUE(control.SetBitmap(QPixmap(1, 1)).isNull() && control.GetBitmap().isNull());
+        EXPECT_TRUE(control.SetIcon(QIcon()).isNull() && control.GetIcon().isNull());
+    };
     tagRECT rect{1, 2, 3, 4};
     SYSTEMTIME times[2] = {{2024, 2, 4, 29, 0, 0, 0, 0}, {2024, 3, 4, 29, 0, 0, 0, 0}};
-    forUnusable<CStatic_E>({{STM_GETICON, 0}}, expectNoImages<CStatic_E>);
+    forUnusable<CStatic_E>({{STM_GETICON, 0}}, noImages);
     forUnusable<CButton_E>({
         {BM_SETCHECK, 1, 0}, {BM_GETCHECK, 0}, {BM_SETSTATE, 1, 0}, {BM_GETSTATE, 0}, {BM_CLICK, 0},
         {BM_SETSTYLE, BS_AUTO3STATE, 0},
-    }, expectNoImages<CButton_E>);
+    }, noImages);
     forUnusable<CProgressCtrl_E>({
         {PBM_SETRANGE32, 1, 2, 0}, {PBM_GETRANGE, TRUE, at(&rect), 0}, {PBM_SETPOS, 4, 0},
         {PBM_GETPOS, 0}, {PBM_DELTAPOS, 4, 0}, {PBM_SETMARQUEE, TRUE, 0},
@@ -93,14 +90,15 @@ TEST(Unusable, Texts)
     }, [](CEdit_E& edit) { EXPECT_FALSE(edit.ShowBalloonTip(L"", L"")); });
     int ends[2] = {1, 2};
     BOOL error = FALSE;
-    forUnusable<CSpinButtonCtrl_E>({
+    forUnusable<CSpinButtonCtrl_E, QDateEdit>({
         {UDM_SETRANGE, 0, 2, 0}, {UDM_GETRANGE32, at(&ends[0]), at(&ends[1]), 0}, {UDM_SETPOS, -1},
-        {UDM_GETPOS32, 0, at(&error), -1}, {UDM_SETACCEL, 1, 0}, {UDM_GETACCEL, 1, 0},
+        {UDM_GETPOS32, 0, at(&error), -1}, {UDM_SETACCEL, 1, at(ends), 0}, {UDM_GETACCEL, 1, 0},
         {UDM_SETBASE, 10, -1},
     }, [&](CSpinButtonCtrl_E& spin) {
         int nStart = 1, nEnd = 2;
         QLineEdit edit;
         spin.SetBuddy(&edit);
+        EXPECT_FALSE(edit.parent());
         spin.SetSel(0, -1);
         spin.GetSel(nStart, nEnd);
         EXPECT_EQ(nStart | nEnd | spin.GetDecimals() | ends[0] | ends[1], 0);
