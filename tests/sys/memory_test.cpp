@@ -34,12 +34,4 @@ TEST(Memory, IsZeroFilledAndKeptByReAlloc)
     });
 }
 
-TEST(GlobalMemory, AHandleIsTheAddress)
-{
-    const HGLOBAL h = GlobalAlloc_E(GHND, 4);
-    EXPECT_TRUE(GlobalLock_E(h) == h && GlobalHandle_E(h) == h && !GlobalLock_E(nullptr));
-    EXPECT_EQ(GlobalUnlock_E(h) + GlobalUnlock_E(h), 2) << "there is no lock count";
-    GlobalFree_E(h);
-}
-
 } // namespace

@@ -124,11 +124,9 @@ TEST_F(Profile, KeepsStructures)
     const std::string all("\0\x7F\x80\xFF,\"\\\n", 8);
     EXPECT_TRUE(WritePrivateProfileStruct_E(L"Opts", L"All", all.data(), 8, kFile));
     EXPECT_TRUE(content().contains("All=\"@ByteArray(\\0\\x7f\\x80"));
-    EXPECT_EQ(Results({WritePrivateProfileStruct_E(nullptr, nullptr, all.data(), 4, kFile),
-                       WritePrivateProfileStruct_E(L"Opts", L"Empty", nullptr, 0, kFile),
-                       WritePrivateProfileStruct_E(L"Opts", L"Bad", nullptr, 4, kFile),
-                       WritePrivateProfileStruct_E(L"Opts", L"Bad", all.data(), ~0U, kFile)}),
-              Results({TRUE, TRUE, FALSE, FALSE}));
+    EXPECT_TRUE(WritePrivateProfileStruct_E(L"Opts", L"Empty", nullptr, 0, kFile));
+    EXPECT_FALSE(WritePrivateProfileStruct_E(L"Opts", L"Bad", nullptr, 4, kFile));
+    EXPECT_FALSE(WritePrivateProfileStruct_E(L"Opts", L"Bad", all.data(), ~0U, kFile));
     const auto read = [](LPCWSTR key, UINT size) {
         std::string bytes(10, '?');
         const BOOL found = GetPrivateProfileStruct_E(L"Opts", key, bytes.data(), size, kFile);
@@ -145,18 +143,16 @@ TEST_F(Profile, KeepsStructures)
 TEST_F(Profile, FilesThatAreNone)
 {
     QDir().mkdir("folder.ini"_q);
-    const std::wstring longName(2000, L'x');
-    // and the error of the writing functions
+    const std::wstring longName(2000, L'x'); // beside each the error of the writing functions
     const Row<LPCWSTR, int> rows[] = {
         {L"missing.ini", ENOENT}, {L"missing/x.ini", ENOENT},       {L"folder.ini", 0},
         {nullptr, ENOENT},        {longName.c_str(), ENAMETOOLONG}, {L"\xD800", EILSEQ}};
     forRows(rows, [](LPCWSTR file, int error) {
         char byte = '?';
         const auto outcome = [](BOOL written) { return written ? 0 : errno; };
-        EXPECT_EQ(Results({outcome(WritePrivateProfileString_E(L"s", L"k", L"v", file)),
-                           outcome(WritePrivateProfileSection_E(L"s", L"k=v", file)),
-                           outcome(WritePrivateProfileStruct_E(L"s", L"k", &byte, 1, file))}),
-                  Results(3, error));
+        EXPECT_EQ(outcome(WritePrivateProfileString_E(L"s", L"k", L"v", file)), error);
+        EXPECT_EQ(outcome(WritePrivateProfileSection_E(L"s", L"k=v", file)), error);
+        EXPECT_EQ(outcome(WritePrivateProfileStruct_E(L"s", L"k", &byte, 1, file)), error);
         EXPECT_EQ(stringOf(L"s", L"k", file), L"default");
         EXPECT_EQ(Results({GetPrivateProfileInt_E(L"s", L"k", 5, file),
                            GetPrivateProfileSection_E(L"s", nullptr, 100, file),
