@@ -1,19 +1,8 @@
 #include "support/test.h"
 
-#include <cerrno>
-
 namespace {
 
 constexpr DWORD kAllocate = FORMAT_MESSAGE_ALLOCATE_BUFFER;
-
-TEST(LastError, IsTheThreadsErrno)
-{
-    SetLastError(17);
-    EXPECT_EQ(errno, 17);
-    errno = -1;
-    std::thread([] { SetLastError(99); }).join();
-    EXPECT_EQ(GetLastError(), 0xFFFFFFFFU);
-}
 
 TEST(FormatMessage, IntoTheCallersBufferOrANewOne)
 {

@@ -1,4 +1,4 @@
-// Logs as its arguments say: text TEXT | rotate LOG | threads.
+// Logs as its arguments say: text TEXT | threads LOG, in a log that is made anew.
 #include <VxMFCEmu/core/log.h>
 
 #include <cstdio>
@@ -23,11 +23,9 @@ int main(int, char** argv)
         vxLogPrintf(L"%S", argv[2]);
         vxLogPrintf(L"%s", GetApplicationDirectory(nullptr).GetString());
         vxLogPrintf(L"%s", GetMainDirectory().GetString());
-    } else if (what == "rotate") {
-        vxLogPrintf(L"one");
-        std::rename(argv[2], (std::string(argv[2]) + ".old").c_str());
-        vxLogPrintf(L"two");
     } else {
+        vxLogPrintf(L"rotated away");
+        std::rename(argv[2], (std::string(argv[2]) + ".old").c_str());
         std::vector<std::thread> workers;
         for (int t = 0; t < 8; ++t) {
             workers.emplace_back([t] {

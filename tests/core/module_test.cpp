@@ -7,8 +7,7 @@ int handleA, handleB;
 TEST(ModuleState, OneOfEachInTheProcess)
 {
     std::thread([] { EXPECT_EQ(AfxGetModuleThreadState_E(), &gdiThreadState); }).join();
-    EXPECT_EQ(AfxGetModuleState_E(), &afxModuleState);
-    EXPECT_EQ(AfxGetStaticModuleState_E(), nullptr);
+    EXPECT_TRUE(AfxGetModuleState_E() == &afxModuleState && !AfxGetStaticModuleState_E());
     AfxSetResourceHandle_E(&handleA);
     EXPECT_EQ(AfxGetResourceHandle_E(), nullptr) << "resource handles are not used";
 }
@@ -56,8 +55,8 @@ TEST(ExtensionModule, InitialisedOnceThenItsSlotsAreAssigned)
     local.GetData();
     AfxTermExtensionModule_E(state);
     EXPECT_EQ(AfxInitExtensionModule_E(state, &handleA), TRUE);
-    EXPECT_TRUE(state.bInitialized && !state.pFirstSharedClass);
-    EXPECT_TRUE(state.hModule == &handleA && state.hResource == &handleA);
+    EXPECT_TRUE(state.bInitialized && !state.pFirstSharedClass && state.hModule == &handleA &&
+                state.hResource == &handleA);
     AfxTermExtensionModule_E(state, FALSE);
     EXPECT_NE(local.GetDataNA(), nullptr) << "the slot belongs to no module yet";
     EXPECT_EQ(AfxInitExtensionModule_E(state, &handleA), TRUE);

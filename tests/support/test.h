@@ -40,8 +40,19 @@ void forRows(const Rows& rows, const Check& check)
     }
 }
 
+/// Calls @p work in so many threads at once, with their numbers.
+inline void inThreads(int count, const std::function<void(int)>& work)
+{
+    std::vector<std::thread> threads;
+    for (int i = 0; i < count; ++i)
+        threads.emplace_back(work, i);
+    for (std::thread& thread : threads)
+        thread.join();
+}
+
 } // namespace vxtest
 
 using vxtest::operator""_q;
 using vxtest::forRows;
+using vxtest::inThreads;
 using vxtest::Row;

@@ -1,13 +1,7 @@
-// Critical sections, reader/writer locks, mutexes, and condition variables.
+// Critical sections, mutexes, reader/writer locks, and condition variables.
 #include "sys/rows.h"
 
 namespace {
-
-// Intended: each release destroys the lock. The sanitizer drops what it knows of a lock that is
-// destroyed, and then reports races between those whom the lock still keeps apart.
-#define SKIP_UNDER_THREAD_SANITIZER()                                                              \
-    if (vxtest::kThreadSanitizer)                                                                  \
-    GTEST_SKIP() << "the sanitizer reports every lock that is used after it was destroyed"
 
 template <typename Lock>
 struct Way
@@ -16,129 +10,112 @@ struct Way
     bool writes;
 };
 
-// Four threads take the ways in turn. What a writer has half done, nobody may see.
+// Four threads take the two ways in turn. What a writer has half done, nobody may see.
 template <typename Lock>
-void expectApart(Lock* lock, long written, std::initializer_list<Way<Lock>> ways)
+void expectApart(Lock* lock, const Way<Lock>& even, const Way<Lock>& odd)
 {
-    long first = 0;
-    long second = 0;
+    long first = 0, second = 0;
     inThreads(4, [&](int thread) {
-        const auto& [acquire, release, writes] = ways.begin()[thread % ways.size()];
+        const Way<Lock>& way = thread % 2 == 0 ? even : odd;
         for (int i = 0; i < 10000; ++i) {
-            EXPECT_EQ(acquire(lock), 0);
-            if (writes)
+            EXPECT_EQ(way.acquire(lock), 0);
+            if (way.writes)
                 ++first;
-            EXPECT_EQ(first, second + writes);
-            if (writes)
+            EXPECT_EQ(first, second + way.writes);
+            if (way.writes)
                 ++second;
-            EXPECT_EQ(release(lock), 0);
+            EXPECT_EQ(way.release(lock), 0);
         }
     });
-    EXPECT_EQ(second, written);
+    EXPECT_EQ(second, 20000 * (even.writes + odd.writes));
 }
 
-TEST(CriticalSection, LetsOneThreadInAtATime)
+TEST(Locks, LetOneThreadInAtATime)
 {
     CRITICAL_SECTION section;
     EXPECT_EQ(InitializeCriticalSection_E(&section), 0);
-    expectApart(&section, 40000, {{EnterCriticalSection_E, LeaveCriticalSection_E, true}});
+    const Way<CRITICAL_SECTION> entering{EnterCriticalSection_E, LeaveCriticalSection_E, true};
+    expectApart(&section, entering, entering);
     EXPECT_EQ(DeleteCriticalSection_E(&section), 0);
-    for (const auto call : {InitializeCriticalSection_E, EnterCriticalSection_E,
-                            LeaveCriticalSection_E, DeleteCriticalSection_E})
-        EXPECT_EQ(call(nullptr), EINVAL);
-}
-
-TEST(Mutex, LetsOneThreadInAtATime)
-{
     const HANDLE mutex = CreateMutex(nullptr, FALSE, L"mutex");
     const auto release = [](HANDLE h) { return ReleaseMutex(h) - TRUE; };
-    expectApart(mutex, 40000,
-                {{[](HANDLE h) { return int(waitOn(h, INFINITE)); }, release, true},
-                 {[](HANDLE h) { return int(waitOn(h, 30000)); }, release, true}});
+    expectApart(mutex, {[](HANDLE h) { return int(waitOn(h, INFINITE)); }, release, true},
+                {[](HANDLE h) { return int(waitOn(h, 30000)); }, release, true});
     EXPECT_EQ(VxCloseHandle(mutex), TRUE);
 }
 
-TEST(SRWLock, KeepsWritersApart)
+// Intended: 0 is success, but 1 a failure of a sleep.
+TEST(Locks, OfNull)
 {
-    SKIP_UNDER_THREAD_SANITIZER();
-    SRWLOCK lock;
-    EXPECT_EQ(InitializeSRWLock(&lock), 0);
-    expectApart(&lock, 20000,
-                {{AcquireSRWLockExclusive, ReleaseSRWLockExclusive, true},
-                 {AcquireSRWLockShared, ReleaseSRWLockShared, false}});
-}
-
-// Intended: 0 is success.
-TEST(SRWLock, Results)
-{
-    SKIP_UNDER_THREAD_SANITIZER();
-    SRWLOCK lock = SRWLOCK_INIT;
-    const auto other = [&lock](int (*call)(PSRWLOCK)) {
-        int result = -1;
-        std::thread([&] { result = call(&lock); }).join();
-        return result;
-    };
-    EXPECT_EQ(Results({TryAcquireSRWLockExclusive(&lock), other(TryAcquireSRWLockShared),
-                       AcquireSRWLockExclusive(&lock), ReleaseSRWLockExclusive(&lock)}),
-              Results({0, EBUSY, EDEADLK, 0}));
-    EXPECT_EQ(Results({TryAcquireSRWLockShared(&lock), AcquireSRWLockShared(&lock),
-                       ReleaseSRWLockShared(&lock), other(TryAcquireSRWLockExclusive),
-                       ReleaseSRWLockShared(&lock), other(TryAcquireSRWLockExclusive)}),
-              Results({0, 0, 0, EBUSY, 0, 0}));
+    for (const auto call : {InitializeCriticalSection_E, EnterCriticalSection_E,
+                            LeaveCriticalSection_E, DeleteCriticalSection_E})
+        EXPECT_EQ(call(nullptr), EINVAL);
     for (const auto call :
          {InitializeSRWLock, AcquireSRWLockExclusive, AcquireSRWLockShared, ReleaseSRWLockShared,
           TryAcquireSRWLockExclusive, TryAcquireSRWLockShared, ReleaseSRWLockExclusive})
         EXPECT_EQ(call(nullptr), EINVAL);
+    for (const auto call :
+         {InitializeConditionVariable, WakeConditionVariable, WakeAllConditionVariable})
+        EXPECT_EQ(call(nullptr), EINVAL);
+    CONDITION_VARIABLE condition = CONDITION_VARIABLE_INIT;
+    CRITICAL_SECTION section = PTHREAD_MUTEX_INITIALIZER;
+    EXPECT_EQ(SleepConditionVariableCS(nullptr, &section, 0), 1);
+    EXPECT_EQ(SleepConditionVariableCS(&condition, nullptr, 0), 1);
 }
 
-// Intended: 1 is a time-out or a failure, 0 a wake-up.
+// Intended: each release destroys the lock. The sanitizer drops what it knows of a lock that is
+// destroyed, and then reports races between those whom the lock still keeps apart.
+TEST(SRWLock, WorksOnAfterItsRelease)
+{
+    if (vxtest::kThreadSanitizer)
+        GTEST_SKIP() << "the sanitizer reports every lock that is used after it was destroyed";
+    SRWLOCK lock;
+    EXPECT_EQ(InitializeSRWLock(&lock), 0);
+    expectApart(&lock, {AcquireSRWLockExclusive, ReleaseSRWLockExclusive, true},
+                {AcquireSRWLockShared, ReleaseSRWLockShared, false});
+    lock = SRWLOCK_INIT;
+    EXPECT_EQ(Results({TryAcquireSRWLockExclusive(&lock), TryAcquireSRWLockShared(&lock),
+                       AcquireSRWLockExclusive(&lock), ReleaseSRWLockExclusive(&lock),
+                       TryAcquireSRWLockShared(&lock), AcquireSRWLockShared(&lock),
+                       ReleaseSRWLockShared(&lock), TryAcquireSRWLockExclusive(&lock),
+                       ReleaseSRWLockShared(&lock), TryAcquireSRWLockExclusive(&lock)}),
+              Results({0, EBUSY, EDEADLK, 0, 0, 0, 0, EBUSY, 0, 0}));
+
+    CONDITION_VARIABLE condition;
+    EXPECT_EQ(InitializeConditionVariable(&condition), 0);
+    std::atomic<int> result{-1};
+    std::thread sleeper([&] {
+        SRWLOCK own = SRWLOCK_INIT; // the sleep leaves no lock behind
+        AcquireSRWLockExclusive(&own);
+        result = SleepConditionVariableSRW(&condition, &own, INFINITE, 0);
+    });
+    while (result < 0)
+        WakeAllConditionVariable(&condition);
+    sleeper.join();
+    EXPECT_EQ(result, 0);
+}
+
+// Intended: 1 is a time-out, 0 a wake-up.
 TEST(ConditionVariable, SleepsUntilWokenOrTheTimeIsOver)
 {
     CONDITION_VARIABLE condition = CONDITION_VARIABLE_INIT;
     CRITICAL_SECTION section = PTHREAD_MUTEX_INITIALIZER;
+    EnterCriticalSection_E(&section);
+    EXPECT_EQ(SleepConditionVariableCS(&condition, &section, 20), 1);
     for (const auto wake : {WakeConditionVariable, WakeAllConditionVariable}) {
-        const DWORD limit = wake == WakeConditionVariable ? 60000 : INFINITE;
         bool passed = false;
-        EnterCriticalSection_E(&section);
         std::thread other([&] {
             EnterCriticalSection_E(&section);
             passed = true;
             EXPECT_EQ(wake(&condition), 0);
             LeaveCriticalSection_E(&section);
         });
+        const DWORD limit = wake == WakeConditionVariable ? 60000 : INFINITE;
         while (!passed)
             EXPECT_EQ(SleepConditionVariableCS(&condition, &section, limit), 0);
-        LeaveCriticalSection_E(&section);
         other.join();
-        EXPECT_EQ(wake(nullptr), EINVAL);
     }
-    EnterCriticalSection_E(&section);
-    EXPECT_EQ(Results({SleepConditionVariableCS(&condition, &section, 20),
-                       SleepConditionVariableCS(nullptr, &section, 0),
-                       SleepConditionVariableCS(&condition, nullptr, 0)}),
-              Results({1, 1, 1}));
     LeaveCriticalSection_E(&section);
-    EXPECT_EQ(InitializeConditionVariable(nullptr), EINVAL);
-}
-
-TEST(ConditionVariable, SleepsWithALock)
-{
-    SKIP_UNDER_THREAD_SANITIZER();
-    CONDITION_VARIABLE condition;
-    EXPECT_EQ(InitializeConditionVariable(&condition), 0);
-    std::atomic<int> result{-1};
-    const auto sleep = [&](DWORD limit) {
-        SRWLOCK lock = SRWLOCK_INIT; // each its own: the sleep leaves no lock behind
-        AcquireSRWLockExclusive(&lock);
-        result = SleepConditionVariableSRW(&condition, &lock, limit, 0);
-    };
-    sleep(20);
-    EXPECT_EQ(result.exchange(-1), 1);
-    std::thread sleeper(sleep, INFINITE);
-    while (result < 0)
-        WakeAllConditionVariable(&condition);
-    sleeper.join();
-    EXPECT_EQ(result, 0);
 }
 
 } // namespace

@@ -1,17 +1,18 @@
+// Small services: arithmetic, checks of pointers, threads and their values.
 #include "sys/rows.h"
 
 namespace {
 
 TEST(MulDiv, CutsOff)
 {
-    EXPECT_EQ(Results({MulDiv_E(7, 1, 2), MulDiv_E(-7, 1, 2), MulDiv_E(7, 1, -2)}),
-              Results({3, -3, -3}));
-    EXPECT_EQ(
-        Results({MulDiv_E(INT_MAX, 3, 4), MulDiv_E(0x40000000, 4, 1), MulDiv_E(INT_MIN, 1, -1)}),
-        Results({1610612735, -1, -1}));
     // Intended: below the range the low 32 bits are left.
-    EXPECT_EQ(Results({MulDiv_E(INT_MIN, 2, 1), MulDiv_E(INT_MIN, 3, 2)}),
-              Results({0, 0x40000000}));
+    constexpr Row<int, int, int, int> kRows[] = {{7, 1, 2, 3},         {-7, 1, 2, -3},
+                                                 {7, 1, -2, -3},       {0x40000000, 4, 1, -1},
+                                                 {INT_MIN, 1, -1, -1}, {INT_MAX, 3, 4, 1610612735},
+                                                 {INT_MIN, 2, 1, 0},   {INT_MIN, 3, 2, 0x40000000}};
+    forRows(kRows, [](int number, int numerator, int denominator, int result) {
+        EXPECT_EQ(MulDiv_E(number, numerator, denominator), result);
+    });
     volatile int zero = 0;
     EXPECT_DEATH(zero = MulDiv_E(1, 1, zero), ""); // Intended: not caught.
 }
@@ -29,17 +30,36 @@ TEST(PointerChecks, LookAtNoMemory)
 
 TEST(Threads, SleepingAndIds)
 {
-    // Intended: the last one wraps around.
-    constexpr Row<DWORD, ULONGLONG> kRows[] = {{0, 0}, {30, 30}, {4294968, 0}};
-    forRows(kRows, [](DWORD sleep, ULONGLONG atLeast) {
+    for (const DWORD sleep : {30U, 4294968U}) { // Intended: the last one wraps around.
         const ULONGLONG start = GetTickCount();
         Sleep_E(sleep);
         const ULONGLONG slept = GetTickCount() - start;
-        EXPECT_GE(slept + 1, atLeast);
-        EXPECT_LT(slept, 20000U);
-    });
+        EXPECT_TRUE(slept + 1 >= sleep % 4294968 && slept < 20000) << slept;
+    }
     EXPECT_EQ(GetCurrentThreadId(), pthread_self());
     EXPECT_EQ(GetCurrentProcessId(), static_cast<DWORD>(getpid()));
+}
+
+TEST(Tls, EachThreadHasItsOwnValueUntilTheSlotIsFreed)
+{
+    const DWORD slot = TlsAlloc_E();
+    inThreads(2, [slot](int thread) {
+        EXPECT_EQ(TlsGetValue_E(slot), nullptr);
+        EXPECT_EQ(TlsSetValue_E(slot, &thread), 0); // Intended: 0 means success.
+        EXPECT_EQ(TlsGetValue_E(slot), &thread);
+    });
+    EXPECT_EQ(TlsGetValue_E(slot), nullptr);
+    EXPECT_EQ(TlsFree_E(slot), TRUE);
+    for (const DWORD none : {slot, TLS_OUT_OF_INDEXES}) {
+        EXPECT_EQ(TlsFree_E(none), FALSE);
+        EXPECT_EQ(TlsGetValue_E(none), nullptr);
+        EXPECT_NE(TlsSetValue_E(none, nullptr), 0);
+    }
+    std::set<DWORD> slots; // until they run out
+    for (DWORD next = 0; (next = TlsAlloc_E()) != TLS_OUT_OF_INDEXES;)
+        ASSERT_TRUE(slots.insert(next).second);
+    for (const DWORD used : slots)
+        EXPECT_EQ(TlsFree_E(used), TRUE);
 }
 
 } // namespace

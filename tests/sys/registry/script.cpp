@@ -23,10 +23,9 @@ extern "C" __attribute__((visibility("default"))) int runScript(int argc, char**
             set(name, REG_DWORD, &number);
         } else if (command == "print") {
             DWORD type = 0;
-            char data[100] = {};
-            RegQueryValueExA_E(hKey, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(data),
-                               nullptr);
-            std::printf("%u: %s\n", type, data);
+            BYTE data[100] = {};
+            RegQueryValueExA_E(hKey, name.c_str(), nullptr, &type, data, nullptr);
+            std::printf("%u: %s\n", type, reinterpret_cast<char*>(data));
         }
         for (int round = 0; command == "rounds" && round < number; ++round) {
             for (int n = 0; n < 100; ++n)
