@@ -185,7 +185,8 @@ TYPED_TEST_SUITE(MapOf, Maps);
 TYPED_TEST(MapOf, AgreesWithAnUnorderedMap)
 {
     using Key = typename TypeParam::BASE_KEY;
-    auto keyOf = [made = 0](int number) mutable -> Key {
+    int made = 0;
+    const auto keyOf = [&](int number) -> Key {
         if constexpr (std::is_same_v<Key, CString_E>)
             return QString::number(number);
         else

@@ -72,4 +72,18 @@ TEST(Items, OfListBoxes) { checkItems<CListBox_E, QListWidget>(kList, &CListBox_
 
 TEST(Items, OfComboBoxes) { checkItems<CComboBox_E, QComboBox>(kCombo, &CComboBox_E::GetLBText); }
 
+TEST(HeaderCtrl, CountsTheSectionsOfItsModel)
+{
+    QTableWidget table(2, 3);
+    auto* const pFound = qobject_cast<CHeaderCtrl_E*>(CWnd_E::FromHandle(table.horizontalHeader()));
+    ASSERT_TRUE(pFound);
+    CWnd_E window;
+    window.SubclassWindow(&table);
+    CHeaderCtrl_E made;
+    EXPECT_EQ(made.GetItemCount(), -1);
+    ASSERT_TRUE(made.Create(WS_CHILD, kPlace, &window, kItem));
+    EXPECT_EQ(window.GetDlgItem(int(kItem)), &made);
+    EXPECT_EQ(std::pair(pFound->GetItemCount(), made.GetItemCount()), std::pair(3, 0));
+}
+
 } // namespace
