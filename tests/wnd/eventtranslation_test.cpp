@@ -94,8 +94,7 @@ TEST_F(Translation, KnowsNoOtherEventAndNoNullArgumentsAndStampsTimeAndCursor)
     EXPECT_FALSE(vxQEventToMsg(nullptr, &close, &msg) || vxQEventToMsg(&w, nullptr, &msg) ||
                  vxQEventToMsg(&w, &close, nullptr));
     EXPECT_FALSE(TranslateMessage(nullptr, &close, &msg) || TranslateMessage(&w, nullptr, &msg) ||
-                 TranslateMessage(&w, &close, nullptr));
-    EXPECT_EQ(msg.message, 4711U);
+                 TranslateMessage(&w, &close, nullptr) || msg.message != 4711);
 
     // What is no window has none, and its frame no parts.
     QObject object;

@@ -97,8 +97,14 @@ TEST_F(HooksTest, HooksAreCalledFromTheLastToTheFirstBeforeTheMessageFunctions)
     EXPECT_EQ(take(), "B 41 1, A 41 1, s 100, t 100");
 }
 
-TEST_F(HooksTest, OnlyTheHostsOwnClassesAndEventsThatSaySomethingCount)
+TEST_F(HooksTest, OnlyKeyboardHooksTheHostsOwnClassesAndEventsThatSaySomethingCount)
 {
+    for (const int id : {WH_MOUSE, WH_GETMESSAGE, WH_CALLWNDPROC, WH_CBT, 0, -1})
+        EXPECT_EQ(SetWindowsHookEx_E(id, kHookTaking), nullptr) << id;
+    AppendWinMsgFn(nullptr);
+    EXPECT_FALSE(SetWindowsHookEx_E(WH_KEYBOARD, nullptr) || UnhookWindowsHookEx_E(nullptr));
+    EXPECT_TRUE(GetGlobalEventHandler()->IsEmptyHookChain());
+
     AppendWinMsgFn(kFnTakes);
     CTolmMainFrame frame;
     VxQtCommandBar bar;
@@ -118,15 +124,6 @@ TEST_F(HooksTest, OnlyTheHostsOwnClassesAndEventsThatSaySomethingCount)
     QEvent close(QEvent::Close);
     EXPECT_TRUE(GetGlobalEventHandler()->eventFilter(&m_view, &close));
     EXPECT_EQ(take(), "t 10");
-}
-
-TEST_F(HooksTest, OnlyKeyboardHooksAreKnown)
-{
-    for (const int id : {WH_MOUSE, WH_GETMESSAGE, WH_CALLWNDPROC, WH_CBT, 0, -1})
-        EXPECT_EQ(SetWindowsHookEx_E(id, kHookTaking), nullptr) << id;
-    AppendWinMsgFn(nullptr);
-    EXPECT_FALSE(SetWindowsHookEx_E(WH_KEYBOARD, nullptr) || UnhookWindowsHookEx_E(nullptr));
-    EXPECT_TRUE(GetGlobalEventHandler()->IsEmptyHookChain());
 }
 
 TEST_F(HooksTest, WhatIsRemovedInACallIsNotCalledAnyMoreAndNothingIsForADeletedWindow)

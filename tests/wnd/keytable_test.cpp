@@ -47,21 +47,17 @@ KeyMap expectedKeys()
 
 TEST(KeyTable, GivesEveryKeyItsVirtualKeyAndEveryVirtualKeyTheLowestOfItsKeys)
 {
-    const KeyMap expected = expectedKeys();
+    KeyMap expected = expectedKeys(), lowest; // the lowest key of each virtual key
     ASSERT_EQ(expected.size(), 127U);
-    const auto valueIn = [](const KeyMap& map, int key) {
-        return map.count(key) ? map.at(key) : -1;
-    };
+    const auto valueIn = [](KeyMap& map, int key) { return map.count(key) ? map[key] : -1; };
     for (int key = -1; key < 0x01020100; key += key == 0x400 ? 0x00FFFC00 : 1)
         EXPECT_EQ(qt_key_to_ansi_vk(key), valueIn(expected, key)) << key;
-    KeyMap lowest;
     for (const auto& [key, vk] : expected)
         lowest.emplace(vk, key);
     for (int vk = -2; vk < 600; ++vk)
         EXPECT_EQ(ansi_vk_to_qt_key(vk), valueIn(lowest, vk)) << vk;
     for (const int none : {INT_MIN, INT_MAX, int(Qt::Key_unknown)})
         EXPECT_TRUE(qt_key_to_ansi_vk(none) == -1 && ansi_vk_to_qt_key(none) == -1);
-    EXPECT_EQ(ansi_vk_to_qt_key(0x30), 0x29); // ")", not "0"
 }
 
 TEST(KeyFlags, KeepWhatMessagesCanSay)
@@ -75,8 +71,7 @@ TEST(KeyFlags, KeepWhatMessagesCanSay)
         EXPECT_EQ(qt_mouse_flag_2_flag(qt), mfc);
         EXPECT_EQ(mfc_flag_2_qt_mouse_flag(mfc), Qt::MouseButtons(qt & 7));
     });
-    EXPECT_EQ(mfc_flag_2_qt_kb_flag(0xFFFFFFFF), Qt::NoModifier);
-    EXPECT_EQ(mfc_flag_2_qt_mouse_flag(0xFFFFFFFF), Qt::MouseButtons(7));
+    EXPECT_TRUE(!mfc_flag_2_qt_kb_flag(~0U) && mfc_flag_2_qt_mouse_flag(~0U) == 7);
 }
 
 TEST(MapVirtualKey, IsTheCharacterItselfForPrintableCodesAndVkKeyScanTheUpperCaseForm)

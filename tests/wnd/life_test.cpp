@@ -35,17 +35,15 @@ TEST(BindingTest, AWindowOwnsTheWidgetItMade)
 {
     QWidget top;
     CWnd_E window;
-    EXPECT_TRUE(window.Create(WS_CHILD, nullptr));
-    EXPECT_EQ(window.GetSafeHwnd()->parentWidget(), nullptr);
+    EXPECT_TRUE(window.Create(WS_CHILD, nullptr) && !window.GetSafeHwnd()->parentWidget());
     QMainWindow frame; // the host's, for windows without parent
     frame.setObjectName("CTolmMainFrame"_q);
     for (QWidget* const parent : {&top, static_cast<QWidget*>(nullptr)}) {
         EXPECT_TRUE(parent ? window.Create(parent) : window.Create(WS_CHILD, parent));
         const QPointer<QWidget> widget(window.GetSafeHwnd());
         EXPECT_EQ(widget->parentWidget(), parent ? parent : &frame);
-        EXPECT_FALSE(window.IsExternalImpObj());
         EXPECT_TRUE(widget->testAttribute(Qt::WA_Hover) && widget->hasMouseTracking());
-        EXPECT_EQ(CWnd_E::FromHandlePermanent(widget), &window);
+        EXPECT_TRUE(!window.IsExternalImpObj() && CWnd_E::FromHandlePermanent(widget) == &window);
         window.Detach();
         EXPECT_FALSE(window.GetSafeHwnd() || CWnd_E::FromHandlePermanent(widget));
         EXPECT_TRUE(widget) << "deleted by the event loop, not at once";
@@ -123,7 +121,7 @@ TEST(FromHandleTest, IdleTimeClearsThePoolUnlessAHostCommandRuns)
     }
 }
 
-TEST(HandleMapTest, ATemporaryObjectBoundToItsOwnHandleIsForgottenThere)
+TEST(FromHandleTest, ATemporaryObjectBoundToItsOwnHandleIsForgottenThere)
 {
     QWidget widget;
     CHandleMap_E* const pMap = afxMapHWND_E(TRUE);

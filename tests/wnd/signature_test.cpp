@@ -110,8 +110,7 @@ TEST_F(SignatureTest, TheFormWithWindowObjectsIsCalledLastAndItsResultCounts)
     m_window.AddMsgMapEntry(WM_APP, 5, taker<int, QWidget*, UINT, UINT>(),
                             taker<int, CWnd_E*, UINT, UINT>());
     LRESULT result = 0;
-    EXPECT_TRUE(dispatch(kWindow, kL, result));
-    EXPECT_EQ(result, kInt);
+    EXPECT_TRUE(dispatch(kWindow, kL, result) && result == kInt);
     EXPECT_EQ(take(), "w fffd 8002,E:w fffd 8002");
     m_window.AddMsgMapEntry(WM_APP, 36, nullptr, taker<void, CWnd_E*>());
     const auto gone = reinterpret_cast<WPARAM>(std::make_unique<QWidget>().get());
