@@ -347,11 +347,11 @@ TEST(EdgesTest, AMenuBarShowsTheEntriesOfAMenuOrSeveralMenusUnderTheirTitles)
     QMenu* const recent = file.GetSafeHmenu()->addMenu("Recent"_q);
     EXPECT_TRUE(window.SetMenu(&file));
     EXPECT_EQ(bar()->actions(), QList<QAction*>{recent->menuAction()});
-    EXPECT_TRUE(window.SetMenu(static_cast<CMenu_E*>(nullptr)) && !bar());
     EXPECT_TRUE(window.SetMenu(menus));
     EXPECT_EQ(bar()->actions(), (QList<QAction*>{file.GetSafeHmenu()->menuAction(),
                                                  edit.GetSafeHmenu()->menuAction()}));
-    EXPECT_TRUE(window.SetMenu(QList<CMenu_E*>{}) && !bar());
+    EXPECT_TRUE(window.SetMenu(static_cast<CMenu_E*>(nullptr)) && !bar());
+    EXPECT_TRUE(window.SetMenu(menus) && window.SetMenu(QList<CMenu_E*>{}) && !bar());
     window.SetMenu(&file);
     window.SendMessage(WM_DESTROY);
     EXPECT_FALSE(bar());
