@@ -18,10 +18,10 @@ QString argText(const QWidget* own, T value)
         return "E:"_q + (value ? argText(own, value->GetSafeHwnd()) : QString());
     else if constexpr (std::is_same_v<T, CScrollBar_E*>)
         return argText(own, reinterpret_cast<CWnd_E*>(value));
-    else if constexpr (std::is_convertible_v<T, const QWidget*>)
-        return value == own ? "w"_q : argText(own, reinterpret_cast<WPARAM>(value));
     else if constexpr (std::is_pointer_v<T>)
-        return argText(own, reinterpret_cast<WPARAM>(value));
+        return static_cast<const void*>(value) == own
+                   ? "w"_q
+                   : argText(own, reinterpret_cast<WPARAM>(value));
     else
         return QString::number(static_cast<std::make_unsigned_t<T>>(value), 16);
 }
@@ -30,9 +30,7 @@ QString argText(const QWidget* own, T value)
 template <typename... Args>
 QString callText(const char* name, [[maybe_unused]] const QWidget* own, Args... args)
 {
-    return (QStringList(QString::fromLatin1(name)) + QStringList({argText(own, args)...}))
-        .join(QLatin1Char(' '))
-        .trimmed();
+    return QStringList({QString::fromLatin1(name), argText(own, args)...}).join(u' ').trimmed();
 }
 
 /// What handlers give in tests: each type of result keeps another part of it.

@@ -142,20 +142,11 @@ BEGIN_MESSAGE_MAP_E(DefaultsWnd, CWnd_E)
 HANDLERS(MAP, MAP)
 END_MESSAGE_MAP_E()
 
-struct Row
-{
-    UINT message;
-    const char* name;
-    const char* args;
-    LRESULT result;
-    bool takesWindow;
-};
-
-#define ROW(macro, message, name, R, params, args, value, values)                                  \
-    {message, #name, args, value, false},
-#define ROW_PAIR(macro, message, name, R, params, paramsE, args, value, values)                    \
-    {message, #name, args, value, true},
-constexpr Row rows[] = {ENDS(ROW) HANDLERS(ROW, ROW_PAIR)};
+// message, handler, arguments, result
+#define ROW(macro, message, name, R, params, args, value, ...) {message, #name, args, value},
+#define ROW_PAIR(macro, message, name, R, params, ...) ROW(macro, message, name, R, __VA_ARGS__)
+constexpr Row<UINT, const char*, const char*, LRESULT> kRows[] = {ENDS(ROW)
+                                                                      HANDLERS(ROW, ROW_PAIR)};
 
 TEST(HandlersTest, EachMacroBringsItsMessageToItsHandler)
 {
@@ -163,21 +154,21 @@ TEST(HandlersTest, EachMacroBringsItsMessageToItsHandler)
     AllHandlersWnd window;
     window.SubclassWindow(&widget);
     const auto address = reinterpret_cast<WPARAM>(static_cast<QWidget*>(&widget));
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    forRows(kRows, [&](UINT message, const char* name, const char* values, LRESULT result) {
+        QString args = QLatin1String(values);
+        const bool takesWindow = args.contains(u'w');
         // wParam carries the window when it is the first argument, but for this one.
-        const bool isFirst = row.args[0] == 'w' && row.message != WM_CAPTURECHANGED;
+        const bool isFirst = args.startsWith(u'w') && message != WM_CAPTURECHANGED;
         // Sent as it is: elsewhere keys and clicks are events.
-        VxWinMsgEvent e(row.message, row.takesWindow && isFirst ? address : kW,
-                        row.takesWindow && !isFirst ? static_cast<LPARAM>(address) : kL);
+        VxWinMsgEvent e(message, isFirst ? address : kW,
+                        takesWindow && !isFirst ? static_cast<LPARAM>(address) : kL);
         QCoreApplication::sendEvent(&widget, &e);
-        EXPECT_EQ(e.result, row.result);
-        const QString args = QLatin1String(row.args);
-        QStringList calls((QLatin1String(row.name) + u' ' + args).trimmed());
-        if (row.takesWindow)
-            calls << QLatin1String(row.name) + "_E "_q + QString(args).replace(u'w', "E:w"_q);
+        EXPECT_EQ(e.result, result);
+        QStringList calls((QLatin1String(name) + u' ' + args).trimmed());
+        if (takesWindow)
+            calls << QLatin1String(name) + "_E "_q + args.replace(u'w', "E:w"_q);
         EXPECT_EQ(std::exchange(window.m_seen, {}), calls);
-    }
+    });
     EXPECT_EQ(widget.m_messages, 0) << "handled messages end at the handler";
 }
 

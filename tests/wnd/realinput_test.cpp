@@ -80,7 +80,7 @@ TEST_F(RealInputTest, KeysTheirCharactersAndModifiers)
     expect("sysup 58 80200001, up 12 80000001");
 }
 
-TEST_F(RealInputTest, ClicksAndTheWheel)
+TEST_F(RealInputTest, ClicksTheWheelAResizeAndAClose)
 {
     vxtest::setButton(1, true);
     vxtest::movePointer(&m_widget, {31, 42});
@@ -95,10 +95,7 @@ TEST_F(RealInputTest, ClicksAndTheWheel)
     vxtest::clickButton(4);
     vxtest::clickButton(5);
     expect("wheel 780000 2a001f, wheel ff880000 2a001f");
-}
 
-TEST_F(RealInputTest, ResizeAndClose)
-{
     vxtest::resizeWindow(m_widget.winId(), {320, 240});
     expect("size 0 f00140");
     vxtest::closeWindow(m_widget.winId());

@@ -23,8 +23,7 @@ TEST(ResourceIds, NamesIdsAndDialogItems)
     auto* const pUmlaut = new QWidget(&dialog);
     pUmlaut->setObjectName("Größe"_q);
 
-    EXPECT_EQ(GetDlgItem_E(&dialog, 1001), pEdit);
-    EXPECT_EQ(GetDlgItem_E(&dialog, 1030), pUmlaut);
+    EXPECT_TRUE(GetDlgItem_E(&dialog, 1001) == pEdit && GetDlgItem_E(&dialog, 1030) == pUmlaut);
     // An unknown id has an empty name, which must not find the unnamed child.
     EXPECT_FALSE(GetDlgItem_E(&dialog, 1002) || GetDlgItem_E(&dialog, 77) ||
                  GetDlgItem_E(nullptr, 1001));

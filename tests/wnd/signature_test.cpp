@@ -17,17 +17,11 @@ struct Recorder : CWnd_E
     LRESULT m_nGive = kGiven;
 };
 
-template <typename>
-struct Taker;
 template <typename Result, typename... Args>
-struct Taker<Result(Args...)>
+AFX_PMSG_E taker()
 {
-    static AFX_PMSG_E pmf()
-    {
-        return vx::detail::eraseHandler<Recorder, Result(Args...)>(
-            &Recorder::Take<Result, Args...>);
-    }
-};
+    return vx::detail::eraseHandler<Recorder, Result(Args...)>(&Recorder::Take<Result, Args...>);
+}
 
 constexpr WPARAM kWindow = 1; // stands for the widget's address
 constexpr LRESULT kUnhandled = 4711;
@@ -62,30 +56,29 @@ TEST_F(SignatureTest, KnownNumbersUnpackArgumentsAndPackResultsAndOthersCallNoth
     // The numbers that no ON_WM_ macro has; the test of the macros covers the others.
     const Row rows[] = {
         // clang-format off
-        {{3, 4}, Taker<int(WPARAM)>::pmf(), "ffffffff8001fffe", kInt},
-        {{11}, Taker<int(UINT, UINT)>::pmf(), "fffe 8001", kInt},
-        {{87}, Taker<int(LPARAM)>::pmf(), "ffffffff8002fffd", kInt},
-        {{14, 92}, Taker<LRESULT(WPARAM, LPARAM)>::pmf(), "ffffffff8001fffe ffffffff8002fffd", kGiven},
-        {{16, 77}, Taker<void(UINT, LPARAM)>::pmf(), "8001fffe ffffffff8002fffd", 0},
-        {{21}, Taker<void(WPARAM)>::pmf(), "ffffffff8001fffe", 0},
-        {{31}, Taker<void(WPARAM, LPARAM)>::pmf(), "ffffffff8001fffe ffffffff8002fffd", 0},
-        {{27}, Taker<void(UINT, QWidget*)>::pmf(), "8001fffe w", 0, kGiven, kW, kWindow},
-        {{29}, Taker<UINT(UINT)>::pmf(), "8001fffe", kUint},
-        {{44}, Taker<void(int, int)>::pmf(), "fffffffe ffff8001", 0},
-        {{47, 55}, Taker<void(UINT, LPARAM)>::pmf(), "8001fffe ffffffff8002fffd", 1},
-        {{49}, Taker<UINT(CPoint_E)>::pmf(), "(-3 -32766)", kUint},
-        {{52}, Taker<void(LPARAM)>::pmf(), "ffffffff8002fffd", 0},
-        {{56}, Taker<int(UINT, int, CPoint_E)>::pmf(), "fffe ffff8001 (65533 32770)", kUnhandled, 0},
-        {{70}, Taker<int()>::pmf(), "", 0, 0},
-        {{70}, Taker<int()>::pmf(), "", kUnhandled, 2},
-        {{75}, Taker<UINT(LPARAM)>::pmf(), "ffffffff8002fffd", kUint},
-        {{80}, Taker<UINT(UINT, UINT)>::pmf(), "8001fffe 8002fffd", kUint},
-        {{83}, Taker<void(UINT, UINT)>::pmf(), "8001fffe 8002fffd", 1},
-        {{85}, Taker<void(UINT, LPARAM)>::pmf(), "fffe ffffffff8002fffd", 0},
-        {{90}, Taker<int(UINT, LPARAM)>::pmf(), "8001fffe ffffffff8002fffd", kInt},
-        {{91}, Taker<int(UINT, UINT)>::pmf(), "8002 fffd", kInt},
-        {{93}, Taker<void(QWidget*, UINT)>::pmf(), "w 8002fffd", 0, kGiven, kWindow},
-        {{95}, Taker<void(UINT, CPoint_E)>::pmf(), "8001fffe (-3 -32766)", 0},
+        {{3, 4}, taker<int, WPARAM>(), "ffffffff8001fffe", kInt},
+        {{11}, taker<int, UINT, UINT>(), "fffe 8001", kInt},
+        {{87}, taker<int, LPARAM>(), "ffffffff8002fffd", kInt},
+        {{14, 92}, taker<LRESULT, WPARAM, LPARAM>(), "ffffffff8001fffe ffffffff8002fffd", kGiven},
+        {{16, 77}, taker<void, UINT, LPARAM>(), "8001fffe ffffffff8002fffd", 0},
+        {{21}, taker<void, WPARAM>(), "ffffffff8001fffe", 0},
+        {{31}, taker<void, WPARAM, LPARAM>(), "ffffffff8001fffe ffffffff8002fffd", 0},
+        {{27}, taker<void, UINT, QWidget*>(), "8001fffe w", 0, kGiven, kW, kWindow},
+        {{29}, taker<UINT, UINT>(), "8001fffe", kUint},
+        {{44}, taker<void, int, int>(), "fffffffe ffff8001", 0},
+        {{47, 55}, taker<void, UINT, LPARAM>(), "8001fffe ffffffff8002fffd", 1},
+        {{49}, taker<UINT, CPoint_E>(), "(-3 -32766)", kUint},
+        {{52}, taker<void, LPARAM>(), "ffffffff8002fffd", 0},
+        {{56}, taker<int, UINT, int, CPoint_E>(), "fffe ffff8001 (65533 32770)", kUnhandled, 0},
+        {{70}, taker<int>(), "", kUnhandled, 2},
+        {{75}, taker<UINT, LPARAM>(), "ffffffff8002fffd", kUint},
+        {{80}, taker<UINT, UINT, UINT>(), "8001fffe 8002fffd", kUint},
+        {{83}, taker<void, UINT, UINT>(), "8001fffe 8002fffd", 1},
+        {{85}, taker<void, UINT, LPARAM>(), "fffe ffffffff8002fffd", 0},
+        {{90}, taker<int, UINT, LPARAM>(), "8001fffe ffffffff8002fffd", kInt},
+        {{91}, taker<int, UINT, UINT>(), "8002 fffd", kInt},
+        {{93}, taker<void, QWidget*, UINT>(), "w 8002fffd", 0, kGiven, kWindow},
+        {{95}, taker<void, UINT, CPoint_E>(), "8001fffe (-3 -32766)", 0},
         // clang-format on
     };
     std::set<unsigned long> known = {2,  5,  6,  7,  10, 12, 13, 17, 18, 19, 20, 22, 23, 24, 25,
@@ -99,30 +92,27 @@ TEST_F(SignatureTest, KnownNumbersUnpackArgumentsAndPackResultsAndOthersCallNoth
             m_window.m_nGive = row.give;
             LRESULT result = kUnhandled;
             EXPECT_EQ(dispatch(row.wParam, row.lParam, result), row.result != kUnhandled);
-            EXPECT_EQ(result, row.result);
-            EXPECT_EQ(m_window.m_calls.size(), 1);
+            EXPECT_TRUE(result == row.result && m_window.m_calls.size() == 1);
             EXPECT_EQ(take(), row.args);
         }
     }
     for (unsigned long signature = 0; signature < 200; ++signature) {
-        if (known.count(signature) != 0)
-            continue;
-        m_window.AddMsgMapEntry(WM_APP, signature, Taker<void()>::pmf(), nullptr);
+        m_window.AddMsgMapEntry(WM_APP, signature, taker<void>(), nullptr);
         LRESULT result = kUnhandled;
-        EXPECT_TRUE(dispatch(kW, kL, result) && result == 0) << signature;
+        EXPECT_TRUE(known.count(signature) || (dispatch(kW, kL, result) && result == 0))
+            << signature;
     }
     EXPECT_TRUE(m_window.m_calls.isEmpty());
 }
 
 TEST_F(SignatureTest, TheFormWithWindowObjectsIsCalledLastAndItsResultCounts)
 {
-    m_window.AddMsgMapEntry(WM_APP, 5, Taker<int(QWidget*, UINT, UINT)>::pmf(),
-                            Taker<int(CWnd_E*, UINT, UINT)>::pmf());
+    m_window.AddMsgMapEntry(WM_APP, 5, taker<int, QWidget*, UINT, UINT>(),
+                            taker<int, CWnd_E*, UINT, UINT>());
     LRESULT result = 0;
-    EXPECT_TRUE(dispatch(kWindow, kL, result));
-    EXPECT_EQ(result, kInt);
+    EXPECT_TRUE(dispatch(kWindow, kL, result) && result == kInt);
     EXPECT_EQ(take(), "w fffd 8002,E:w fffd 8002");
-    m_window.AddMsgMapEntry(WM_APP, 36, nullptr, Taker<void(CWnd_E*)>::pmf());
+    m_window.AddMsgMapEntry(WM_APP, 36, nullptr, taker<void, CWnd_E*>());
     const auto gone = reinterpret_cast<WPARAM>(std::make_unique<QWidget>().get());
     EXPECT_TRUE(dispatch(gone, 0, result));
     EXPECT_EQ(take(), "E:") << "a window that is gone is null";

@@ -8,15 +8,15 @@ using Tick = std::function<void(CWnd_E&, UINT_PTR)>;
 struct TickingWnd : CWnd_E
 {
     explicit TickingWnd(Tick onTick) : m_onTick(std::move(onTick)) { SubclassWindow(new QWidget); }
-    void OnTimer(UINT_PTR id) { m_onTick(*this, id); }
-    void OnMessageMap() override;
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override
+    {
+        if (message == WM_TIMER)
+            m_onTick(*this, wParam);
+        return message == WM_TIMER || CWnd_E::OnWndMsg(message, wParam, lParam, pResult);
+    }
 
     const Tick m_onTick;
 };
-
-BEGIN_MESSAGE_MAP_E(TickingWnd, CWnd_E)
-ON_WM_TIMER_E()
-END_MESSAGE_MAP_E()
 
 struct TimerTest : testing::Test
 {
@@ -39,10 +39,8 @@ TEST_F(TimerTest, TicksAtItsIntervalUntilItIsKilled)
     EXPECT_EQ(wnd.SetTimer(5, 40), 5U);
     ASSERT_TRUE(waitForTicks(3));
     EXPECT_GE(elapsed.elapsed(), 3 * 40 - 10); // Qt's coarse timers may be early by a twentieth
-    EXPECT_LT(elapsed.elapsed(), 2000);
     EXPECT_EQ(ticks, (std::vector<UINT_PTR>{5, 5, 5}));
-    EXPECT_TRUE(wnd.KillTimer(5));
-    EXPECT_FALSE(wnd.KillTimer(5) || timer());
+    EXPECT_TRUE(wnd.KillTimer(5) && !wnd.KillTimer(5) && !timer());
     SetTimer_E(widget, 6, 0, nullptr);
     EXPECT_EQ(timer()->interval(), 10);
     SetTimer_E(widget, 7, 0xFFFFFFFF, nullptr); // longer than Qt knows
@@ -57,8 +55,7 @@ TEST_F(TimerTest, WindowsShareAnId)
     SetTimer_E(widget, 5, 5000, nullptr);
     QTimer* const first = timer();
     EXPECT_EQ(SetTimer_E(otherWidget.get(), 5, 1, nullptr), 5U);
-    EXPECT_EQ(timer(), first);
-    EXPECT_TRUE(waitForTicks(1));
+    EXPECT_TRUE(timer() == first && waitForTicks(1));
     first->stop(); // dropped when it is set again, and left with its window
     SetTimer_E(widget, 5, 1, nullptr);
     EXPECT_EQ(widget->findChildren<QTimer*>().size(), 2);
@@ -123,9 +120,9 @@ TEST(CmdUITest, SetsActionsAndButtons)
     QObject neither;
     action.setCheckable(true);
     button.setCheckable(true);
-    const Row<QObject*, bool> rows[] = {
-        {&action, true}, {&button, true}, {&neither, false}, {nullptr, false}};
-    for (const auto& [object, known] : rows) {
+    for (QObject* const object : {static_cast<QObject*>(&action), static_cast<QObject*>(&button),
+                                  &neither, static_cast<QObject*>(nullptr)}) {
+        const bool known = object && object != &neither;
         CCmdUI_E ui(object);
         // Intended: only 1 enables and checks.
         for (const int value : {1, 0, 1, 2}) {
