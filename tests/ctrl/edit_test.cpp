@@ -179,14 +179,14 @@ TEST(Edit, LinesPlacesAndScrolling)
             {EM_CHARFROMPOS, 0, MAKELPARAM(fifth.x + 1, fifth.y + 5), 4},
             {EM_POSFROMCHAR, 4, MAKELPARAM(fifth.x, first.y)}, {EM_POSFROMCHAR, 1000, -1},
             {EM_GETFIRSTVISIBLELINE, 0}, {EM_LINESCROLL, 0, 10, of(0, 1)},
-            {EM_GETFIRSTVISIBLELINE, of(0, 10)}, {EM_SCROLL, SB_LINEUP, of(0, MAKELONG(-1, TRUE))},
+            {EM_GETFIRSTVISIBLELINE, of(0, 10)}, {EM_SCROLL, SB_LINEUP, of(0U, MAKELONG(-1, TRUE))},
             {EM_SCROLL, 99, 0}, {EM_LINESCROLL, INT_MIN, INT_MIN, of(0, 1)}, {EM_GETTHUMB, 0},
             {EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(7, 9), 0},
             {EM_GETMARGINS, MAKELONG(7, 9)}, {EM_GETRECT, 0, at<tagRECT>(&got), 0}, {EM_GETRECT, 0},
         });
         // clang-format on
         EXPECT_EQ(got, CRect_E(kRect));
-        EXPECT_EQ(edit.CharFromPos(edit.PosFromChar(9)), of(0, MAKELONG(9, 1)));
+        EXPECT_EQ(edit.CharFromPos(edit.PosFromChar(9)), of(0, 0x10009));
         EXPECT_EQ(edit.PosFromChar(0).x, first.x + 7);
         // clang-format off
         runSteps(edit, {

@@ -115,7 +115,8 @@ TEST(FromHandleTest, IdleTimeClearsThePoolUnlessAHostCommandRuns)
         const QPointer<CWnd_E> window(CWnd_E::FromHandle(&widget));
         QTimer tick;
         tick.start(1);
-        for (idles = 0; idles < 2;)
+        idles = 0;
+        while (idles < 2)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         EXPECT_EQ(!window.isNull(), isActive && isActive());
     }

@@ -113,7 +113,9 @@ TEST_F(SignatureTest, TheFormWithWindowObjectsIsCalledLastAndItsResultCounts)
     EXPECT_TRUE(dispatch(kWindow, kL, result) && result == kInt);
     EXPECT_EQ(take(), "w fffd 8002,E:w fffd 8002");
     m_window.AddMsgMapEntry(WM_APP, 36, nullptr, taker<void, CWnd_E*>());
-    const auto gone = reinterpret_cast<WPARAM>(std::make_unique<QWidget>().get());
+    auto dying = std::make_unique<QWidget>();
+    const auto gone = reinterpret_cast<WPARAM>(dying.get());
+    dying.reset();
     EXPECT_TRUE(dispatch(gone, 0, result));
     EXPECT_EQ(take(), "E:") << "a window that is gone is null";
     // A null result pointer is left alone.
