@@ -15,6 +15,7 @@ namespace {
 
 constexpr int nTrackerHeight = 110;
 constexpr int nReportsWidth = 256;
+constexpr int nMaxReports = 1000;
 constexpr int nStatusIds[] = {ID_VIEW_GRID, ID_VIEW_LABELS, ID_VIEW_FIT, ID_INDICATOR_ITEMS,
                               ID_INDICATOR_ZOOM};
 
@@ -123,6 +124,7 @@ void CTrackerPanel::SetupUI()
 
     auto* const pReports = new QListWidget(pPanel);
     pReports->setFixedWidth(nReportsWidth);
+    pReports->setUniformItemSizes(true); // or each new report would measure all the others
     pReports->setObjectName(ToStringId(IDC_REPORTS));
     m_wndTracker.Create(pPanel);
     QWidget* const pTracker = m_wndTracker.GetSafeHwnd();
@@ -184,6 +186,8 @@ LRESULT CTrackerPanel::OnReport(WPARAM, LPARAM lParam)
     if (!pReports)
         return FALSE;
     pReports->addItem(VxQString(strLine));
+    if (pReports->count() > nMaxReports)
+        delete pReports->takeItem(0);
     pReports->scrollToBottom();
     WriteReport(strLine);
     return TRUE;
