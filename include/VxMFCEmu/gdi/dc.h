@@ -69,9 +69,9 @@ public:
 
     // Handles
 
-    /// Sets the attribute handle.
+    /// Sets the attribute handle. Attach() calls it with the new handle, when m_hDC has it already.
     virtual void SetAttribDC(HDC hDC);
-    /// Clears the attribute handle.
+    /// Clears the attribute handle. Detach() calls it while m_hDC is still the old handle.
     virtual void ReleaseAttribDC();
 
     // Attributes. Virtual operations first, in the order of their slots.
@@ -437,7 +437,9 @@ public:
     void DPtoLP(tagRECT* pRect) const;
     void DPtoLP(tagSIZE* pSize) const;
     /// @}
-    /// Some of the capabilities of the device (sizes, resolution, depth); 0 for others.
+    /// A capability of the device: TECHNOLOGY (always DT_RASDISPLAY), HORZSIZE and VERTSIZE in
+    /// millimetres, HORZRES and VERTRES in pixels, BITSPIXEL, PLANES (1), LOGPIXELSX and LOGPIXELSY
+    /// in dots per inch. 0 for others and without a device.
     int GetDeviceCaps(int nIndex) const;
 
     // Images. FALSE when the source is needed and is no image or widget, or this has no device.
