@@ -4,6 +4,7 @@
 #include <VxMFCEmu/wnd/hostwindows.h>
 #include <VxMFCEmu/wnd/windowfunctions.h>
 
+#include <QtGui/QWindow>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QScrollBar>
 
@@ -35,6 +36,14 @@ private:
     Destruction* const m_pOuter;
     static inline Destruction* s_pInnermost = nullptr;
 };
+
+// Qt keeps the native window under a pressed button and does not forget it when it is deleted
+// hidden, as it is here. So it goes now, before a press that is on its way can reach it.
+void closeNativeWindow(const QWidget& widget)
+{
+    if (QWindow* const pWindow = widget.windowHandle())
+        pWindow->destroy();
+}
 
 } // namespace
 
@@ -98,6 +107,8 @@ void CWnd_E::OnDestroy()
 
 void CWnd_E::OnNcDestroy()
 {
+    if (const QWidget* const pWidget = GetSafeHwnd(); pWidget && !IsExternalImpObj())
+        closeNativeWindow(*pWidget);
     Detach();
     PostNcDestroy();
 }

@@ -175,6 +175,22 @@ TEST(DestroyTest, ParentsHearFirstAndEndLast)
     EXPECT_TRUE(again.DestroyWindow() && times == 1 && !again.GetSafeHwnd());
 }
 
+// A press that still reached it would be remembered by Qt, and crash it when the next window hides.
+TEST(DestroyTest, TheNativeWindowGoesAtOnceButOnlyThatOfAnOwnedWidget)
+{
+    QWidget foreign;
+    for (const bool bOwned : {true, false}) {
+        CWnd_E window;
+        EXPECT_TRUE(bOwned ? window.Create(WS_POPUP, nullptr) : window.SubclassWindow(&foreign));
+        window.ShowWindow(SW_SHOW);
+        const QPointer<QWidget> widget(window.GetSafeHwnd());
+        EXPECT_TRUE(widget->windowHandle()->handle());
+        EXPECT_TRUE(window.DestroyWindow());
+        ASSERT_TRUE(widget);
+        EXPECT_EQ(widget->windowHandle()->handle() != nullptr, !bOwned);
+    }
+}
+
 TEST(DestroyTest, AWindowMayDieWhileItIsCreatedAndThroughItsOwnScrollBar)
 {
     QWidget top;

@@ -317,7 +317,7 @@ public:
     // Life of the window
     /// Takes away the scroll bars and the menu bar.
     void OnDestroy();
-    /// Detaches the widget and calls PostNcDestroy().
+    /// Closes the native window of an owned widget, detaches the widget and calls PostNcDestroy().
     void OnNcDestroy();
     /// Lets the event go on to the widget.
     BOOL OnNcCreate(CREATESTRUCT* pCreate);
