@@ -27,9 +27,10 @@ measure() {
     [ -x "$binary" ] || continue
     result="$results/$platform/${binary##*/}"
     echo "$platform: ${binary##*/}" >&2
-    # Rows are repeated in mixed order, so that a slow moment of the machine hits row and baseline alike.
-    "$binary" --benchmark_filter="$filter" --benchmark_min_time=0.05 --benchmark_repetitions=7 \
-      --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true \
+    # Many short repetitions in mixed order: the fastest of each row is one without a slow moment of
+    # the machine.
+    "$binary" --benchmark_filter="$filter" --benchmark_min_time=0.02 --benchmark_repetitions=15 \
+      --benchmark_enable_random_interleaving=true \
       --benchmark_out="$result.json" --benchmark_out_format=json >"$result.log" 2>&1 || {
       cat "$result.log" >&2
       return 1

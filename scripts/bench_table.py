@@ -19,8 +19,8 @@ NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 MEMORY = "KiB"  # a counter of this name makes a row of its own
 
 
-def medians(folder):
-    """Median of each row of a platform, in the order in which the binaries have them: nanoseconds, or KiB."""
+def fastest(folder):
+    """The fastest repetition of each row of a platform, in the order of the binaries: nanoseconds, or KiB."""
     times = {}
     for path in sorted(folder.glob("*.json")):
         text = path.read_text()
@@ -29,10 +29,13 @@ def medians(folder):
         for row in rows:
             if row.get("error_occurred"):
                 sys.exit(f"{path.name}: {row['name']}: {row.get('error_message', 'failed')}")
-            if row.get("aggregate_name") == "median":
-                times[row["run_name"]] = row["real_time"] * NANOSECONDS[row["time_unit"]]
-                if MEMORY in row:
-                    times[f"{row['run_name']} {MEMORY}"] = row[MEMORY]
+            if row["run_type"] != "iteration":
+                continue
+            values = {row["name"]: row["real_time"] * NANOSECONDS[row["time_unit"]]}
+            if MEMORY in row:
+                values[f"{row['name']} {MEMORY}"] = row[MEMORY]
+            for name, value in values.items():
+                times[name] = min(value, times.get(name, value))
     return times
 
 
@@ -52,7 +55,7 @@ def show(name, value):
 
 
 def table(results):
-    platforms = {name: medians(results / name) for name in PLATFORMS}
+    platforms = {name: fastest(results / name) for name in PLATFORMS}
     names = list(dict.fromkeys(name for times in platforms.values() for name in times))
     baselines = {raw_name(name) for name in names}
     rows = [("row",) + tuple(f"{p} {c}" for p in PLATFORMS for c in ("time", "raw time", "ratio"))]
