@@ -1,4 +1,4 @@
-// Logs as its arguments say: text TEXT | threads LOG, in a log that is made anew.
+// log_helper TEXT LOG: logs the text and folders, moves the log away, and logs from many threads.
 #include <VxMFCEmu/core/log.h>
 
 #include <cstdio>
@@ -18,22 +18,17 @@ struct LastWords
 
 int main(int, char** argv)
 {
-    const std::string what = argv[1];
-    if (what == "text") {
-        vxLogPrintf(L"%S", argv[2]);
-        vxLogPrintf(L"%s", GetApplicationDirectory(nullptr).GetString());
-        vxLogPrintf(L"%s", GetMainDirectory().GetString());
-    } else {
-        vxLogPrintf(L"rotated away");
-        std::rename(argv[2], (std::string(argv[2]) + ".old").c_str());
-        std::vector<std::thread> workers;
-        for (int t = 0; t < 8; ++t) {
-            workers.emplace_back([t] {
-                for (int i = 0; i < 100; ++i)
-                    vxLogPrintf(L"thread %d line %d %s", t, i, L"abcdefghijklmnopqrstuvwxyz");
-            });
-        }
-        for (std::thread& worker : workers)
-            worker.join();
+    vxLogPrintf(L"%S", argv[1]);
+    vxLogPrintf(L"%s", GetApplicationDirectory(nullptr).GetString());
+    vxLogPrintf(L"%s", GetMainDirectory().GetString());
+    std::rename(argv[2], (std::string(argv[2]) + ".old").c_str());
+    std::vector<std::thread> workers;
+    for (int t = 0; t < 8; ++t) {
+        workers.emplace_back([t] {
+            for (int i = 0; i < 100; ++i)
+                vxLogPrintf(L"thread %d line %d %s", t, i, L"abcdefghijklmnopqrstuvwxyz");
+        });
     }
+    for (std::thread& worker : workers)
+        worker.join();
 }
