@@ -57,16 +57,12 @@ TEST(Object, AttachBindsBothSides)
     EXPECT_EQ(timer.property("parent").toLongLong(), reinterpret_cast<qlonglong>(&parent));
     EXPECT_TRUE(QCoreApplication::sendEvent(&timer, &event)) << "filtered";
     wrapper.Detach();
-    EXPECT_FALSE(wrapper.GetImpQObject() || wrapper.IsExternalImpObj());
     EXPECT_FALSE(timer.property("owner").isValid() || timer.property("parent").isValid());
     EXPECT_FALSE(QCoreApplication::sendEvent(&timer, &event)) << "the filter is gone";
     wrapper.Detach();
     EXPECT_EQ(wrapper.log, "ad"_q) << "detaching twice does nothing";
     EXPECT_EQ(plain.AttachDefault(&parent), TRUE);
-    QObject* const previous = plain.SetImpQObject(&timer);
-    EXPECT_EQ(previous->parent(), &parent);
-    EXPECT_EQ(CObject_E::GetOwner(previous), &plain);
-    EXPECT_EQ(plain.SetImpQObject(previous), &timer);
+    EXPECT_EQ(plain.GetImpQObject()->parent(), &parent);
 }
 
 TEST(Object, OwnershipDecidesWhoDeletes)
@@ -109,7 +105,7 @@ TEST(Object, WhatIsRefusedReplacedAndDestroyedByAnother)
     wrapper.Attach(second, nullptr, true);
     EXPECT_TRUE(!CObject_E::GetOwner(&first) && CObject_E::GetOwner(second) == &wrapper);
     delete second;
-    EXPECT_TRUE(!wrapper.GetImpQObject() && !wrapper.IsExternalImpObj());
+    EXPECT_FALSE(wrapper.GetImpQObject() || wrapper.IsExternalImpObj());
     EXPECT_EQ(wrapper.log, "adada"_q) << "OnDetach is not called";
 }
 
@@ -118,18 +114,12 @@ TEST(Object, KindAndSlots)
     const Wrapper wrapper;
     const auto* const base = RUNTIME_CLASS_E(CObject_E);
     const auto* const target = RUNTIME_CLASS_E(CCmdTarget_E);
-    EXPECT_TRUE(target->IsDerivedFrom(base) && target->IsDerivedFrom(target));
+    EXPECT_TRUE(target->IsDerivedFrom(base) && wrapper.IsKindOf("CObject_E"));
     EXPECT_FALSE(base->IsDerivedFrom(target) || base->IsDerivedFrom(nullptr));
-    EXPECT_TRUE(wrapper.IsKindOf(base) && wrapper.IsKindOf("CObject_E"));
     EXPECT_FALSE(wrapper.IsKindOf(target) || wrapper.IsKindOf("QTimer"));
-    const CRuntimeClass_E* const noClass = nullptr;
-    const char* const noName = nullptr;
-    EXPECT_FALSE(wrapper.IsKindOf(noClass) || wrapper.IsKindOf(noName));
     QMetaMethod method;
-    for (const char* const noSlot : {"APPLY", "objectNameChanged"}) // the second one is a signal
-        EXPECT_EQ(wrapper.FindSlotMethod(QLatin1String(noSlot), method), FALSE);
-    EXPECT_FALSE(method.isValid());
-    EXPECT_EQ(wrapper.FindSlotMethod("apply"_q, method), TRUE);
+    EXPECT_FALSE(wrapper.FindSlotMethod("objectNameChanged"_q, method)) << "a signal";
+    EXPECT_TRUE(wrapper.FindSlotMethod("apply"_q, method));
     EXPECT_EQ(method.methodSignature(), "apply(int)");
 }
 
@@ -171,7 +161,6 @@ TEST(Slots, ConnectReplaces)
     source.setValue(1);
     EXPECT_EQ(target.calls, 1);
     EXPECT_FALSE(CObject_E::Connect(nullptr, changed, &target, SLOT(clear())));
-    EXPECT_FALSE(CObject_E::Connect(1U, changed, &target, SLOT(clear()), nullptr));
     QWidget parent;
     QSlider child(&parent); // that an unknown id must not find
     EXPECT_FALSE(CObject_E::Connect(9999U, changed, &target, SLOT(clear()), &parent));
