@@ -18,15 +18,12 @@ void check(const Rows& rows)
 TEST(CString, ConstructionAndAssignment)
 {
     const Text rows[] = {
-        {CString_E(kNull), L""},          {CString_E(static_cast<const char*>(nullptr)), L""},
-        {CString_E(kNull, 3), L""},       {CString_E(L"abc", -1), L""},
-        {CString_E(L'x', -1), L""},       {CString_E(L'x', 3), L"xxx"},
-        {CString_E("\u4E2D"), L"\u4E2D"}, {CString_E(_T(__FILE__)), __FILE__}};
+        {CString_E(kNull), L""},    {CString_E(static_cast<const char*>(nullptr)), L""},
+        {CString_E(kNull, 3), L""}, {CString_E(L"abc", -1), L""},
+        {CString_E(L'x', -1), L""}, {CString_E(_T(__FILE__)), __FILE__}};
     check(rows);
-    EXPECT_EQ(CString_E(L"a\0bc", 3).GetLength(), 3);
     CString_E s;
     EXPECT_EQ(s = L'c', L"c");
-    EXPECT_EQ(s = "\u4E2D", L"\u4E2D");
     EXPECT_EQ(s = reinterpret_cast<const unsigned char*>("\u00E9"), L"\u00E9");
     EXPECT_EQ(s = kNull, L"");
     s = "q"_q;
@@ -38,20 +35,14 @@ TEST(CString, ConstructionAndAssignment)
     s += "\u00E9";
     s.AppendChar(L'!');
     EXPECT_EQ(s, L"q12345\u00E9!");
-    CString_E a(L"value");
-    const CString_E b = a;
-    a.MakeUpper();
-    EXPECT_EQ(b, L"value");
-    a += a.GetString();
-    EXPECT_EQ(a, L"VALUEVALUE");
+    s = L"self";
+    s += s.GetString();
+    EXPECT_EQ(s, L"selfself");
 }
 
 TEST(CString, Access)
 {
     CString_E s(L"abc");
-    const CString_E& fixed = s;
-    EXPECT_EQ(s[0], L'a');
-    EXPECT_EQ(fixed[std::size_t(1)], L'b');
     EXPECT_EQ(s[2L], L'c');
     EXPECT_THROW(s[3U], std::out_of_range);
     s.SetAt(1, L'x');
@@ -59,10 +50,7 @@ TEST(CString, Access)
         EXPECT_THROW(s.GetAt(index), std::out_of_range) << index;
         s.SetAt(index, L'y');
     }
-    const wchar_t* const text = s;
-    EXPECT_STREQ(text, L"axc");
-    s.Empty();
-    EXPECT_EQ(s.GetLength(), 0);
+    EXPECT_STREQ(s, L"axc");
 }
 
 TEST(CString, Utf8CacheIsNewEachTimeAndItsOwn)
@@ -76,7 +64,6 @@ TEST(CString, Utf8CacheIsNewEachTimeAndItsOwn)
     CString_E moved(std::move(s));
     EXPECT_STREQ(moved.Utf8Ptr(), "\u4E2Dx");
     moved.CleanUtf8Mem();
-    moved.CleanUtf8Mem();
     EXPECT_STREQ(moved, "\u4E2Dx");
 }
 
@@ -84,12 +71,10 @@ TEST(CString, Operators)
 {
     const CString_E a(L"alpha");
     const CString_E b(L"beta");
-    EXPECT_TRUE(a == a && a != b && a < b && b > a && a <= a && b >= a);
-    EXPECT_TRUE(a == L"alpha" && L"alpha" == a && a != L"b" && L"b" > a && a < L"b");
-    EXPECT_TRUE(a == "alpha" && a == "alpha"_q && CString_E(L"c") == L'c');
+    EXPECT_TRUE(a < b && b > a && a <= a && b >= a && L"b" > a && a < L"b");
+    EXPECT_TRUE(L"alpha" == a && a == "alpha" && a == "alpha"_q && CString_E(L"c") == L'c');
     EXPECT_TRUE(CString_E() == kNull && a != kNull);
     EXPECT_TRUE(CString_E(L"a\0b", 3) != L"a");
-    EXPECT_EQ(a + b, L"alphabeta");
     EXPECT_EQ(L"<" + a + L'|' + b + "\u00E9" + ">"_q + kNull, L"<alpha|beta\u00E9>");
     EXPECT_EQ(L'c' + a, L"calpha");
     CString_E s(L"self");
@@ -108,7 +93,6 @@ TEST(CString, Comparison)
         EXPECT_EQ(sign(CString_E(left).Compare(right)), order);
         EXPECT_EQ(sign(CString_E(left).CompareNoCase(right)), orderNoCase);
     });
-    EXPECT_LT(CString_E(L"a").Collate(L"b"), 0);
     EXPECT_NE(CString_E(L"A").Collate(L"a"), 0);
     EXPECT_EQ(CString_E(L"A").CollateNoCase(L"a"), 0);
     EXPECT_GT(CString_E(L"a").Collate(kNull), 0);
@@ -117,11 +101,10 @@ TEST(CString, Comparison)
 TEST(CString, Extraction)
 {
     const CString_E s(L"abc");
-    const Text parts[] = {
-        {s.Mid(-1), L"abc"}, {s.Mid(1), L"bc"},    {s.Mid(3), L""},      {s.Mid(4), L""},
-        {s.Mid(-1, 2), L""}, {s.Mid(2, -1), L"c"}, {s.Mid(1, 9), L"bc"}, {s.Mid(1, 1), L"b"},
-        {s.Mid(4, 1), L""},  {s.Left(-3), L""},    {s.Left(2), L"ab"},   {s.Left(100), L"abc"},
-        {s.Right(-3), L""},  {s.Right(0), L""},    {s.Right(2), L"bc"},  {s.Right(100), L"abc"}};
+    const Text parts[] = {{s.Mid(-1), L"abc"}, {s.Mid(1), L"bc"},    {s.Mid(4), L""},
+                          {s.Mid(-1, 2), L""}, {s.Mid(2, -1), L"c"}, {s.Mid(1, 9), L"bc"},
+                          {s.Mid(4, 1), L""},  {s.Left(-3), L""},    {s.Left(100), L"abc"},
+                          {s.Right(-3), L""},  {s.Right(2), L"bc"},  {s.Right(100), L"abc"}};
     check(parts);
     const Text spans[] = {{s.SpanIncluding(L"ba"), L"ab"},
                           {s.SpanIncluding(L"abcd"), L"abc"},
@@ -154,10 +137,8 @@ TEST(CString, Searching)
 {
     const CString_E s(L"abcabc\U0001F600");
     const Number rows[] = {
-        {s.Find(L'b'), 1},        {s.Find(L'b', 2), 4},     {s.Find(L'a', 4), -1},
-        {s.Find(L'a', -1), -1},   {s.Find(L"bc"), 1},       {s.Find(L"bc", 2), 4},
-        {s.Find(L"x"), -1},       {s.Find(L""), -1},        {CString_E().Find(L""), -1},
-        {s.Find(kNull), -1},      {s.Find(kNull, 0), -1},   {s.Find(L"a", 99), -1},
+        {s.Find(L'b', 2), 4},     {s.Find(L'a', -1), -1},   {s.Find(L"bc", 2), 4},
+        {s.Find(L""), -1},        {s.Find(kNull), -1},      {s.Find(L"a", 99), -1},
         {s.Find(L"a", -1), -1},   {s.ReverseFind(L'a'), 3}, {s.ReverseFind(L'x'), -1},
         {s.FindOneOf(L"xcb"), 1}, {s.FindOneOf(kNull), -1}, {s.Find(L'\U0001F600'), 6}};
     check(rows);
@@ -174,15 +155,12 @@ TEST(CString, Changing)
         {L"aaaa", replace(L"aa", L"a"), 2, L"aa"},
         {L"a-b-c", replace(L"-", L"::"), 2, L"a::b::c"},
         {L"a-b", replace(L"-", L"::"), 1, L"a::b"},
-        {L"xabxabx", replace(L"ab", L"AB"), 2, L"xABxABx"},
         {L"abcabc", replace(L"abc", kNull), 2, L""},
         {L"abc", replace(kNull, L"x"), 0, L"abc"},
         {L"abab", [](CString_E& s) { return s.Replace(L"a", s.GetString()); }, 2, L"ababbababb"},
         {L"banana", [](CString_E& s) { return s.Remove(L'a'); }, 3, L"bnn"},
         {L"ac", [](CString_E& s) { return s.Insert(1, L'b'); }, 3, L"abc"},
-        {L"ac", [](CString_E& s) { return s.Insert(2, L"de"); }, 4, L"acde"},
         {L"ac", [](CString_E& s) { return s.Insert(0, kNull); }, 2, L"ac"},
-        {L"abcd", [](CString_E& s) { return s.Delete(1, 2); }, 2, L"ad"},
         {L"abcd", [](CString_E& s) { return s.Delete(1, 99); }, 1, L"a"},
         {L"abcd", [](CString_E& s) { return s.Delete(4, 1); }, 4, L"abcd"},
         {L"abcd", [](CString_E& s) { return s.Delete(1, -1); }, 4, L"abcd"},
@@ -199,7 +177,6 @@ TEST(CString, Changing)
     EXPECT_EQ(s.Replace(L"ab", s.GetString() + 1), 3) << "its own second character";
     EXPECT_EQ(s, CString_E(L"b\0bb", 4));
     for (const int index : {-1, 5}) {
-        EXPECT_THROW(s.Insert(index, L'x'), std::out_of_range);
         EXPECT_THROW(s.Insert(index, L"x"), std::out_of_range);
         EXPECT_THROW(s.Delete(index, 1), std::out_of_range);
     }
@@ -210,21 +187,20 @@ TEST(CString, TrimmingAndSeparators)
     CString_E own = L"xabx";
     EXPECT_EQ(own.Trim(own.GetString() + 3), L"ab") << "its own end as the set";
     const auto text = [](const wchar_t* p) { return CString_E(p); };
-    const Text rows[] = {{text(L" \t").Trim(), L""},          {text(L" \t").TrimLeft(), L""},
-                         {text(L"xxaxx").Trim(L'x'), L"a"},   {text(L"xyaxy").Trim(L"yx"), L"a"},
-                         {text(L" a ").Trim(kNull), L" a "},  {text(L" \ta b\n ").Trim(), L"a b"},
-                         {text(L"a\f ").TrimRight(), L"a\f"}, {text(L" \v a").TrimLeft(), L"\v a"},
-                         {text(L"xax").TrimLeft(L'x'), L"ax"}};
+    const Text trimmed[] = {{text(L" \t").Trim(), L""},
+                            {text(L"xyaxy").Trim(L"yx"), L"a"},
+                            {text(L" a ").Trim(kNull), L" a "},
+                            {CString_E(L"\0a\0", 3).Trim(L'\0'), L"a"},
+                            {text(L"a\f \r\n\t").TrimRight(), L"a\f"},
+                            {text(L" \t\r\n\va\r").TrimLeft(), L"\va\r"},
+                            {text(L"xax").TrimLeft(L'x'), L"ax"},
+                            {text(L"xax").TrimRight(L'x'), L"xa"}};
+    check(trimmed);
+    const Text rows[] = {{text(L"a\r\nb\r").ToUnixReturn(), L"a\nb\r"},
+                         {text(L"a/b\\c").ToUnixSeperator(), L"a/b/c"},
+                         {text(L"a/b\\c").ToWinSeperator(), L"a\\b\\c"},
+                         {text(L"a\nb\r\n").ToWinReturn(), L"a\r\nb\r\r\n"}};
     check(rows);
-    const Text longer[] = {{text(L"xax").TrimRight(L'x'), L"xa"},
-                           {text(L" a \r\n\t").TrimRight(), L" a"},
-                           {CString_E(L"\0a\0", 3).Trim(L'\0'), L"a"},
-                           {text(L" \t\r\n a \r").TrimLeft(), L"a \r"},
-                           {text(L"a\r\nb\r").ToUnixReturn(), L"a\nb\r"},
-                           {text(L"a/b\\c").ToUnixSeperator(), L"a/b/c"},
-                           {text(L"a/b\\c").ToWinSeperator(), L"a\\b\\c"},
-                           {text(L"a\nb\r\n").ToWinReturn(), L"a\r\nb\r\r\n"}};
-    check(longer);
 }
 
 TEST(CString, Buffers)
@@ -236,7 +212,6 @@ TEST(CString, Buffers)
     EXPECT_EQ(s, L"written behind");
     s = L"a";
     wcscpy(s.GetBuffer(30), L"written once");
-    s.GetBuffer();
     s.GetBuffer(500); // a second buffer keeps what was written through the first
     s.ReleaseBuffer();
     EXPECT_EQ(s, L"written once");
