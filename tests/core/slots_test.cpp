@@ -67,16 +67,8 @@ TEST(ThreadSlots, EachThreadHasItsValuesAndAModuleItsSlots)
     other.join();
     EXPECT_EQ(alive, 2) << "values stay when their thread ends";
     fill();
-    void* const mine = slots.GetThreadValue(ofA);
-    int last = 0;
-    while (last < 70)
-        last = slots.AllocSlot();
-    EXPECT_EQ(slots.GetThreadValue(last), nullptr) << "beyond the thread's values so far";
-    slots.SetValue(last, new Value);
-    EXPECT_EQ(slots.GetThreadValue(ofA), mine) << "kept when the values move";
     slots.FreeSlot(ofA);
-    EXPECT_EQ(alive, 3) << "freeing deletes those of all threads";
-    slots.FreeSlot(last);
+    EXPECT_EQ(alive, 2) << "freeing deletes those of all threads";
     slots.FreeSlot(ofB);
     EXPECT_EQ(alive, 0);
 }
