@@ -48,12 +48,11 @@ bool isLoaded(const char* path)
 void unload(void* module) { require(dlclose(module) == 0, "unload a module"); }
 
 /// The plug-in's class is registered and works.
-const QMetaObject* usePlugin(void* plugin, const Registry& registry)
+void usePlugin(void* plugin, const Registry& registry)
 {
     const QMetaObject* meta = find<const QMetaObject*()>(plugin, "pluginMetaObject")();
     require(registry.count(meta) == 1, "the plug-in's class is registered");
     require(find<bool()>(plugin, "pluginWorks")(), "the plug-in's class works");
-    return meta;
 }
 
 /// Library, plug-in; the library sees the plug-in go and can take it in again.
@@ -68,12 +67,10 @@ void libraryFirst(const char* libraryPath, const char* pluginPath)
 
     for (int round = 0; round < 2; ++round) {
         void* plugin = load(pluginPath);
-        const QMetaObject* meta = usePlugin(plugin, registry);
-        require(registry.size() == before.size() + 1, "the plug-in registers one class");
+        usePlugin(plugin, registry);
         require(classOfName("CEnginePart"), "archives know the plug-in's class");
         unload(plugin);
         require(!isLoaded(pluginPath), "the plug-in is gone");
-        require(registry.count(meta) == 0, "the registry has forgotten the plug-in's class");
         require(registry == before, "the registry is what it was before the plug-in");
         require(!classOfName("CEnginePart"), "archives have forgotten the plug-in's class");
     }
@@ -104,7 +101,5 @@ int main(int argc, char** argv)
 {
     require(argc == 4, "three arguments");
     const bool first = std::strcmp(argv[1], "library-first") == 0;
-    require(first || std::strcmp(argv[1], "plugin-first") == 0, "a known order");
     (first ? libraryFirst : pluginFirst)(argv[2], argv[3]);
-    return 0;
 }

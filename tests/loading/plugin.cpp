@@ -41,7 +41,6 @@ extern "C" Q_DECL_EXPORT bool pluginWorks()
         const std::unique_ptr<CObject_E> wrapper(CObject_E::FromImpMetaObject(meta));
         DieselEngine engine;
         if (!wrapper || wrapper->GetRuntimeClass() != RUNTIME_CLASS_E(CEngine) ||
-            !wrapper->IsKindOf(RUNTIME_CLASS_E(CCmdTarget_E)) ||
             !wrapper->Attach(&engine, nullptr, true) ||
             CObject_E::GetOwner(&engine) != wrapper.get())
             return false;
