@@ -223,13 +223,15 @@ TEST(CString, Buffers)
     s.ReleaseBuffer(-2);
     EXPECT_EQ(s, L"abcdef");
     s.GetBuffer()[2] = L'\0';
-    s.ReleaseBuffer(4);
+    s.ReleaseBuffer(6);
     EXPECT_EQ(s, L"ab");
     wcscpy(s.GetBuffer(9), L"longer");
     s.ReleaseBuffer(6); // beyond the length that it had
     EXPECT_EQ(s, L"lo");
     s.ReleaseBuffer();
     EXPECT_EQ(s, L"longer");
+    s.ReleaseBuffer(4);
+    EXPECT_EQ(s, L"long");
     EXPECT_EQ(s.GetBufferSetLength(8)[7], L'\0');
     EXPECT_EQ(s.GetLength(), 8);
     s.GetBufferSetLength(-1);
