@@ -19,6 +19,23 @@ TEST(ModuleState, MapsAreMadeOnRequest)
     delete std::exchange(gdiThreadState.m_pmapHGDIOBJ, kept);
 }
 
+struct ToolTip final : VxToolTip
+{
+    void DestroyToolTipCtrl() override { ++destroyed; }
+    int destroyed = 0;
+};
+
+TEST(ModuleState, TheThreadStateDestroysWhatItOwns)
+{
+    ToolTip toolTip;
+    {
+        AFX_MODULE_THREAD_STATE_E state;
+        state.m_pToolTip = &toolTip;
+        state.m_pLastInfo = static_cast<tagTOOLINFOW*>(LocalAlloc_E(LPTR, 16));
+    }
+    EXPECT_EQ(toolTip.destroyed, 1);
+}
+
 TEST(ExtensionModule, InitialisedOnceThenItsSlotsAreAssigned)
 {
     AFX_EXTENSION_MODULE_E state{};
