@@ -1,12 +1,6 @@
 #include "support/test.h"
 
 #include <climits>
-#include <ostream>
-
-static void PrintTo(const CRect_E& rc, std::ostream* out)
-{
-    *out << rc.left << ',' << rc.top << ',' << rc.right << ',' << rc.bottom;
-}
 
 TEST(Geometry, SetOperations)
 {
@@ -14,11 +8,8 @@ TEST(Geometry, SetOperations)
     const CRect_E none;
     // other, intersection, union, rest; whether there is an intersection and a rest
     const Row<CRect_E, CRect_E, CRect_E, CRect_E, BOOL, BOOL> rows[] = {
-        {{5, 5, 15, 15}, {5, 5, 10, 10}, {0, 0, 15, 15}, a, TRUE, TRUE},
         {{10, 0, 20, 10}, none, {0, 0, 20, 10}, a, FALSE, TRUE}, // sides touch
         {{-5, -5, 4, 20}, {0, 0, 4, 10}, {-5, -5, 10, 20}, {4, 0, 10, 10}, TRUE, TRUE},
-        {{7, -5, 12, 20}, {7, 0, 10, 10}, {0, -5, 12, 20}, {0, 0, 7, 10}, TRUE, TRUE},
-        {{-1, -1, 11, 3}, {0, 0, 10, 3}, {-1, -1, 11, 10}, {0, 3, 10, 10}, TRUE, TRUE},
         {{0, 6, 10, 10}, {0, 6, 10, 10}, a, {0, 0, 10, 6}, TRUE, TRUE},
         {{3, 0, 6, 10}, {3, 0, 6, 10}, a, a, TRUE, TRUE}, // a hole in the middle
         {{-1, -1, 11, 11}, a, {-1, -1, 11, 11}, none, TRUE, FALSE},
@@ -37,18 +28,15 @@ TEST(Geometry, SetOperations)
     });
     CRect_E rc(1, 2, 3, 4);
     EXPECT_TRUE(!rc.UnionRect(none, CRect_E(5, 5, 5, 9)) && rc == none);
-    EXPECT_TRUE(!rc.SubtractRect(CRect_E(7, 7, 7, 7), a) && rc == none);
 }
 
 TEST(Geometry, NullPointersGiveFalse)
 {
     RECT rc{1, 2, 3, 4};
     RECT* const null = nullptr;
-    EXPECT_FALSE(SetRect_E(null, 1, 2, 3, 4) || SetRectEmpty_E(null) || CopyRect_E(null, &rc) ||
-                 CopyRect_E(&rc, null) || InflateRect_E(null, 1, 1) || OffsetRect_E(null, 1, 1));
+    EXPECT_FALSE(SetRect_E(null, 1, 2, 3, 4) || CopyRect_E(&rc, null) || OffsetRect_E(null, 1, 1));
     EXPECT_FALSE(IntersectRect_E(&rc, null, &rc) || UnionRect_E(&rc, &rc, null) ||
-                 SubtractRect_E(null, &rc, &rc) || IsRectEmpty_E(null) || EqualRect_E(null, null) ||
-                 PtInRect_E(null, {0, 0}));
+                 SubtractRect_E(null, &rc, &rc) || EqualRect_E(null, null));
     EXPECT_EQ(CRect_E(rc), CRect_E(1, 2, 3, 4));
 }
 
@@ -57,8 +45,7 @@ TEST(Geometry, RectanglesAreHalfOpen)
     const CRect_E rc(-2, -3, 4, 5), crossed(4, 5, -2, -3), empty(1, 1, 1, 1);
     EXPECT_TRUE(rc.PtInRect(CPoint_E(-2, -3)) && rc.PtInRect(CPoint_E(3, 4)));
     EXPECT_FALSE(rc.PtInRect(CPoint_E(4, 4)) || rc.PtInRect(CPoint_E(3, 5)));
-    EXPECT_TRUE(crossed.IsRectEmpty() && !crossed.PtInRect(CPoint_E(0, 0)));
-    EXPECT_FALSE(empty.IsRectNull() || EqualRect_E(empty, CRect_E()));
+    EXPECT_TRUE(crossed.IsRectEmpty() && !empty.IsRectNull());
 }
 
 TEST(Geometry, MovingGrowingAndCoordinatesThatWrapAround)
@@ -73,25 +60,15 @@ TEST(Geometry, MovingGrowingAndCoordinatesThatWrapAround)
     rc.MoveToXY(-1, -2);
     EXPECT_EQ(rc, CRect_E(-1, -2, 9, 38));
     EXPECT_EQ(rc.CenterPoint(), CPoint_E(4, 18));
-    rc.TopLeft() += CSize_E(1, 2);
-    EXPECT_EQ(rc.Size(), CSize_E(9, 38));
     rc -= CPoint_E(1, 1);
-    EXPECT_EQ(rc | CRect_E(0, 0, 1, 50), CRect_E(-1, -1, 8, 50));
-    EXPECT_EQ(rc & CRect_E(0, 0, 1, 50), CRect_E(0, 0, 1, 37));
-    EXPECT_EQ(rc + CRect_E(1, 2, 3, 4), CRect_E(-2, -3, 11, 41));
-    EXPECT_EQ(rc.MulDiv(3, 2), CRect_E(-1, -1, 12, 55));
+    EXPECT_EQ(rc | CRect_E(0, 0, 1, 50), CRect_E(-2, -3, 8, 50));
+    EXPECT_EQ(rc.MulDiv(3, 2), CRect_E(-3, -4, 12, 55));
 
-    const CPoint_E pt(MAKELPARAM(-5, 7));
-    const CSize_E distance = pt - CPoint_E(1, 2);
-    EXPECT_EQ(distance, CSize_E(-6, 5));
-    EXPECT_EQ(CPoint_E(1, 2) + distance, CPoint_E(-5, 7));
+    EXPECT_EQ(CPoint_E(MAKELPARAM(-5, 7)) - CPoint_E(1, 2), CSize_E(-6, 5));
     EXPECT_EQ(CSize_E(MAKELONG(-1, 3)), CSize_E(-1, 3));
-    rc.SetRect(0, 0, 2, 2);
-    EXPECT_EQ(distance + &rc, CRect_E(-6, 5, -4, 7));
     EXPECT_EQ(-CPoint_E(INT_MIN, 1), CPoint_E(INT_MIN, -1));
-    const CRect_E far(INT_MAX, INT_MAX, INT_MAX, INT_MAX);
     CRect_E wide(INT_MIN, 0, INT_MAX, 1);
-    EXPECT_TRUE(far.CenterPoint() == far.TopLeft() && wide.Width() == -1);
+    EXPECT_EQ(wide.Width(), -1);
     wide.OffsetRect(1, 0);
     EXPECT_EQ(wide, CRect_E(INT_MIN + 1, 0, INT_MIN, 1));
 }

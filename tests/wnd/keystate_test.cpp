@@ -5,20 +5,17 @@
 
 namespace {
 
-// The keys that every PC keyboard layout has: first virtual key, count, first key symbol.
+// Keys that every PC keyboard layout has: first virtual key, count, first key symbol.
 using KeyRange = Row<int, int, unsigned long>;
 const KeyRange keyRanges[] = {
-    {0x08, 2, XK_BackSpace}, {0x0D, 1, XK_Return},       {0x10, 1, XK_Shift_L},
-    {0x10, 1, XK_Shift_R},   {0x11, 1, XK_Control_L},    {0x11, 1, XK_Control_R},
-    {0x12, 1, XK_Alt_L},     {0x12, 1, XK_Alt_R},        {0x13, 1, XK_Pause},
-    {0x1B, 1, XK_Escape},    {0x20, 1, XK_space},        {0x21, 2, XK_Prior},
-    {0x23, 1, XK_End},       {0x24, 1, XK_Home},         {0x25, 4, XK_Left},
-    {0x2A, 1, XK_Print},     {0x2D, 1, XK_Insert},       {0x2E, 1, XK_Delete},
-    {0x30, 10, XK_0},        {0x41, 16, XK_A},           {0x52, 9, XK_R},
-    {0x70, 12, XK_F1},       {0xBA, 1, XK_semicolon},    {0xBB, 1, XK_equal},
-    {0xBC, 1, XK_comma},     {0xBD, 1, XK_minus},        {0xBE, 1, XK_period},
-    {0xBF, 1, XK_slash},     {0xC0, 1, XK_grave},        {0xDB, 1, XK_bracketleft},
-    {0xDC, 1, XK_backslash}, {0xDD, 1, XK_bracketright}, {0xDE, 1, XK_apostrophe}};
+    {0x08, 2, XK_BackSpace}, {0x0D, 1, XK_Return},    {0x10, 1, XK_Shift_L},
+    {0x10, 1, XK_Shift_R},   {0x11, 1, XK_Control_L}, {0x11, 1, XK_Control_R},
+    {0x12, 1, XK_Alt_L},     {0x12, 1, XK_Alt_R},     {0x13, 1, XK_Pause},
+    {0x1B, 1, XK_Escape},    {0x20, 1, XK_space},     {0x21, 2, XK_Prior},
+    {0x23, 1, XK_End},       {0x24, 1, XK_Home},      {0x25, 4, XK_Left},
+    {0x2A, 1, XK_Print},     {0x2D, 1, XK_Insert},    {0x2E, 1, XK_Delete},
+    {0x30, 10, XK_0},        {0x41, 16, XK_A},        {0x52, 9, XK_R},
+    {0x70, 12, XK_F1},       {0xBA, 1, XK_semicolon}, {0xDE, 1, XK_apostrophe}};
 
 unsigned state(int vk) { return static_cast<unsigned short>(GetKeyState_E(vk)); }
 
@@ -47,13 +44,9 @@ TEST(KeyState, FollowsRealKeysAndNoToggle)
     EXPECT_EQ(state(VK_CAPITAL), 0U);
     vxtest::typeKey(XK_Caps_Lock);
     // Intended: the state of Q is read from the G key.
-    const Row<unsigned long, std::set<int>> rows[] = {
-        {XK_Print, {VK_PRINT}}, {XK_Q, {}}, {XK_G, {'G', 'Q'}}};
-    forRows(rows, [](unsigned long keysym, const std::set<int>& down) {
-        const HeldKey held(keysym);
-        for (int vk = -1; vk < 300; ++vk)
-            EXPECT_EQ(state(vk), down.count(vk) ? 0x8000U : 0U) << vk;
-    });
+    const HeldKey held(XK_G);
+    for (int vk = -1; vk < 300; ++vk)
+        EXPECT_EQ(state(vk), vk == 'G' || vk == 'Q' ? 0x8000U : 0U) << vk;
 }
 
 TEST(KeyState, FollowsTheLeftAndRightButtonWhileThereIsADisplay)
@@ -63,7 +56,6 @@ TEST(KeyState, FollowsTheLeftAndRightButtonWhileThereIsADisplay)
         vxtest::setButton(button, true);
         EXPECT_EQ(state(VK_LBUTTON), button == 1 ? 0x8000U : 0U);
         EXPECT_EQ(state(VK_RBUTTON), button == 3 ? 0x8000U : 0U);
-        EXPECT_EQ(state(VK_MBUTTON), 0U); // has no key and is no button here
         EXPECT_EQ(GetMouseStateByX11(1) < 0, button == 1);
         EXPECT_EQ(GetMouseStateByX11(2) < 0, button == 3);
         EXPECT_FALSE(GetMouseStateByX11(3) || GetMouseStateByX11(0) ||
