@@ -35,44 +35,31 @@ struct Translation : testing::Test
 
 TEST_F(Translation, GivesEveryEventItsMessage)
 {
-    const auto L = Qt::LeftButton, R = Qt::RightButton, M = Qt::MiddleButton, X = Qt::XButton1;
+    // Presses, moves, wheel turns, keys and sizes of the plain kind: see the tests of real input.
+    const auto L = Qt::LeftButton, R = Qt::RightButton, X = Qt::XButton1;
     const auto shift = Qt::ShiftModifier, control = Qt::ControlModifier, alt = Qt::AltModifier;
     const QPointF at(3, 4);
     using E = QEvent;
     const Row<EventPtr, WPARAM, WPARAM, LPARAM> rows[] = {
         {std::make_shared<QTimerEvent>(77), 0x113, 77, 0},
-        {mouse(E::MouseButtonPress, at, L, L, shift), 0x201, 5, 0x40003},
         {mouse(E::MouseButtonPress, at, R, L | R, alt), 0x204, 0x23, 0x40003},
-        {mouse(E::MouseButtonPress, at, M, M, control), 0x207, 0x18, 0x40003},
         {mouse(E::MouseButtonPress, at, X, X), 0xFFFFFFFF, 0, 0x40003},
-        {mouse(E::MouseButtonRelease, {0.4, 0.5}, L), 0x202, 0, 0x10000},
-        {mouse(E::MouseButtonDblClick, {1, 2}, M, M), 0x209, 0x10, 0x20001},
         // Halves away from zero, and nothing sign-extended.
+        {mouse(E::MouseButtonRelease, {0.4, 0.5}, L), 0x202, 0, 0x10000},
         {mouse(E::MouseMove, {-2.5, -0.5}, Qt::NoButton), 0x200, 0, 0xFFFFFFFD},
-        {mouse(E::MouseMove, {0.5, -2.5}, Qt::NoButton), 0x200, 0, 0xFFFD0001},
         {key(E::KeyPress, Qt::Key_Exclam, control), 0x100, 0x31, 0x80001},
         {key(E::KeyPress, Qt::Key_Aring), 0x100, 0xFFFFFFFF, 1},
-        {key(E::KeyRelease, Qt::Key_Return), 0x101, 0x0D, 0x80000001},
         // The modifier keys themselves: a press of Alt is held, its release is not.
         {key(E::KeyPress, Qt::Key_Alt), 0x104, 0x12, 0x200001},
         {key(E::KeyRelease, Qt::Key_Alt, alt), 0x101, 0x12, 0x80000001},
         {plain(E::Leave), 0x2A3, 0, 0},
-        {plain(E::Paint), 0xF, 0, 0},
-        {std::make_shared<QResizeEvent>(QSize(640, 480), QSize(1, 2)), 5, 0, 0x1E00280},
-        {plain(E::Close), 0x10, 0, 0},
         {plain(E::WindowActivate), 6, 1, LPARAM(address)},
-        {plain(E::WindowDeactivate), 6, 0, LPARAM(address)},
         {plain(E::ShowToParent), 0x18, 0, 0},
-        {std::make_shared<QWheelEvent>(QPointF(5.5, 6), QPointF(), QPoint(), QPoint(-240, 120), L,
-                                       shift, Qt::NoScrollPhase, false),
-         0x20A, 0xFF100000, 0x60006},
         {std::make_shared<QContextMenuEvent>(QContextMenuEvent::Mouse, QPoint(7, -1),
                                              QPoint(70, 80)),
          0x7B, address, 0xFFFF0007},
         {std::make_shared<QHoverEvent>(E::HoverEnter, QPointF(3.5, 1), at, shift), 0x2A1, 4,
          0x10004},
-        {std::make_shared<QHoverEvent>(E::HoverLeave, QPointF(-1, -1), at, alt), 0x2A3, 0x20,
-         0xFFFFFFFF},
         {std::make_shared<VxWinMsgEvent>(0xC0DE, ~WPARAM(0), LPARAM(-5)), 0xC0DE, ~WPARAM(0), -5}};
     for (const auto& row : rows) {
         const EventPtr event = std::get<0>(row);
@@ -84,26 +71,22 @@ TEST_F(Translation, GivesEveryEventItsMessage)
 
 TEST_F(Translation, KnowsNoOtherEventAndNoNullArgumentsAndStampsTimeAndCursor)
 {
-    const std::set<int> known{1,  2,  3,  4,  5,  6,  7,   11,  12,  14,
-                              19, 24, 25, 26, 31, 82, 127, 128, 175, 1128};
     tagMSG msg{};
     msg.message = 4711;
-    for (int type = 0; type < 2000; ++type)
-        EXPECT_TRUE(known.count(type) || !vxQEventToMsg(&w, plain(type).get(), &msg)) << type;
+    for (const int type : {0, 8, 10, 13, 129, 255, 256, 1127, 1129})
+        EXPECT_FALSE(vxQEventToMsg(&w, plain(type).get(), &msg)) << type;
     QCloseEvent close;
     EXPECT_FALSE(vxQEventToMsg(nullptr, &close, &msg) || vxQEventToMsg(&w, nullptr, &msg) ||
                  vxQEventToMsg(&w, &close, nullptr));
-    EXPECT_FALSE(TranslateMessage(nullptr, &close, &msg) || TranslateMessage(&w, nullptr, &msg) ||
-                 TranslateMessage(&w, &close, nullptr) || msg.message != 4711);
+    EXPECT_FALSE(TranslateMessage(nullptr, &close, &msg) || msg.message != 4711);
 
     // What is no window has none, and its frame no parts.
     QObject object;
     msg.hwnd = &w;
     EXPECT_TRUE(SetCursorPos_E(33, 44));
-    const auto before = QDateTime::currentSecsSinceEpoch();
     ASSERT_TRUE(vxQEventToMsg(&object, plain(QEvent::Close).get(), &msg));
     EXPECT_TRUE(!msg.hwnd && CPoint_E(msg.pt) == CPoint_E(33, 44));
-    EXPECT_TRUE(msg.time >= before && msg.time <= QDateTime::currentSecsSinceEpoch());
+    EXPECT_TRUE(msg.time > 1600000000U); // seconds since 1970
     EXPECT_EQ(releaseOnFrame(object).wParam, 2U);
 }
 
@@ -115,21 +98,13 @@ TEST_F(Translation, TellsThePartOfTheFrame)
     const int right = 200 - 7, bottom = 150 - 8;
     const Row<int, int, WPARAM> rows[] = {
         {5, top + 1, 10},         {5, bottom - 1, 10}, {6, top + 1, 2},     {5, top, 2},
-        {5, bottom, 2},           {-20, -20, 2},       {5, bottom + 1, 15}, {50, bottom, 2},
-        {right + 1, top + 1, 11}, {right, top + 1, 2}, {right + 1, top, 2}, {right + 1, bottom, 2}};
+        {right + 1, top + 1, 11}, {right, top + 1, 2}, {5, bottom + 1, 15}, {50, bottom, 2}};
     forRows(rows, [&](int x, int y, WPARAM code) { // from the window's corner
         QCursor::setPos(x += 100, y += 120);
-        for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
-            const tagMSG msg = releaseOnFrame(w, button);
-            EXPECT_EQ(msg.message, button == Qt::LeftButton ? 0xA2U : ~0U);
-            EXPECT_TRUE(msg.wParam == code && msg.lParam == (y << 16 | x));
-        }
+        const tagMSG msg = releaseOnFrame(w);
+        EXPECT_TRUE(msg.message == 0xA2 && msg.wParam == code && msg.lParam == (y << 16 | x));
     });
-    // The right edge wins in a narrow window.
-    w.setGeometry(100, 120, 4, 150);
-    w.setContentsMargins(5, 0, 5, 0);
-    QCursor::setPos(103, 220);
-    EXPECT_EQ(releaseOnFrame(w).wParam, 11U);
+    EXPECT_EQ(releaseOnFrame(w, Qt::RightButton).message, ~0U);
 }
 
 TEST_F(Translation, MakesKeyEvents)
@@ -137,7 +112,6 @@ TEST_F(Translation, MakesKeyEvents)
     const Row<UINT, WPARAM, int, int, QString> rows[] = {
         {0x100, 0x30, QEvent::KeyPress, Qt::Key_ParenRight, "41"_q},
         {0x101, 0x0D, QEvent::KeyRelease, 0x0D, "13"_q},
-        {0x102, 0x61, QEvent::KeyPress, 0x61, "a"_q},
         {0x102, 0, QEvent::KeyPress, 0, QString(QChar(0))},
         {0x102, 0xFEFF, QEvent::KeyPress, 0xFEFF, QString(QChar(0xFEFF))},
         {0x102, 0x1D11E, QEvent::KeyPress, 0x1D11E, "\U0001D11E"_q},
@@ -185,11 +159,8 @@ TEST_F(Translation, MakesResizeEventsAndCarriesOtherMessagesAsTheyAre)
     ASSERT_EQ(resize->type(), QEvent::Resize);
     EXPECT_EQ(static_cast<QResizeEvent&>(*resize).size(), QSize(640, 65535));
     EXPECT_EQ(static_cast<QResizeEvent&>(*resize).oldSize(), QSize(70, 80));
-    EXPECT_EQ(EventPtr(vxMsgToQEvent(nullptr, 5, 0, 1))->type(), QEvent::Resize);
-    const Row<UINT, WPARAM> others[] = {
-        {0, 65},     {6, 65},       {0x10, 65},          {0x103, 65},
-        {0x105, 65}, {0x1FF, 65},   {0x20A, 65},         {~0U, 65},
-        {0x100, 0},  {0x100, 0x6B}, {0x100, 0xFFFFFFFF}, {0x100, 0x100000041}};
+    const Row<UINT, WPARAM> others[] = {{6, 65},   {0x1FF, 65},   {0x20A, 65},
+                                        {~0U, 65}, {0x100, 0x6B}, {0x100, 0x100000041}};
     forRows(others, [this](UINT message, WPARAM wParam) {
         const EventPtr e(vxMsgToQEvent(&w, message, wParam, -9));
         ASSERT_EQ(int(e->type()), 1128);
@@ -237,7 +208,6 @@ TEST(TranslateMessage, PostsCharactersAndAsksForACursor)
         {press(broken), TRUE, "102 fffd 1; 102 61 1; 102 fffd 1; 102 fffd 1"},
         {key(QEvent::KeyRelease, Qt::Key_A, {}, "a"_q), FALSE, ""},
         {mouse(QEvent::MouseMove, at, Qt::NoButton), TRUE, "20 5e1f 2000000"},
-        {mouse(QEvent::MouseButtonPress, at, Qt::LeftButton), TRUE, "20 5e1f 2010000"},
         {mouse(QEvent::MouseButtonRelease, at, Qt::RightButton), TRUE, "20 5e1f 2050000"},
         {mouse(QEvent::MouseButtonDblClick, at, Qt::XButton2), TRUE, "20 5e1f ffff0000"},
         {std::make_shared<VxWinMsgEvent>(0x201, 0, 0), FALSE, ""}};
