@@ -15,11 +15,9 @@ public:
     void OnSize(UINT nType, UINT cx, UINT cy);
 #elif CASE == 3 // another result
     void OnMouseWheel(UINT nFlags, short zDelta, CPoint_E point);
-#elif CASE == 4 // const, which a handler is not
-    void OnSize(UINT nType, int cx, int cy) const;
-#elif CASE == 5 // the form with window objects, with a widget
+#elif CASE == 4 // the form with window objects, with a widget
     void OnSetFocus_E(QWidget* pOldWnd);
-#elif CASE == 6 // a message of the application's own
+#elif CASE == 5 // a message of the application's own
     LRESULT OnResult(WPARAM wParam);
 #endif
     DECLARE_MESSAGE_MAP_E()
@@ -29,7 +27,7 @@ BEGIN_MESSAGE_MAP_E(HandlerWnd, CWnd_E)
 ON_WM_SIZE_E()
 ON_WM_MOUSEWHEEL_E()
 ON_WM_SETFOCUS_E()
-#if CASE == 0 || CASE == 6
+#if CASE == 0 || CASE == 5
 ON_MESSAGE_E(WM_APP, &HandlerWnd::OnResult)
 #endif
 END_MESSAGE_MAP_E()
