@@ -7,7 +7,6 @@ using namespace vxtest;
 
 // clang-format off
 // macro, message, handler as MFC documents it, its arguments for kW and kL ("w" a window), result
-#define ENDS(H) NONE(H, DESTROY, Destroy) NONE(H, NCDESTROY, NcDestroy) NONE(H, CLOSE, Close)
 // Families of handlers that differ in names and types only: macro, rest of the handler's name.
 #define NONE(H, macro, name) RESULT(H, macro, name, void, 0)
 #define RESULT(H, macro, name, R, value) H(macro, WM_##macro, On##name, R, (), "", value, ())
@@ -100,7 +99,6 @@ struct AllHandlersWnd : CWnd_E
 #define DECLARE_PAIR(macro, message, name, R, params, paramsE, args, value, values)                \
     R name params { return Note<R>(#name, std::tuple values); }                                    \
     R name##_E paramsE { return Note<R>(#name "_E", std::tuple values); }
-    ENDS(DECLARE)
     HANDLERS(DECLARE, DECLARE_PAIR)
 
     QStringList m_seen;
@@ -121,7 +119,6 @@ struct DefaultsWnd : CWnd_E
 
 #define MAP(macro, ...) ON_WM_##macro##_E()
 BEGIN_MESSAGE_MAP_E(AllHandlersWnd, CWnd_E)
-ENDS(MAP)
 HANDLERS(MAP, MAP)
 END_MESSAGE_MAP_E()
 
@@ -132,8 +129,7 @@ END_MESSAGE_MAP_E()
 // message, handler, arguments, result
 #define ROW(macro, message, name, R, params, args, value, ...) {message, #name, args, value},
 #define ROW_PAIR(macro, message, name, R, params, ...) ROW(macro, message, name, R, __VA_ARGS__)
-constexpr Row<UINT, const char*, const char*, LRESULT> kRows[] = {ENDS(ROW)
-                                                                      HANDLERS(ROW, ROW_PAIR)};
+constexpr Row<UINT, const char*, const char*, LRESULT> kRows[] = {HANDLERS(ROW, ROW_PAIR)};
 
 TEST(HandlersTest, AMacroBringsItsMessageToItsHandler)
 {

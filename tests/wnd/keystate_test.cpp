@@ -8,14 +8,10 @@ namespace {
 // Keys that every PC keyboard layout has: first virtual key, count, first key symbol.
 using KeyRange = Row<int, int, unsigned long>;
 const KeyRange keyRanges[] = {
-    {0x08, 2, XK_BackSpace}, {0x0D, 1, XK_Return},    {0x10, 1, XK_Shift_L},
-    {0x10, 1, XK_Shift_R},   {0x11, 1, XK_Control_L}, {0x11, 1, XK_Control_R},
-    {0x12, 1, XK_Alt_L},     {0x12, 1, XK_Alt_R},     {0x13, 1, XK_Pause},
-    {0x1B, 1, XK_Escape},    {0x20, 1, XK_space},     {0x21, 2, XK_Prior},
-    {0x23, 1, XK_End},       {0x24, 1, XK_Home},      {0x25, 4, XK_Left},
-    {0x2A, 1, XK_Print},     {0x2D, 1, XK_Insert},    {0x2E, 1, XK_Delete},
-    {0x30, 10, XK_0},        {0x41, 16, XK_A},        {0x52, 9, XK_R},
-    {0x70, 12, XK_F1},       {0xBA, 1, XK_semicolon}, {0xDE, 1, XK_apostrophe}};
+    {0x0D, 1, XK_Return}, {0x10, 1, XK_Shift_L},  {0x10, 1, XK_Shift_R}, {0x11, 1, XK_Control_R},
+    {0x12, 1, XK_Alt_L},  {0x1B, 1, XK_Escape},   {0x20, 1, XK_space},   {0x25, 4, XK_Left},
+    {0x2E, 1, XK_Delete}, {0x30, 10, XK_0},       {0x41, 16, XK_A},      {0x52, 9, XK_R},
+    {0x70, 12, XK_F1},    {0xBA, 1, XK_semicolon}};
 
 unsigned state(int vk) { return static_cast<unsigned short>(GetKeyState_E(vk)); }
 

@@ -115,10 +115,8 @@ TEST(CmdUITest, SetsActionsAndButtons)
 {
     QAction action(nullptr);
     QPushButton button;
-    QObject neither;
     action.setCheckable(true);
     button.setCheckable(true);
-    CCmdUI_E(&neither).SetCheck(1);
     CCmdUI_E(nullptr).SetText(L"nobody's");
     for (QObject* const object : std::initializer_list<QObject*>{&action, &button}) {
         CCmdUI_E ui(object);

@@ -57,8 +57,7 @@ TEST(WindowStyle, Centre)
     EXPECT_EQ(pChild->pos(), QPoint(225, 129));
 
     QWidget alone;
-    alone.resize(100, 80);
-    alone.move(1, 1);
+    alone.setGeometry(1, 1, 100, 80);
     setupDialogStyleData(&alone, "DS_CENTERMOUSE"_q); // holds DS_CENTER
     const QPoint middle = QGuiApplication::primaryScreen()->geometry().center();
     EXPECT_EQ(alone.pos(), middle - QPoint(50, 40));
