@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(KeyTable, GivesEveryKeyItsVirtualKeyAndEveryVirtualKeyTheLowestOfItsKeys)
+TEST(KeyTable, GivesAKeyItsVirtualKeyAndAVirtualKeyTheLowestOfItsKeys)
 {
     using namespace Qt;
     // first Qt key, count, first virtual key; whether these have no lower key

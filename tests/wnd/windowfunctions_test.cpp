@@ -162,9 +162,10 @@ TEST_F(WindowTest, ThePropertyNamesTheParentBeforeQtUntilSetParent)
     auto* const pPlain = new QWidget(&m_widget); // without the property, which binding sets
     pPlain->move(10, 20);
     pPlain->show();
+    other.show();
     EXPECT_EQ(SetParent_E(pPlain, &other), &m_widget);
     EXPECT_TRUE(pPlain->parentWidget() == &other && pPlain->pos() == QPoint(10, 20));
-    EXPECT_FALSE(pPlain->isHidden() || pPlain->property("parent").isValid());
+    EXPECT_TRUE(pPlain->isVisible() && !pPlain->property("parent").isValid());
     setParentProperty(m_childWidget, &other);
     EXPECT_EQ(m_child.SetParent(&m_top)->GetSafeHwnd(), &other);
 
