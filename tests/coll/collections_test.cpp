@@ -148,17 +148,15 @@ TEST(Sequences, WholeListsInTheirOrder)
 {
     CStringList_E list, other;
     list.AddTail(L"b");
+    other.AddTail(L"x");
     other.AddTail(L"a");
-    other.AddHead(L"x");
     list.AddHead(&other);
     list.AddTail(&list);
     list.AddHead(&list);
     CString_E text;
-    for (POSITION position = list.GetHeadPosition(); position;)
-        text += list.GetNext(position);
+    while (!list.IsEmpty())
+        text += list.RemoveHead();
     EXPECT_EQ(text, L"xabxabxabxab");
-    EXPECT_TRUE(list.RemoveHead() == L"x" && list.RemoveTail() == L"b");
-    EXPECT_EQ(list.GetHead() + list.GetTail(), L"aa");
 }
 
 TEST(Map, AgreesWithAnUnorderedMap)
@@ -239,17 +237,16 @@ TEST(Typed, CollectionsOfPointers)
     CByteArray_E first, second;
     CTypedPtrArray_E<CObArray_E, CByteArray_E*> array;
     array.Add(&first);
-    array.InsertAt(0, &array);
     array.Append(array);
     array[1] = &second;
     array.ElementAt(1)->SetSize(6);
     CTypedPtrList_E<CPtrList_E, CByteArray_E*> list;
-    const POSITION tail = list.AddTail(array[1]);
+    list.AddTail(array[0]);
     list.AddHead(&list);
-    list.GetAt(tail) = &first;
+    list.GetHead() = array.GetAt(1);
     POSITION position = list.GetHeadPosition();
     EXPECT_EQ(list.GetNext(position)->GetSize(), 6);
-    EXPECT_EQ(std::as_const(list).GetNext(position), std::as_const(array)[3]);
+    EXPECT_EQ(list.GetNext(position), &first);
     CTypedPtrList_E<CObList_E, CObList_E*> lists;
     CObList_E inner;
     lists.AddTail(&inner);
@@ -258,17 +255,12 @@ TEST(Typed, CollectionsOfPointers)
     CTypedPtrMap_E<CMapStringToOb_E, CString_E, CByteArray_E*> map;
     map.SetAt(L"k", nullptr);
     map[L"k"] = &first;
-    CByteArray_E* found = nullptr;
-    EXPECT_TRUE(map.Lookup(L"k", found) && found == &first);
     CString_E key;
+    CByteArray_E* found = nullptr;
     position = map.GetStartPosition();
-    map.GetNextAssoc(position, key, found = nullptr);
+    map.GetNextAssoc(position, key, found);
     EXPECT_TRUE(key == L"k" && found == &first && !position);
-    EXPECT_TRUE(map.RemoveKey(L"k") && !map.Lookup(L"k", found));
-    CTypedPtrMap_E<CMapPtrToWord_E, CObject_E*, WORD> words;
-    words[&lists] = 3;
-    WORD word = 0;
-    EXPECT_TRUE(words.Lookup(&lists, word) && word == 3);
+    EXPECT_TRUE(map.Lookup(L"k", found) && map.RemoveKey(L"k") && !map.Lookup(L"k", found));
 }
 
 TEST(Collections, UseTheHelpersOfTheApplication)
@@ -291,11 +283,10 @@ TEST(Collections, UseTheHelpersOfTheApplication)
         for (const CObject_E* p : std::initializer_list<const CObject_E*>{&array, &list, &map})
             p->Dump(dc);
         const QByteArray bytes = bytesOf(file);
-        const std::wstring text(reinterpret_cast<const wchar_t*>(bytes.data()),
-                                static_cast<std::size_t>(bytes.size()) / sizeof(wchar_t));
-        for (const wchar_t* const part :
-             {L"with 5 elements\n1;2;198;199;200;\n", L"1 elements\n1000;\n", L"\n\t[] = 1001;\n"})
-            EXPECT_NE(text.find(part), std::wstring::npos) << part;
+        const CString_E text(reinterpret_cast<const wchar_t*>(bytes.data()), bytes.size() / 4);
+        EXPECT_GE(text.Find(L"with 5 elements\n1;2;198;199;200;\n"), 0);
+        EXPECT_GE(text.Find(L"1 elements\n1000;\n"), 0);
+        EXPECT_GE(text.Find(L"\n\t[] = 1001;\n"), 0);
     }
     EXPECT_EQ(closed.size(), 195U + 5U + 2U);
     CArray_E<AssignedOnly, int> assigned;
