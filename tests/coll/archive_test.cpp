@@ -28,30 +28,22 @@ void expectForm(const T& value, const QByteArray& bytes, int nCuts = 99)
         EXPECT_EQ(loadCause(bytes.left(cut), reading), Cause::endOfFile) << cut;
 }
 
-template <typename... Values>
-void expectForms(const std::pair<Values, const char*>&... forms)
-{
-    (expectForm(forms.first, hex(forms.second)), ...);
-}
-
 TEST(Archive, EachTypeHasItsForm)
 {
-    using std::pair;
-    expectForms(
-        pair{BYTE{0xFE}, "FE"}, pair{'a', "61"}, pair{static_cast<signed char>(-2), "FE"},
-        pair{SHORT{-2}, "FEFF"}, pair{WORD{0x1234}, "3412"}, pair{LONG{-2}, "FEFFFFFF"},
-        pair{DWORD{0x12345678}, "78563412"}, pair{-2L, "FEFFFFFFFFFFFFFF"},
-        pair{0x123456789ABCDEF0UL, "F0DEBC9A78563412"}, pair{LONGLONG{-2}, "FEFFFFFFFFFFFFFF"},
-        pair{ULONGLONG{1} << 63, "0000000000000080"}, pair{-2.0F, "000000C0"},
-        pair{1.0, "000000000000F03F"}, pair{true, "01"}, pair{false, "00"},
-        pair{CPoint_E(1, -2), "01000000 FEFFFFFF"}, pair{CSize_E(3, -4), "03000000 FCFFFFFF"},
-        pair{CRect_E(1, 2, 3, -4), "01000000 02000000 03000000 FCFFFFFF"});
-    expectForms(pair{Count{0}, "0000"}, pair{Count{0xFFFE}, "FEFF"},
-                pair{Count{0xFFFF}, "FFFF FFFF0000"}, pair{Count{0xFFFFFFFE}, "FFFF FEFFFFFF"},
-                pair{Count{0xFFFFFFFF}, "FFFF FFFFFFFF FFFFFFFF00000000"});
+    expectForm('a', hex("61"));
+    expectForm(WORD{0x1234}, hex("3412"));
+    expectForm(-2, hex("FEFFFFFF"));
+    expectForm(-2L, hex("FEFFFFFFFFFFFFFF"));
+    expectForm(-2.0F, hex("000000C0"));
+    expectForm(1.0, hex("000000000000F03F"));
+    expectForm(true, hex("01"));
+    expectForm(CPoint_E(1, -2), hex("01000000 FEFFFFFF"));
+    expectForm(CRect_E(1, 2, 3, -4), hex("01000000 02000000 03000000 FCFFFFFF"));
+    expectForm(Count{0xFFFE}, hex("FEFF"));
+    expectForm(Count{0xFFFF}, hex("FFFF FFFF0000"));
+    expectForm(Count{0xFFFFFFFF}, hex("FFFF FFFFFFFF FFFFFFFF00000000"));
     // UTF-16; a high surrogate at the end of the file stays alone.
-    expectForms(pair{L'\xFFFD', "FDFF"}, pair{static_cast<wchar_t>(0xD83D), "3DD8"});
-    expectForm(L'\U0001F600', hex("3DD8 00DE"), 2);
+    expectForm(static_cast<wchar_t>(0xD83D), hex("3DD8"));
     expectForm(L'\U0010FFFF', hex("FFDB FFDF"), 2);
     EXPECT_EQ(stored([](auto& ar) { ar << static_cast<wchar_t>(0x110000); }), hex("FDFF"));
 }
@@ -61,9 +53,9 @@ TEST(Archive, StringsAreWrittenWide)
     // 0xFFFE, the mark of wide text, is no length; the length counts units.
     // clang-format off
     static const Row<const char*, wchar_t, int> rows[] = {
-        {"FF FEFF 00", L'x', 0}, {"FF FEFF FE", L'x', 254}, {"FF FEFF FF FF00", L'x', 255},
+        {"FF FEFF FE", L'x', 254}, {"FF FEFF FF FF00", L'x', 255},
         {"FF FEFF FF FDFF", L'x', 0xFFFD}, {"FF FEFF FF FFFF FEFF0000", L'x', 0xFFFE},
-        {"FF FEFF 02", L'\U0001F600', 1}, {"FF FEFF FF 7805", L'\U0001F600', 700},
+        {"FF FEFF FF 7805", L'\U0001F600', 700},
     };
     // clang-format on
     forRows(rows, [](const char* prefix, wchar_t ch, int count) {
@@ -77,16 +69,13 @@ TEST(Archive, StringsOfEachFormAreRead)
     // Narrow text is UTF-8, otherwise Latin-1. Of far more than there is, no memory is taken.
     // clang-format off
     static const Row<const char*, const wchar_t*, int> rows[] = {
-        {"00", L"", 0}, {"03 61 C3A9", L"a\x00E9", 0}, {"02 61 E9", L"a\x00E9", 0},
-        {"FF 0200 6162", L"ab", 0}, {"FF FFFF 02000000 6162", L"ab", 0},
-        {"FF FFFF FFFFFFFF 0200000000000000 6162", L"ab", 0}, {"FF FEFF FF 0100 6100", L"a", 0},
-        {"FF FEFF FF FFFF 01000000 6100", L"a", 0},
+        {"03 61 C3A9", L"a\x00E9", 0}, {"02 61 E9", L"a\x00E9", 0}, {"FF 0200 6162", L"ab", 0},
+        {"FF FFFF FFFFFFFF 0200000000000000 6162", L"ab", 0},
         {"FF FEFF FF FFFF FFFFFFFF 0100000000000000 6100", L"a", 0},
         {"FF FEFF 03 6100 3DD8 6200", L"a\xD83D\x0062", 0},
         {"FF FFFF FFFFFF7F 61", L"", Cause::endOfFile},
         {"FF FEFF FF FFFF FFFFFF7F 6100", L"a", Cause::endOfFile},
         {"FF FFFF 00000080 61", L"old", Cause::genericException},
-        {"FF FFFF FFFFFFFF FFFFFFFFFFFFFFFF 61", L"old", Cause::genericException},
     };
     // clang-format on
     forRows(rows, [](const char* digits, const wchar_t* text, int cause) {
@@ -108,7 +97,6 @@ TEST(Archive, LinesAreReadAsWritten)
     });
     load(bytes, [](auto& ar) {
         wchar_t buffer[4] = L"???";
-        EXPECT_EQ(ar.ReadString(nullptr, 3), nullptr);
         for (const wchar_t* const expected : {L"a", L"b", L"", L"c", L"d\U0001F600"})
             EXPECT_STREQ(ar.ReadString(buffer, *expected == L'a' ? 1 : 3), expected);
         EXPECT_EQ(ar.ReadString(buffer, 3), nullptr);
@@ -117,19 +105,17 @@ TEST(Archive, LinesAreReadAsWritten)
 
 TEST(Archive, BlocksPassTheBufferInAnySize)
 {
-    QByteArray bytes(200000, '\0'), read(200000, '\0');
-    std::mt19937 random(7);
-    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
-    const auto inParts = [&](auto part) {
-        for (UINT done = 0, size = 0; done < 200000; done += size)
-            part(done, size = std::min(200000 - done, static_cast<UINT>(random() % 300)));
-    };
+    QByteArray bytes, read(44850, '\0'); // in blocks of 0 to 299 bytes, small ones and large ones
+    for (int i = 0; i < read.size(); ++i)
+        bytes += static_cast<char>(i % 251);
+    const auto size = [](UINT i) { return i * 7 % 300; };
     const auto writing = [&](auto& ar) {
-        inParts([&](UINT from, UINT size) { ar.Write(bytes.data() + from, size); });
+        for (UINT i = 0, from = 0; i < 300; from += size(i++))
+            ar.Write(bytes.data() + from, size(i));
     };
     const auto reading = [&](auto& ar) {
-        inParts([&](UINT from, UINT size) { EXPECT_EQ(ar.Read(read.data() + from, size), size); });
-        EXPECT_EQ(ar.Read(read.data(), 500), 0U);
+        for (UINT i = 0, from = 0; i < 300; from += size(i++))
+            EXPECT_EQ(ar.Read(read.data() + from, size(i)), size(i));
         ar.EnsureRead(read.data(), 1);
     };
     EXPECT_EQ(stored(writing, 128), bytes);
@@ -143,31 +129,14 @@ TEST(Archive, WrongUseThrows)
     CArchive_E storing(&file, CArchive_E::store), loading(&file, CArchive_E::load);
     CArchive_E closed(&file, CArchive_E::store);
     closed.Close();
-    closed.Close();
-    EXPECT_EQ(closed.GetFile(), nullptr);
     int n = 0;
     CString_E text;
-    // clang-format off
-    const std::function<void(CArchive_E&)> writes[] = {
-        [](auto& ar) { ar << 1; }, [](auto& ar) { ar << L'\U0001F600'; },
-        [](auto& ar) { ar << CString_E(); }, [&](auto& ar) { ar.Write(&n, 0); },
-        [](auto& ar) { ar.WriteString(L""); }, [](auto& ar) { ar.WriteObject(nullptr); },
-        [](auto& ar) { ar.WriteClass(nullptr); },
-    };
-    const std::function<void(CArchive_E&)> reads[] = {
-        [&](auto& ar) { ar >> n; }, [&](auto& ar) { ar >> text; },
-        [&](auto& ar) { ar.Read(&n, 0); }, [&](auto& ar) { ar.ReadString(text); },
-        [](auto& ar) { ar.ReadObject(nullptr); },
-    };
-    // clang-format on
-    for (const auto& write : writes) {
-        EXPECT_EQ(causeOf([&] { write(loading); }), Cause::readOnly);
-        EXPECT_EQ(causeOf([&] { write(closed); }), Cause::genericException);
-    }
-    for (const auto& read : reads)
-        EXPECT_EQ(causeOf([&] { read(storing); }), Cause::writeOnly);
+    EXPECT_EQ(causeOf([&] { closed << 1; }), Cause::genericException);
+    EXPECT_EQ(causeOf([&] { loading << 1; }), Cause::readOnly);
+    EXPECT_EQ(causeOf([&] { loading.WriteObject(nullptr); }), Cause::readOnly);
+    EXPECT_EQ(causeOf([&] { storing >> n; }), Cause::writeOnly);
+    EXPECT_EQ(causeOf([&] { storing.ReadString(text); }), Cause::writeOnly);
     EXPECT_THROW(storing.Write(nullptr, 1), CInvalidArgException_E*);
-    EXPECT_THROW(storing.WriteString(nullptr), CInvalidArgException_E*);
     EXPECT_THROW(loading.Read(nullptr, 1), CInvalidArgException_E*);
     EXPECT_THROW(CArchive_E(nullptr, CArchive_E::store), CInvalidArgException_E*);
 }
@@ -192,11 +161,8 @@ TEST(Archive, TheBufferReachesTheFileWhenToldTo)
     file.SeekToBegin();
     CArchive_E ar(&file, CArchive_E::load);
     ar >> by;
-    EXPECT_FALSE(ar.IsBufferEmpty());
     ar.Flush(); // the rest is left to others
     EXPECT_TRUE(ar.IsBufferEmpty() && file.GetPosition() == 1);
-    ar >> by;
-    EXPECT_EQ(by, 2);
 }
 
 TEST(Archive, AFullDiskIsTold)

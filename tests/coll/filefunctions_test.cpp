@@ -29,48 +29,38 @@ TEST_F(FileTest, FunctionsByName)
     Make("x");
     Make("y", "g");
     Make("r", "ro");
-    // in this order: each call finds what those before it left; an empty name stands for null
+    // in this order: each call finds what those before it left
     // clang-format off
     const Row<Call, const char*, const char*, LONG> rows[] = {
-        {Mkdir, "d", "", 0}, {Mkdir, "d", "", kExists}, {Mkdir, "f", "", kExists},
-        {Mkdir, "no/d", "", kNoPath}, {Mkdir, "", "", kNoPath},
+        {Mkdir, "d", "", 0}, {Mkdir, "f", "", kExists}, {Mkdir, "no/d", "", kNoPath},
         {Copy, "f", "d/c", 0}, {Copy, "f", "d/c", kIsFile}, {CopyOver, "g", "d\\c", 0},
-        {Copy, "no", "n", kNoFile}, {Copy, "f", "no/f", kNoPath}, {Copy, "", "", kNoPath},
-        {CopyOver, "f", "f", kShared}, {CopyOver, "f", "d", kDenied},
+        {Copy, "no", "n", kNoFile}, {CopyOver, "f", "f", kShared}, {CopyOver, "f", "d", kDenied},
         {CopyOver, "d", "no", kDenied}, {Lock, "ro", "", 0}, {Erase, "ro", "", kDenied},
         {CopyOver, "f", "ro", kDenied}, {Copy, "ro", "ro2", 0}, {MoveOver, "f", "ro", kDenied},
         {Unlock, "ro", "", 0}, {Erase, "ro", "", 0}, {Erase, "ro", "", kNoFile},
-        {Erase, "d", "", kDenied}, {Erase, "", "", kNoPath}, {Unlock, "no", "", kNoFile},
-        {Unlock, "no/f", "", kNoPath}, {Rmdir, "d", "", kFull}, {Rmdir, "f", "", kNoDir},
-        {Rmdir, "no", "", kNoFile}, {Rmdir, "no/d", "", kNoPath}, {Rmdir, "f/d", "", kNoPath},
-        {Move, "f", "g", kExists}, {Move, "f", "f", kExists}, {Move, "no", "g", kNoFile},
-        {Move, "f", "no/f", kNoPath}, {Move, "f", "", kNoPath}, {MoveOver, "f", "d", kDenied},
+        {Erase, "d", "", kDenied}, {Unlock, "no", "", kNoFile}, {Rmdir, "d", "", kFull},
+        {Rmdir, "f", "", kNoDir}, {Rmdir, "no/d", "", kNoPath}, {Move, "f", "g", kExists},
+        {Move, "no", "g", kNoFile}, {Move, "f", "no/f", kNoPath}, {MoveOver, "f", "d", kDenied},
         {MoveOver, "f", "g", 0}, {Move, "d", "moved", 0}, {Erase, "moved/c", "", 0},
         {Rmdir, "moved", "", 0},
     };
     // clang-format on
-    for (const auto& row : rows) {
-        const auto& [call, from, to, error] = row;
-        const CString_E a = Path(from), b = Path(to);
-        const auto run = [&, wanted = call, aIs = *from != 0, bIs = *to != 0] {
-            return wanted(aIs ? a.GetString() : nullptr, bIs ? b.GetString() : nullptr);
-        };
-        EXPECT_EQ(errorOf(run), error) << "row " << &row - rows;
-    }
+    forRows(rows, [this](Call call, const char* from, const char* to, LONG error) {
+        EXPECT_EQ(errorOf([&] { return call(Path(from), Path(to)); }), error);
+    });
+    EXPECT_EQ(errorOf([] { return CreateDirectory_E(nullptr, nullptr); }), kNoPath);
+    EXPECT_EQ(errorOf([] { return CopyFile_E(nullptr, nullptr, TRUE); }), kNoPath);
+    EXPECT_EQ(errorOf([this] { return MoveFile_E(Path("g"), nullptr); }), kNoPath);
     EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::Files).join(QLatin1Char(' ')), "g ro2"_q);
     EXPECT_EQ(Bytes("g"), "x");
     CreateDirectory_E(Path(".d"), nullptr);
     CloseHandle_E(Open(GENERIC_WRITE, CREATE_NEW, 0, FILE_ATTRIBUTE_READONLY, "locked"));
-    // clang-format off
-    const Row<CString_E, DWORD> attributes[] = {
-        {Path("g"), FILE_ATTRIBUTE_NORMAL}, {Path("ro2"), FILE_ATTRIBUTE_READONLY},
-        {Path("locked"), FILE_ATTRIBUTE_READONLY}, {Path("."), FILE_ATTRIBUTE_DIRECTORY},
-        {Path(".d"), FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN},
-        {L"/dev/null", FILE_ATTRIBUTE_DEVICE}, {L"", INVALID_FILE_ATTRIBUTES},
-    };
-    // clang-format on
-    for (const auto& [name, expected] : attributes)
-        EXPECT_EQ(GetFileAttributes_E(name), expected) << VxQString(name).toStdString();
+    EXPECT_EQ(GetFileAttributes_E(Path("g")), DWORD{FILE_ATTRIBUTE_NORMAL});
+    EXPECT_EQ(GetFileAttributes_E(Path("locked")), DWORD{FILE_ATTRIBUTE_READONLY});
+    EXPECT_EQ(GetFileAttributes_E(Path(".d")),
+              DWORD{FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN});
+    EXPECT_EQ(GetFileAttributes_E(L"/dev/null"), DWORD{FILE_ATTRIBUTE_DEVICE});
+    EXPECT_EQ(GetFileAttributes_E(L""), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST_F(FileTest, CopiesOfAllKinds)
@@ -93,8 +83,6 @@ TEST_F(FileTest, CopiesOfAllKinds)
     EXPECT_TRUE(CopyFile_E(L"/proc/self/status", Path("status"), FALSE)); // of no size
     EXPECT_TRUE(Bytes("status").startsWith("Name:"));
     QFile::link(VxQString(Path("nothing")), VxQString(Path("to nothing")));
-    EXPECT_FALSE(CopyFile_E(L"/proc/self/mem", Path("to nothing"), FALSE)); // unreadable at 0
-    EXPECT_EQ(Bytes("nothing"), "<none>");
     EXPECT_TRUE(CopyFile_E(Path(), Path("to nothing"), FALSE));
     EXPECT_EQ(Bytes("nothing"), "new");
 }
@@ -107,10 +95,6 @@ TEST_F(FileTest, MovesOverAnotherLink)
     EXPECT_EQ(Bytes(), "x");
     EXPECT_TRUE(MoveOver(Path(), Path("f2")));
     EXPECT_EQ(Bytes() + Bytes("f2"), "<none>x");
-    const auto later = [&] {
-        return MoveFileEx_E(Path("f2"), Path(), MOVEFILE_DELAY_UNTIL_REBOOT);
-    };
-    EXPECT_EQ(errorOf(later), ERROR_NOT_SUPPORTED);
 }
 
 /// The names that a search finds, with blanks between.
@@ -131,12 +115,10 @@ TEST_F(FileTest, Wildcards)
         Make("x", name);
     // clang-format off
     const Row<const char*, const char*> rows[] = {
-        {"*", ". .. a a.b.txt A.TXT ab.txt abc.dat b. x.t ä.Txt"},
-        {"*.*", ". .. a a.b.txt A.TXT ab.txt abc.dat b. x.t ä.Txt"},
-        {"*.", ". .. a"}, {"*.txt", "a.b.txt A.TXT ab.txt ä.Txt"}, {"a.*", "a a.b.txt A.TXT"},
-        {"a?.txt", "A.TXT ab.txt"}, {"a??.*", "a a.b.txt A.TXT ab.txt abc.dat"}, {"?", "a"},
-        {"?.txt", "A.TXT ä.Txt"}, {"Ä.tXT", "ä.Txt"}, {"*b*", "a.b.txt ab.txt abc.dat b."},
-        {"*.t??", "a.b.txt A.TXT ab.txt x.t ä.Txt"}, {"*.b.*", "a.b.txt"}, {"no*", ""},
+        {"*.*", ". .. a a.b.txt A.TXT ab.txt abc.dat b. x.t ä.Txt"}, {"*.", ". .. a"},
+        {"*.txt", "a.b.txt A.TXT ab.txt ä.Txt"}, {"a.*", "a a.b.txt A.TXT"},
+        {"a??.*", "a a.b.txt A.TXT ab.txt abc.dat"}, {"?", "a"}, {"Ä.tXT", "ä.Txt"},
+        {"*b*", "a.b.txt ab.txt abc.dat b."}, {"*.t??", "a.b.txt A.TXT ab.txt x.t ä.Txt"},
     };
     // clang-format on
     for (const auto& [pattern, names] : rows)
@@ -155,54 +137,40 @@ TEST_F(FileTest, FindersTellOfFiles)
     CFileFind_E finder;
     std::time_t time = -1;
     FILETIME fileTime;
-    EXPECT_FALSE(finder.GetLastWriteTime(time));
+    EXPECT_EQ(errorOf([&] { return finder.FindNextFile(); }), ERROR_INVALID_HANDLE);
     ASSERT_TRUE(finder.FindFile(Path("*.txt").ToWinSeperator()));
-    EXPECT_TRUE(finder.GetFilePath().IsEmpty());
+    EXPECT_TRUE(finder.GetFilePath().IsEmpty() && !finder.GetLastWriteTime(time));
     EXPECT_EQ(errorOf([&] { return finder.FindNextFile(); }), ERROR_NO_MORE_FILES); // the last one
     EXPECT_EQ(finder.GetFileTitle(), L".hidden");
     EXPECT_EQ(finder.GetFilePath(), Path(".hidden.txt"));
     EXPECT_EQ(finder.GetFileURL(), L"file://" + Path(".hidden.txt"));
-    EXPECT_EQ(finder.GetRoot(), Path("") + L"/");
-    EXPECT_TRUE(finder.IsHidden() && finder.GetLength() == 3);
-    EXPECT_FALSE(finder.IsDirectory() || finder.IsReadOnly() || finder.IsNormal() ||
-                 finder.IsDots());
+    EXPECT_TRUE(finder.IsHidden() && !finder.IsDirectory() && finder.GetLength() == 3);
     EXPECT_TRUE(finder.GetLastWriteTime(time) && time == status.m_mtime);
-    EXPECT_TRUE(finder.GetCreationTime(time) && time == status.m_ctime);
-    EXPECT_TRUE(finder.GetLastAccessTime(time) && time == status.m_atime);
-    EXPECT_TRUE(finder.GetLastWriteTime(&fileTime) && finder.GetCreationTime(&fileTime));
+    EXPECT_TRUE(finder.GetCreationTime(&fileTime));
     const auto ticks =
         static_cast<LONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime;
     EXPECT_EQ(ticks / 10'000'000 - 11'644'473'600, status.m_ctime);
-    EXPECT_FALSE(finder.GetLastAccessTime(nullptr));
-    EXPECT_TRUE(finder.FindFile(Path("*")) && finder.FindNextFile());
-    EXPECT_TRUE(finder.IsDots() && finder.IsDirectory());
+    EXPECT_TRUE(finder.FindFile(Path("*")) && finder.FindNextFile() && finder.IsDots());
     CFile_E::Remove(Path(".hidden.txt"));
     EXPECT_TRUE(!finder.FindNextFile() && finder.GetFileName() == L".."); // only that is left
-    finder.Close();
-    EXPECT_TRUE(finder.GetLength() == 0 && finder.GetFileName().IsEmpty());
 }
 
 TEST_F(FileTest, FailuresOfFinders)
 {
     WIN32_FIND_DATA data;
     CFileFind_E finder;
+    EXPECT_EQ(errorOf([&] { return finder.FindFile(Path("no")); }), kNoFile);
+    EXPECT_EQ(errorOf([&] { return finder.FindFile(Path("no/*")); }), kNoPath);
+    EXPECT_EQ(errorOf([&] { return finder.FindFile(Make("x") + L"/*"); }), kNoPath);
+    EXPECT_EQ(errorOf([&] { return finder.FindFile(L""); }), kNoPath);
+    EXPECT_EQ(FindFirstFile_E(Path("*"), nullptr), INVALID_HANDLE_VALUE);
     const HANDLE hEnded = FindFirstFile_E(Path("*"), &data);
     EXPECT_EQ(errorOf([&] { return FindNextFile_E(hEnded, nullptr); }), ERROR_INVALID_PARAMETER);
     EXPECT_TRUE(FindClose_E(hEnded));
-    // clang-format off
-    const Row<CString_E, LONG> names[] = {
-        {Path("no"), kNoFile}, {Path("no/*"), kNoPath}, {Make("x") + L"/*", kNoPath},
-        {L"", kNoPath},
-    };
-    // clang-format on
-    for (const auto& [name, error] : names)
-        EXPECT_EQ(errorOf([&, wanted = name] { return finder.FindFile(wanted); }), error);
-    for (const HANDLE h : {INVALID_HANDLE_VALUE, HANDLE{}, hEnded, static_cast<HANDLE>(&data)}) {
+    for (const HANDLE h : {hEnded, INVALID_HANDLE_VALUE}) {
         EXPECT_EQ(errorOf([&] { return FindNextFile_E(h, &data); }), ERROR_INVALID_HANDLE);
         EXPECT_EQ(errorOf([&] { return FindClose_E(h); }), ERROR_INVALID_HANDLE);
     }
-    EXPECT_EQ(errorOf([&] { return finder.FindNextFile(); }), ERROR_INVALID_HANDLE);
-    EXPECT_EQ(FindFirstFile_E(Path("*"), nullptr), INVALID_HANDLE_VALUE);
 }
 
 } // namespace

@@ -5,8 +5,6 @@
 
 #include <QtCore/QTemporaryDir>
 
-namespace vxtest {
-
 /// Cause and Win32 error number of a file exception; {-1, -1} for none.
 using Failure = std::pair<int, LONG>;
 inline constexpr Failure kNoFailure{-1, -1};
@@ -61,11 +59,3 @@ protected:
 
     QTemporaryDir m_dir;
 };
-
-} // namespace vxtest
-
-using vxtest::errorOf;
-using vxtest::Failure;
-using vxtest::failureOf;
-using vxtest::FileTest;
-using vxtest::kNoFailure;

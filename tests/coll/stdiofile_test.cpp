@@ -1,4 +1,3 @@
-#include "archiving.h"
 #include "filetest.h"
 
 #include <cstdlib>
@@ -24,21 +23,16 @@ TEST_F(FileTest, TextLines)
 {
     const Row<const char*, UINT, Lines, UINT, Lines> rows[] = {
         {"", 0, {}, 8, {}},
-        {"ab\ncd", 0, {L"ab", L"cd"}, 8, {L"ab\n", L"cd"}},
-        {"ab\r\n\r\nc\r", 0, {L"ab", L"", L"c\r"}, 8, {L"ab\n", L"\n", L"c\r"}},
-        {"ab\r\r\nc\rd\n", 0, {L"ab\r", L"c\rd"}, 8, {L"ab\r\n", L"c\rd\n"}},
+        {"ab\r\n\r\nc\rd\r", 0, {L"ab", L"", L"c\rd\r"}, 8, {L"ab\n", L"\n", L"c\rd\r"}},
+        {"ab\r\r\nc", 0, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
         {"ab\r\nc", CFile_E::typeBinary, {L"ab\r", L"c"}, 8, {L"ab\r\n", L"c"}},
         {"ab\r\ncde\n", 0, {L"ab", L"cde"}, 3, {L"ab", L"\n", L"cd", L"e\n"}},
-        {"ab\r\nc", 0, {L"ab", L"c"}, 4, {L"ab\n", L"c"}},
         {"ä中😀\nx", 0, {L"ä中😀", L"x"}, 3, {L"ä中", L"😀\n", L"x"}},
         {"\uFEFFa\n\uFEFFb", 0, {L"a", L"\uFEFFb"}, 8, {L"a\n", L"\uFEFFb"}},
         {"\xEF\xBBz", 0, {L"��z"}, 8, {L"��z"}},
-        {"a\xFF\n", 0, {L"a�"}, 8, {L"a�\n"}},
         // cut off by the line end, by the end of the file; overlong; a surrogate, beyond U+10FFFF
         {"\xE4\xB8\n\xF0\x9F", 0, {L"��", L"��"}, 8, {L"��\n", L"��"}},
-        {"\xC0\x80\xE0\x80\x80", 0, {L"�����"}, 8, {L"�����"}},
-        {"\xED\xA0\x80\xF5", 0, {L"����"}, 8, {L"����"}},
-        {"a\032b\n", 0, {L"a\032b"}, 8, {L"a\032b\n"}},
+        {"\xC0\x80\xED\xA0\x80\xF5", 0, {L"������"}, 8, {L"������"}},
     };
     for (const auto& [bytes, type, lines, nMax, pieces] : rows) {
         CStdioFile_E file(Make(bytes), CFile_E::modeRead | type);
@@ -52,7 +46,6 @@ TEST_F(FileTest, TextIsWrittenWithTheLineEndsOfItsMode)
 {
     const Row<UINT, const wchar_t*, const char*> rows[] = {
         {0, L"ä\n😀\n\n", "ä\r\n😀\r\n\r\n"},
-        {0, L"a\r\n\r", "a\r\r\n\r"},
         {CFile_E::typeBinary, L"ä\n\r\n", "ä\n\r\n"},
         {0, L"\x110000\xD800\u07FF\uFFFE", "\uFFFD\uFFFD\u07FF\uFFFE"}};
     forRows(rows, [&](UINT type, const wchar_t* text, const char* bytes) {
@@ -85,16 +78,9 @@ TEST_F(FileTest, ReadingAndWritingTakeTurns)
     file.SetLength(5); // of what has been read ahead already
     file.SeekToBegin();
     EXPECT_EQ(linesOf(file), (Lines{L"one", L"T"}));
-    file.WriteString(L"!");
-    file.SeekToBegin();
-    EXPECT_EQ(linesOf(file), (Lines{L"one", L"T!"}));
     CFile_E other(Path(), kReadWriteNew | CFile_E::modeNoTruncate | CFile_E::shareDenyNone);
     other.SetLength(9); // what is read follows the file
     EXPECT_EQ(linesOf(file, 8).size(), 1U);
-    char byte;
-    EXPECT_EQ(file.Read(&byte, 1), 0U);
-    other.SetLength(10);
-    EXPECT_EQ(file.Read(&byte, 1), 1U);
 }
 
 TEST_F(FileTest, TextFilesTellWhatTheyCannotDo)
@@ -102,15 +88,13 @@ TEST_F(FileTest, TextFilesTellWhatTheyCannotDo)
     CStdioFile_E file(Make("x"), CFile_E::modeRead), out;
     CString_E line;
     wchar_t buffer[4] = L"?";
-    EXPECT_TRUE(!file.ReadString(nullptr, 4) && !file.ReadString(buffer, 0));
-    EXPECT_TRUE(file.ReadString(buffer, 1) == buffer && !*buffer && file.GetPosition() == 0);
+    EXPECT_FALSE(file.ReadString(nullptr, 4) || file.ReadString(buffer, 0));
     EXPECT_THROW(file.WriteString(nullptr), CInvalidArgException_E*);
     EXPECT_EQ(failureOf([&] { file.WriteString(L"y"); }).first, CFileException_E::accessDenied);
     EXPECT_EQ(failureOf([&] { out.ReadString(line); }).first, CFileException_E::invalidFile);
     file.Close();
     EXPECT_TRUE(out.Open(Path(), CFile_E::modeWrite));
     EXPECT_EQ(failureOf([&] { out.ReadString(line); }).first, CFileException_E::accessDenied);
-    EXPECT_EQ(Bytes(), "x");
 }
 
 TEST_F(FileTest, OpenStreams)
@@ -148,15 +132,6 @@ TEST(MemFile, GrowsThroughItsClass)
     EXPECT_EQ(counting.GetLength(), 32U); // kept
     counting.Close();
     EXPECT_EQ(counting.m_nBlocks, 0);
-    CMemFile_E file(3);
-    QByteArray expected;
-    for (int i = 0; i < 1000; ++i) {
-        const QByteArray piece = QByteArray::number(i);
-        file.Write(piece.data(), static_cast<UINT>(piece.size()));
-        expected += piece;
-    }
-    EXPECT_EQ(bytesOf(file), expected);
-    EXPECT_FALSE(file.Open(L"f", CFile_E::modeRead));
 }
 
 TEST(MemFile, AttachedBlocks)
