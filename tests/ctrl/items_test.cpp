@@ -63,7 +63,7 @@ void checkItems(const Numbers& n, int (Control::*pGetText)(int, CString_E&) cons
     EXPECT_STREQ(str.GetString(), L"last");
     EXPECT_EQ((control.*pGetText)(1, str), -1);
     EXPECT_TRUE(str.IsEmpty());
-    EXPECT_EQ(control.SetItemDataPtr(0, &control), 0);
+    control.SetItemDataPtr(0, &control);
     EXPECT_EQ(control.GetItemDataPtr(0), &control);
     EXPECT_EQ(control.GetItemDataPtr(1), nullptr);
 }

@@ -96,18 +96,6 @@ TEST_P(MessagesTest, WhatDeletesTheWidgetMeanwhile)
     }
 }
 
-TEST_P(MessagesTest, WhatIsPostedWhileTheBindingChanges)
-{
-    PostMessage_E(bar, PBM_SETPOS, 40);
-    window.reset();
-    CProgressCtrl_E other;
-    other.SubclassWindow(bar);
-    PostMessage_E(bar, PBM_DELTAPOS, 2);
-    other.Detach();
-    deliverPosted();
-    EXPECT_EQ(bar->value(), 42);
-}
-
 TEST(Messages, NumbersOfControlsAtPlainWindows)
 {
     QDialog dialog;
@@ -119,8 +107,6 @@ TEST(Messages, NumbersOfControlsAtPlainWindows)
     EXPECT_TRUE(PostMessage_E(&dialog, WM_USER + 500));
     deliverPosted();
     EXPECT_EQ(window.m_seen, QList<UINT>({PBM_SETPOS, PBM_SETPOS, WM_USER + 500}));
-    EXPECT_EQ(SendMessage_E(nullptr, PBM_SETPOS, 1), 0);
-    EXPECT_FALSE(PostMessage_E(nullptr, PBM_SETPOS, 1));
 }
 
 /// A widget that knows a message itself.

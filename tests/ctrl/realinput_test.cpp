@@ -103,22 +103,12 @@ TEST_F(RealInput, CheckListBoxes)
     type({XK_space, XK_Down});
     expectSoon(&CListBox_E::GetCurSel, list, 2);
     EXPECT_EQ(list.GetCheck(1), 1);
-    list.SetCheckStyle(BS_CHECKBOX);
-    type({XK_space, XK_Up});
-    expectSoon(&CListBox_E::GetCurSel, list, 1);
-    EXPECT_EQ(list.GetCheck(2), 0) << "not by itself";
 }
 
 TEST_F(RealInput, Dates)
 {
     CDateTimeCtrl_E control;
     ASSERT_TRUE(control.Create(WS_VISIBLE, {10, 10, 150, 40}, &form));
-    SYSTEMTIME time{2024, 2, 4, 29, 0, 0, 0, 0};
-    control.SetTime(&time);
-    control.SetFormat(L"yyyy'-'MM'-'dd");
-    control.SetFocus();
-    typeKey(XK_Up);
-    EXPECT_TRUE(waitUntil([&] { return control.GetTime(&time), time.wYear == 2025; }));
     clickAt(control, {control.GetSafeHwnd()->width() - 8, 15});
     ASSERT_TRUE(waitUntil([&] { return control.GetMonthCal()->isVisible(); }));
     control.CloseMonthCal();
@@ -143,13 +133,10 @@ public:
     void OnVScroll_E(UINT, UINT nPos, CScrollBar_E* pBar)
     {
         m_nPos = nPos;
-        m_pSender = pBar; // of another class for a slider
-        auto* const pReal = qobject_cast<CScrollBar_E*>(static_cast<CWnd_E*>(m_pSender));
-        m_nBarPos = pReal ? pReal->GetScrollPos() : -1;
+        m_pSender = pBar;
     }
     UINT m_nPos = 0;
-    void* m_pSender = nullptr;
-    int m_nBarPos = 0;
+    CScrollBar_E* m_pSender = nullptr;
     DECLARE_MESSAGE_MAP_E()
 };
 
@@ -165,19 +152,9 @@ TEST_F(RealInput, ScrollBars)
     auto* const pOwn = window.GetSafeHwnd()->findChild<QScrollBar*>();
     movePointer(pOwn, {pOwn->width() / 2, 4});
     clickButton(5);
-    EXPECT_TRUE(waitUntil([&] { return window.m_nBarPos > 0; }));
-    EXPECT_EQ(window.m_nPos, UINT(window.m_nBarPos));
-    EXPECT_EQ(window.m_pSender, CWnd_E::FromHandle(pOwn));
-    QScrollBar found;
-    found.setValue(21);
-    CSliderCtrl_E slider;
-    ASSERT_TRUE(slider.Create(0, kPlace, &form));
-    for (const auto& [pBar, nPos] : {Row<QWidget*, int>{&found, 21}, {slider, -1}, {nullptr, -1}}) {
-        window.SendMessage(WM_VSCROLL, SB_LINEDOWN, at(pBar));
-        EXPECT_EQ(window.m_pSender, static_cast<void*>(CWnd_E::FromHandle(pBar)));
-        EXPECT_EQ(window.m_nBarPos, nPos);
-    }
-    EXPECT_EQ(window.GetScrollBarCtrl(SB_VERT), nullptr);
+    EXPECT_TRUE(waitUntil([&] { return window.m_nPos > 0; }));
+    EXPECT_EQ(window.m_nPos, UINT(pOwn->value()));
+    EXPECT_EQ(window.m_pSender, qobject_cast<CScrollBar_E*>(CWnd_E::FromHandle(pOwn)));
     ClearTempObjectPool();
 }
 
