@@ -55,6 +55,7 @@ TEST(DateTime, Formats)
         SYSTEMTIME day = date(2024, 3, 1);
         EXPECT_TRUE(control.SetTime(&day)); // while the hour shows alone
         EXPECT_EQ(pEdit->date(), QDate(2024, 3, 1));
+        EXPECT_EQ(control.GetRange(nullptr, nullptr), 0U) << "nor narrowed to that date";
         EXPECT_FALSE(control.SetFormat(L"'no date'"));
         EXPECT_EQ(pEdit->text(), "15 open"_q);
         EXPECT_TRUE(control.SetFormat(nullptr));

@@ -34,11 +34,10 @@ void checkItems(const Numbers& n, int (Control::*pGetText)(int, CString_E&) cons
     const Steps steps = {
         {n.add, 0, at(L"ABC"), 0}, {n.add, 1}, {n.insert, 0, at(L"xyz"), 0},
         {n.insert, -1, at(L"abd"), 3}, {"xyz,ABC,,abd"_q}, {n.insert, 5, at(L"no"), -1},
-        {n.insert, -2, at(L"no"), -1}, {n.remove, 2, 3}, {n.remove, 3, -1},
-        {n.count, 3}, {n.text, 2, at(text), 3}, {n.text, -1, at(text), -1}, {text, "abd"_q},
-        {n.length, 2, 3}, {n.length, 3, -1},
-        {n.select, 1, 1}, {n.selected, 1}, {"xyz,ABC*,abd"_q}, {n.select, -1, -1},
-        {n.select, 3, -1}, {n.selected, -1},
+        {n.insert, -2, at(L"no"), -1}, {n.remove, 2, 3}, {n.remove, 3, -1}, {n.count, 3},
+        {n.text, 2, at(text), 3}, {n.text, -1, at(text), -1}, {text, "abd"_q},
+        {n.length, 2, 3}, {n.length, 3, -1}, {n.select, 1, 1}, {n.selected, 1},
+        {"xyz,ABC*,abd"_q}, {n.select, -1, -1}, {n.select, 3, -1}, {n.selected, -1},
         // A list is searched behind the start and around, a combo box from the start itself
         {n.find, -1, at(L"aB"), 1}, {n.find, 1, at(L"ab"), of(2, 1)},
         {n.find, 2, at(L"ab"), of(1, 2)}, {n.find, 0, at(L"x"), 0},

@@ -53,7 +53,7 @@ TEST(ListBox, Selection)
     });
 }
 
-TEST(ListBox, StyleAndSorting)
+TEST(ListBox, StylePlacesAndSorting)
 {
     CListBox_E list;
     ASSERT_TRUE(list.Create(LBS_MULTIPLESEL | WS_VSCROLL, kPlace, static_cast<QWidget*>(nullptr)));
@@ -61,6 +61,15 @@ TEST(ListBox, StyleAndSorting)
     EXPECT_EQ(pList->selectionMode(), QAbstractItemView::MultiSelection);
     EXPECT_EQ(list.GetStyle(), LBS_MULTIPLESEL | WS_VSCROLL);
     EXPECT_FALSE(pList->findChild<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly));
+
+    list.AddString(L"a");
+    list.AddString(L"b");
+    list.ShowWindow(SW_SHOW);
+    tagRECT first{}, rect{};
+    EXPECT_EQ(list.GetItemRect(0, &first) + list.GetItemRect(1, &rect), 0);
+    EXPECT_EQ(rect.top, first.bottom); // exclusive
+    EXPECT_EQ(list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(rect.left, rect.bottom - 1)), 1);
+    EXPECT_EQ(list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(rect.left, rect.bottom)), 0x1FFFF);
     QListWidget sorted; // by its form
     sorted.setSortingEnabled(true);
     // clang-format off

@@ -19,6 +19,7 @@ TEST(Progress, ByMessages)
         {PBM_SETMARQUEE, TRUE, TRUE}, {"minimum", 0}, {"maximum", 0},
         {PBM_SETRANGE32, -20, 80, MAKELONG(-10, 90)}, {"maximum", 0}, // it goes on
         {PBM_GETRANGE, FALSE, 80}, {PBM_SETMARQUEE, FALSE, TRUE}, {"minimum", -20}, {"maximum", 80},
+        {PBM_SETRANGE32, -20, 70, MAKELONG(-20, 80)}, {"maximum", 70},
     });
     // clang-format on
     EXPECT_EQ(ends[1], 60000);
@@ -95,8 +96,9 @@ TEST(Slider, ByMessages)
         {TBM_SETPOS, TRUE, 33, 0}, {TBM_GETPOS, 33}, {TBM_SETPOSNOTIFY, 0, 1000, 0},
         {TBM_GETPOS, 90}, {TBM_SETRANGEMIN, FALSE, 0}, {TBM_SETRANGEMAX, FALSE, 60, 0},
         {TBM_GETPOS, 60}, {TBM_SETLINESIZE, 0, 2, 1}, {TBM_SETLINESIZE, 0, INT_MIN, 2},
-        {TBM_SETPAGESIZE, 0, 20, 10}, {TBM_GETPAGESIZE, 20}, {TBM_GETNUMTICS, 2}, {TBM_SETTIC, 0, 40, TRUE},
-        {TBM_SETTIC, 0, 15, TRUE}, {TBM_SETTIC, 0, 15, TRUE},
+        {TBM_SETPAGESIZE, 0, 20, 10}, {TBM_GETPAGESIZE, 20}, {TBM_GETNUMTICS, 2},
+        {TBM_SETTIC, 0, 40, TRUE}, {TBM_SETTIC, 0, 15, TRUE}, {TBM_SETTIC, 0, 15, TRUE},
+        {TBM_SETTIC, TRUE}, // at 0
         {TBM_SETTIC, 0, 60, TRUE}, // the first and the last are there anyway
         {TBM_SETTIC, 0, 61, FALSE}, {TBM_SETTIC, 0, -1, FALSE},
         {TBM_GETNUMTICS, 4}, {TBM_GETTIC, 15}, {TBM_GETTIC, 1, 40}, {TBM_GETTIC, 2, -1},
@@ -114,8 +116,9 @@ TEST(Slider, WhatShows)
     runSteps<CSliderCtrl_E, QSlider>(TBS_VERT, {
         {"orientation", Qt::Vertical}, // a form's stands by default
         {TBM_SETRANGE, TRUE, MAKELPARAM(0, 100), 0}, {"tickPosition", QSlider::NoTicks},
-        {TBM_SETTIC, 0, 20, TRUE}, {TBM_SETTIC, 0, 50, TRUE}, {"tickInterval", 10}, {"tickPosition", QSlider::TicksBelow}, {TBM_CLEARTICS, 0},
-        {TBM_SETTICFREQ, 5, 0}, {"tickInterval", 100}, // Intended: tics stand where they are set
+        {TBM_SETTIC, 0, 20, TRUE}, {TBM_SETTIC, 0, 50, TRUE}, {"tickInterval", 10},
+        {"tickPosition", QSlider::TicksBelow}, {TBM_CLEARTICS, 0}, {TBM_SETTICFREQ, 5, 0},
+        {"tickInterval", 100}, // Intended: tics stand where they are set
         {TBM_SETRANGEMIN, 0, INT_MIN, 0}, {TBM_SETRANGEMAX, 0, INT_MAX, 0}, {TBM_SETTIC, TRUE},
         {"tickInterval", INT_MAX}, // not each of its 4294967295 positions
         {TBM_SETRANGEMIN, 0, -1, 0}, {TBM_SETRANGEMAX, 0, 3, 0}, {"tickInterval", 1},

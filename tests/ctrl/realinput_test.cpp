@@ -51,7 +51,6 @@ TEST_F(RealInput, FocusOfButtonsAndEdits)
     edit.SetFocus();
     type({XK_a, XK_b, XK_Return, XK_c});
     EXPECT_TRUE(waitUntil([&] { return edit.LineLength() == 3; }));
-    EXPECT_TRUE(edit.GetModify() && edit.CanUndo());
     edit.SetSel(0, -1); // without ES_NOHIDESEL, but with the focus
     EXPECT_EQ(edit.GetSel(), MAKELONG(0, 3));
 }
@@ -81,28 +80,6 @@ TEST_F(RealInput, ComboBoxes)
     type({XK_g, XK_Return});
     EXPECT_TRUE(waitUntil([&] { return pCombo->currentText() == "g"_q; })); // not completed
     EXPECT_EQ(box.GetCount(), 3) << "nor inserted";
-}
-
-TEST_F(RealInput, CheckListBoxes)
-{
-    CCheckListBox_E list;
-    ASSERT_TRUE(list.Create(WS_VISIBLE, {10, 10, 210, 210}, &form));
-    for (const wchar_t* text : {L"a", L"b", L"c"})
-        list.AddString(text);
-    tagRECT rect{}, first{};
-    EXPECT_EQ(list.GetItemRect(1, &rect) + list.GetItemRect(0, &first), 0);
-    EXPECT_EQ(rect.top, first.bottom); // exclusive
-    const CPoint_E inside((rect.left + rect.right) / 2, rect.bottom - 1);
-    EXPECT_EQ(list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(inside.x, inside.y)), 1);
-    BOOL bOutside = FALSE;
-    EXPECT_TRUE(list.ItemFromPoint({1, 190}, bOutside) == -1 && bOutside);
-    clickAt(list.GetSafeHwnd()->findChild<QWidget*>("qt_scrollarea_viewport"_q),
-            {inside.x, inside.y});
-    expectSoon(&CListBox_E::GetCurSel, list, 1);
-    EXPECT_EQ(list.GetCheck(1), 0);
-    type({XK_space, XK_Down});
-    expectSoon(&CListBox_E::GetCurSel, list, 2);
-    EXPECT_EQ(list.GetCheck(1), 1);
 }
 
 TEST_F(RealInput, Dates)

@@ -15,8 +15,8 @@ TEST(SpinButton, WholeNumbers)
     // clang-format off
     runSteps<CSpinButtonCtrl_E, QSpinBox>(0, {
         {UDM_SETRANGE, 0, MAKELPARAM(100, -100), 0}, {UDM_GETRANGE, MAKELONG(100, -100)},
-        {UDM_SETPOS, 0, 100, 0}, {UDM_SETPOS, 0, MAKELPARAM(-8, 0), 100}, {UDM_SETPOS32, 0, 101, -1},
-        {UDM_SETPOS32, 0, -101, -1}, {UDM_GETPOS, MAKELONG(-8, 0)},
+        {UDM_SETPOS, 0, 100, 0}, {UDM_SETPOS, 0, MAKELPARAM(-8, 0), 100},
+        {UDM_SETPOS32, 0, 101, -1}, {UDM_SETPOS32, 0, -101, -1}, {UDM_GETPOS, MAKELONG(-8, 0)},
         {UDM_GETPOS32, 0, at(&error), -8}, {UDM_SETRANGE32, -200000, 200000, 0},
         {UDM_GETRANGE32, at(&lower), at(&upper), 0}, {UDM_GETRANGE32, 0},
         {UDM_SETPOS32, 0, 150000, -8}, {UDM_GETPOS32, 150000}, {UDM_SETACCEL, 2, 1},
