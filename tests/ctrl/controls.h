@@ -1,5 +1,5 @@
-// The same checks for every kind of control: made by the library, found in a form, bound to a plain
-// window, not bound; and for those that are not there.
+// The same checks for every kind of control: made by the library, found in a form, not bound; and
+// for those that are not there.
 #pragma once
 
 #include "support/test.h"

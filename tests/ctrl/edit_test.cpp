@@ -77,10 +77,12 @@ TEST(Edit, LimitSelectionAndState)
         DWORD last = 0;
         wchar_t cue[8] = L"";
         const EDITBALLOONTIP tip{0, L"<", nullptr, 0};
+        edit.SetReadOnly();
+        EXPECT_TRUE(edit.GetStyle() & ES_READONLY);
         // clang-format off
         runSteps(edit, {
             {EM_SETMODIFY, TRUE, 0}, {EM_GETMODIFY, TRUE}, {EM_SETMODIFY, 0}, {EM_GETMODIFY, 0},
-            {EM_SETREADONLY, TRUE, TRUE}, {"readOnly", true}, {EM_SETREADONLY, TRUE},
+            {"readOnly", true}, {EM_SETREADONLY, TRUE}, {"readOnly", false},
             {EM_CANUNDO, FALSE}, {EM_UNDO, of(TRUE, FALSE)}, {EM_SETSEL, 0, -1, 0},
             {EM_GETSEL, 0, at(&last), MAKELONG(0, 3)}, {EM_REPLACESEL, TRUE, 0},
             {EM_LINELENGTH, 0}, {EM_CANUNDO, TRUE}, {EM_UNDO, TRUE}, {EM_LINELENGTH, 3},
@@ -90,7 +92,7 @@ TEST(Edit, LimitSelectionAndState)
             {EM_HIDEBALLOONTIP, TRUE},
         });
         // clang-format on
-        EXPECT_TRUE(last == 3 && !(edit.GetStyle() & ES_READONLY));
+        EXPECT_EQ(last, 3U);
         edit.SetSel(0, 2);
         edit.Cut();
         edit.Paste();
@@ -135,6 +137,7 @@ TEST(Edit, LinesPlacesAndScrolling)
         // clang-format off
         runSteps(edit, {
             {EM_CHARFROMPOS, 0, MAKELPARAM(fifth.x + 1, fifth.y + 5), 4},
+            {EM_CHARFROMPOS, 0, MAKELPARAM(fifth.x - 2, fifth.y + 5), 4},
             {EM_POSFROMCHAR, 4, MAKELPARAM(fifth.x, first.y)}, {EM_POSFROMCHAR, 1000, -1},
             {EM_GETFIRSTVISIBLELINE, 0}, {EM_LINESCROLL, 0, 10, of(0, 1)},
             {EM_GETFIRSTVISIBLELINE, of(0, 10)}, {EM_SCROLL, SB_LINEUP, of(0U, MAKELONG(-1, TRUE))},
