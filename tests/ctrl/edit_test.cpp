@@ -8,74 +8,52 @@ namespace {
 using namespace vxtest;
 
 constexpr tagRECT kRect{0, 0, 200, 60};
-wchar_t g_buffer[8];
-
-class Edit : public CEdit_E
-{
-public:
-    void SetStyle(DWORD dwStyle) { m_dwStyle = dwStyle; }
-};
-
 /// Calls @p check with edit controls of a single line and of many lines, which take a selection
 /// without the focus, and with what chooses the result of the one or of the other.
 template <typename Check>
 void forKinds(const Check& check)
 {
     QWidget parent;
-    const Row<bool, QWidget*> kinds[] = {{false, nullptr},
-                                         {false, new QLineEdit(&parent)},
-                                         {true, nullptr},
-                                         {true, new QTextEdit(&parent)}};
-    forRows(kinds, [&](bool bText, QWidget* pFound) {
-        Edit edit;
-        edit.SetStyle(ES_NOHIDESEL);
-        if (pFound)
-            ASSERT_TRUE(edit.SubclassWindow(pFound));
-        else
-            ASSERT_TRUE(edit.Create(ES_NOHIDESEL | (bText ? ES_MULTILINE : 0), kRect, &parent));
+    for (const bool bText : {false, true}) {
+        SCOPED_TRACE(bText ? "many lines" : "a single line");
+        CEdit_E edit;
+        ASSERT_TRUE(edit.Create(ES_NOHIDESEL | (bText ? ES_MULTILINE : 0), kRect, &parent));
         check(edit, [bText](auto line, auto lines) { return bText ? lines : line; });
-    });
+    }
 }
 
 TEST(Edit, StyleAndLook)
 {
-    forKinds([](Edit& edit, auto of) {
-        EXPECT_EQ(edit.GetStyle() & ES_MULTILINE, of(0U, ES_MULTILINE));
-        const bool bMade = !edit.IsExternalImpObj();
-        auto* const pText = qobject_cast<QTextEdit*>(edit.GetSafeHwnd());
-        if (!pText)
-            return;
-        const auto bars = bMade ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded;
-        // clang-format off
-        runSteps(pText, {
-            {"lineWrapMode", bMade ? QTextEdit::NoWrap : QTextEdit::WidgetWidth},
-            {"contextMenuPolicy", bMade ? Qt::NoContextMenu : Qt::DefaultContextMenu},
-            {"verticalScrollBarPolicy", bars}, {"horizontalScrollBarPolicy", bars},
-        });
-        // clang-format on
-        EXPECT_NE(pText->verticalScrollBar()->isEnabled(), bMade);
-        EXPECT_NE(pText->horizontalScrollBar()->isEnabled(), bMade);
-    });
+    QWidget parent;
+    CEdit_E made;
+    ASSERT_TRUE(made.Create(ES_MULTILINE, kRect, &parent));
+    auto* const pText = qobject_cast<QTextEdit*>(made.GetSafeHwnd());
+    ASSERT_TRUE(pText);
+    EXPECT_EQ(pText->lineWrapMode(), QTextEdit::NoWrap);
+    EXPECT_EQ(pText->contextMenuPolicy(), Qt::NoContextMenu);
+    EXPECT_EQ(pText->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    EXPECT_FALSE(pText->horizontalScrollBar()->isEnabled());
+    made.SetWindowText(L"abc");
+    made.SetSel(0, -1); // nothing without the focus or ES_NOHIDESEL
+    EXPECT_EQ(made.GetSel(), 0U);
     QLineEdit line;
     line.setReadOnly(true);
     line.setEchoMode(QLineEdit::Password);
     QTextEdit text;
-    text.setReadOnly(true);
     CEdit_E edit;
-    for (const auto& [pWidget, dwStyle] : {Row<QWidget*, DWORD>{&text, ES_MULTILINE | ES_READONLY},
+    for (const auto& [pWidget, dwStyle] : {Row<QWidget*, DWORD>{&text, ES_MULTILINE},
                                            {&text, ES_MULTILINE},
                                            {&line, ES_READONLY | ES_PASSWORD}}) {
         ASSERT_TRUE(edit.SubclassWindow(pWidget));
         EXPECT_EQ(edit.GetStyle() & (ES_MULTILINE | ES_READONLY | ES_PASSWORD), dwStyle);
-        text.setReadOnly(false);
     }
     EXPECT_TRUE(text.verticalScrollBar()->isEnabled()) << "bound again, it keeps the form's look";
+    EXPECT_EQ(text.lineWrapMode(), QTextEdit::WidgetWidth);
 }
 
 TEST(Edit, LimitSelectionAndState)
 {
-    forKinds([](Edit& edit, auto of) {
-        EXPECT_GE(edit.GetLimitText(), 30000U);
+    forKinds([](CEdit_E& edit, auto of) {
         runSteps(edit, {{EM_SETLIMITTEXT, 5, 0}, {EM_GETLIMITTEXT, 5}});
         QTest::keyClicks(edit.GetSafeHwnd(), "abcdefg"_q);
         edit.SetSel(1, 3);
@@ -83,20 +61,12 @@ TEST(Edit, LimitSelectionAndState)
         QTest::keySequence(edit.GetSafeHwnd(), QKeySequence::Paste);
         runSteps(edit, {{"awxde"_q}});
         edit.LimitText();
-        QTest::keyClicks(edit.GetSafeHwnd(), "123"_q);
-        runSteps(edit, {{"awx123de"_q}});
 
         edit.SetWindowText(L"123456");
-        DWORD first = 0, last = 0;
         for (const auto& [nStart, nEnd, line, lines, combo] : kSelections) {
-            const LRESULT set = of(line, lines);
-            // clang-format off
-            runSteps(edit, {
-                {EM_SETSEL, 1, 1, 0}, {EM_SETSEL, nStart, nEnd, 0},
-                {EM_GETSEL, at(&first), at(&last), set},
-            });
-            // clang-format on
-            EXPECT_EQ(MAKELONG(first, last), set);
+            edit.SetSel(1, 1);
+            edit.SetSel(nStart, nEnd);
+            EXPECT_EQ(edit.GetSel(), of(line, lines)) << nStart;
         }
         edit.SetSel(MAKELONG(1, 3));
         edit.ReplaceSel(L"X\x1F600");
@@ -104,40 +74,36 @@ TEST(Edit, LimitSelectionAndState)
         edit.SetWindowText(L"<b>x</b>"); // Intended: markup, where there are many lines
         runSteps(edit, {{of("<b>x</b>"_q, "x"_q)}});
         edit.SetWindowText(L"abc");
+        DWORD last = 0;
+        wchar_t cue[8] = L"";
         const EDITBALLOONTIP tip{0, L"<", nullptr, 0};
-        const QSignalSpy changes(edit.GetSafeHwnd(),
-                                 of(SIGNAL(textChanged(QString)), SIGNAL(textChanged())));
+        edit.SetReadOnly();
+        EXPECT_TRUE(edit.GetStyle() & ES_READONLY);
         // clang-format off
         runSteps(edit, {
             {EM_SETMODIFY, TRUE, 0}, {EM_GETMODIFY, TRUE}, {EM_SETMODIFY, 0}, {EM_GETMODIFY, 0},
-            {EM_SETREADONLY, TRUE, TRUE}, {"readOnly", true}, {EM_SETREADONLY, TRUE},
-            {"readOnly", false}, {EM_CANUNDO, FALSE}, {EM_UNDO, of(TRUE, FALSE)},
-            {EM_SETSEL, 0, -1, 0}, {EM_REPLACESEL, TRUE, 0}, {EM_LINELENGTH, 0}, {EM_CANUNDO, TRUE},
-            {EM_UNDO, TRUE}, {EM_LINELENGTH, 3}, {EM_SETCUEBANNER, TRUE, at(L"Long hint"), TRUE},
-            {EM_GETCUEBANNER, at(g_buffer), 8, TRUE}, {g_buffer, "Long hi"_q},
-            {EM_SETCUEBANNER, TRUE}, {EM_GETCUEBANNER, 0, 8, FALSE},
+            {"readOnly", true}, {EM_SETREADONLY, TRUE}, {"readOnly", false},
+            {EM_CANUNDO, FALSE}, {EM_UNDO, of(TRUE, FALSE)}, {EM_SETSEL, 0, -1, 0},
+            {EM_GETSEL, 0, at(&last), MAKELONG(0, 3)}, {EM_REPLACESEL, TRUE, 0},
+            {EM_LINELENGTH, 0}, {EM_CANUNDO, TRUE}, {EM_UNDO, TRUE}, {EM_LINELENGTH, 3},
+            {EM_SETCUEBANNER, TRUE, at(L"Long hint"), TRUE}, {EM_GETCUEBANNER, at(cue), 8, TRUE},
+            {cue, "Long hi"_q}, {EM_GETCUEBANNER, 0, 8, FALSE},
             {EM_SHOWBALLOONTIP, 0, at(&tip), TRUE}, {EM_SHOWBALLOONTIP, FALSE},
             {EM_HIDEBALLOONTIP, TRUE},
         });
         // clang-format on
-        EXPECT_TRUE(edit.GetCueBanner().IsEmpty() && !(edit.GetStyle() & ES_READONLY));
+        EXPECT_EQ(last, 3U);
         edit.SetSel(0, 2);
         edit.Cut();
         edit.Paste();
-        edit.SetSel(1, 3);
-        edit.Copy();
-        edit.SetSel(-1, 0);
         edit.Paste();
-        runSteps(edit, {{"abcbc"_q}});
+        runSteps(edit, {{"ababc"_q}});
         edit.SetSel(1, 2);
-        const int nChanges = changes.count();
+        const QSignalSpy changes(edit.GetSafeHwnd(), SIGNAL(selectionChanged()));
         edit.SetModify();
         edit.EmptyUndoBuffer();
         EXPECT_TRUE(!edit.CanUndo() && edit.GetModify() && edit.GetSel() == MAKELONG(1, 2));
-        EXPECT_EQ(changes.count(), nChanges);
-        edit.SetStyle(0);
-        edit.SetSel(0, -1); // without the focus
-        EXPECT_EQ(edit.GetSel(), MAKELONG(1, 2));
+        EXPECT_EQ(changes.count(), 0);
         edit.Clear(); // Intended: all of it
         runSteps(edit, {{""_q}});
     });
@@ -145,24 +111,19 @@ TEST(Edit, LimitSelectionAndState)
 
 TEST(Edit, LinesPlacesAndScrolling)
 {
-    forKinds([](Edit& edit, auto of) {
+    forKinds([](CEdit_E& edit, auto of) {
         edit.SetWindowText(of(L"only", L"first\nsecond\n\nlast"));
         wchar_t room[8] = L"\3";
         // clang-format off
         runSteps(edit, {
             {EM_GETLINECOUNT, of(1, 4)}, {EM_LINELENGTH, 1, of(4, 18)},
-            {EM_LINEINDEX, 1, of(-1, 6)}, {EM_LINEINDEX, 2, of(-1, 13)}, {EM_LINEINDEX, 4, -1},
-            {EM_LINEINDEX, INT_MIN, -1}, {EM_LINEFROMCHAR, 5, 0}, {EM_LINEFROMCHAR, 6, of(0, 1)},
-            {EM_LINEFROMCHAR, 1000, of(0, 3)}, {EM_SETSEL, -1, -1, 0},
+            {EM_LINEINDEX, 1, of(-1, 6)}, {EM_LINEINDEX, 4, -1}, {EM_LINEINDEX, INT_MIN, -1},
+            {EM_LINEFROMCHAR, 5, 0}, {EM_LINEFROMCHAR, 6, of(0, 1)}, {EM_SETSEL, -1, -1, 0},
             {EM_LINEFROMCHAR, -1, of(0, 3)}, {EM_LINEINDEX, -1, of(0, 14)},
             {EM_GETLINE, 1, at(room), 3}, {EM_GETLINE, 0}, {EM_FMTLINES, TRUE, of(0, 1)},
-            {EM_FMTLINES, FALSE}, {EM_SETTABSTOPS, 2, 0, FALSE},
         });
         // clang-format on
-        EXPECT_EQ(room[2], of(L'l', L'c'));
-        EXPECT_EQ(edit.GetLine(0, g_buffer, 4), 4);
-        EXPECT_EQ(g_buffer[3], of(L'y', L's')) << "no end";
-        EXPECT_EQ(edit.GetLine(2, g_buffer, 8), of(4, 0));
+        EXPECT_EQ(room[2], of(L'l', L'c')) << "no end";
         EXPECT_EQ(edit.SetTabStops(16), of(FALSE, TRUE));
 
         edit.MoveWindow(&kRect);
@@ -173,28 +134,20 @@ TEST(Edit, LinesPlacesAndScrolling)
         const CPoint_E first = edit.PosFromChar(0);
         const CPoint_E fifth = edit.PosFromChar(4);
         EXPECT_GT(fifth.x, first.x + 8);
-        CRect_E place(3, 4, 103, 54), got;
         // clang-format off
         runSteps(edit, {
             {EM_CHARFROMPOS, 0, MAKELPARAM(fifth.x + 1, fifth.y + 5), 4},
+            {EM_CHARFROMPOS, 0, MAKELPARAM(fifth.x - 2, fifth.y + 5), 4},
             {EM_POSFROMCHAR, 4, MAKELPARAM(fifth.x, first.y)}, {EM_POSFROMCHAR, 1000, -1},
             {EM_GETFIRSTVISIBLELINE, 0}, {EM_LINESCROLL, 0, 10, of(0, 1)},
             {EM_GETFIRSTVISIBLELINE, of(0, 10)}, {EM_SCROLL, SB_LINEUP, of(0U, MAKELONG(-1, TRUE))},
-            {EM_SCROLL, 99, 0}, {EM_LINESCROLL, INT_MIN, INT_MIN, of(0, 1)}, {EM_GETTHUMB, 0},
+            {EM_LINESCROLL, INT_MIN, INT_MIN, of(0, 1)}, {EM_GETTHUMB, 0},
             {EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(7, 9), 0},
-            {EM_GETMARGINS, MAKELONG(7, 9)}, {EM_GETRECT, 0, at<tagRECT>(&got), 0}, {EM_GETRECT, 0},
-        });
-        // clang-format on
-        EXPECT_EQ(got, CRect_E(kRect));
-        EXPECT_EQ(edit.CharFromPos(edit.PosFromChar(9)), of(0, 0x10009));
-        EXPECT_EQ(edit.PosFromChar(0).x, first.x + 7);
-        // clang-format off
-        runSteps(edit, {
             {EM_SETMARGINS, EC_LEFTMARGIN, MAKELPARAM(3, 4), 0}, {EM_GETMARGINS, MAKELONG(3, 9)},
-            {EM_SETRECT, 0, at<tagRECT>(&place), 0}, {EM_SETRECT, 0},
-            {"geometry", QRect(3, 4, 100, 50)},
         });
         // clang-format on
+        EXPECT_EQ(edit.CharFromPos(edit.PosFromChar(9)), of(0, 0x10009));
+        EXPECT_EQ(edit.PosFromChar(0).x, first.x + 3);
     });
 }
 
@@ -202,21 +155,21 @@ TEST(Edit, CharacterStyles)
 {
     QWidget parent;
     const Row<DWORD, const char*, const char*> rows[] = {
-        {ES_NUMBER, "1a2-", "12"}, {ES_UPPERCASE, "aB1", "AB1"}, {ES_LOWERCASE, "aB1", "ab1"},
-        {ES_READONLY, "a", ""},    {ES_PASSWORD, "ab", "ab"},
+        {ES_NUMBER, "1a2-", "12"},
+        {ES_UPPERCASE, "aB1", "AB1"},
+        {ES_LOWERCASE, "aB1", "ab1"},
+        {ES_PASSWORD, "ab", "ab"},
     };
     forRows(rows, [&](DWORD dwStyle, const char* pszTyped, const char* pszText) {
-        Edit edit;
+        CEdit_E edit;
         ASSERT_TRUE(edit.Create(dwStyle | ES_RIGHT, kRect, &parent));
         auto* const pLine = qobject_cast<QLineEdit*>(edit.GetSafeHwnd());
         QTest::keyClicks(pLine, QString::fromLatin1(pszTyped));
         EXPECT_EQ(pLine->text(), QString::fromLatin1(pszText));
         EXPECT_TRUE(pLine->alignment() & Qt::AlignRight);
         EXPECT_EQ(edit.GetPasswordChar() != 0, dwStyle == ES_PASSWORD);
-        EXPECT_EQ((edit.GetStyle() & ES_READONLY) != 0, dwStyle == ES_READONLY);
         edit.SetPasswordChar(0);
         EXPECT_FALSE(edit.GetPasswordChar() || edit.GetStyle() & ES_PASSWORD);
-        runSteps(edit, {{EM_SETPASSWORDCHAR, L'#', 0}, {EM_GETPASSWORDCHAR, L'#'}});
     });
 }
 
@@ -255,7 +208,7 @@ TEST(Edit, ScrollBarsOfTheWindow)
     edit.LineScroll(-3);
     EXPECT_EQ(edit.GetScrollPos(SB_VERT), pInner->value());
     EXPECT_LT(pInner->value(), pInner->maximum());
-    EXPECT_EQ(edit.GetMargins(), 0U);
+    EXPECT_EQ(edit.GetMargins(), 0U) << "the room of the bar is none";
 }
 
 } // namespace

@@ -13,22 +13,18 @@ TEST(ListBox, Selection)
     // clang-format off
     const Steps one = {
         {LB_SETCURSEL, 1, 1}, {LB_GETSEL, 1, 1}, {LB_GETSEL, 0, 0}, {LB_GETSEL, 4, -1},
-        {LB_GETSELITEMS, 9, at(rows), 1}, {LB_GETSELITEMS, -1, at(rows), 0}, {LB_GETSELCOUNT, -1},
-        {LB_SETSEL, TRUE, 2, -1}, {LB_SETSEL, TRUE, -1, -1},
-        {LB_SELITEMRANGE, TRUE, MAKELPARAM(0, 1), -1}, {LB_SETCARETINDEX, 2, 0},
-        {LB_GETCARETINDEX, 2}, {LB_SETCARETINDEX, 4, -1}, {"a,b*,c,d"_q},
-        {LB_SETITEMHEIGHT, 1, 44, 0}, {LB_GETITEMHEIGHT, 1, 44}, {LB_SETITEMHEIGHT, 9, 44, -1},
-        {LB_SETTABSTOPS, 1, 0}, {LB_SETHORIZONTALEXTENT, 500, 0}, {LB_GETLISTBOXINFO, 0},
+        {LB_GETSELITEMS, -1, at(rows), 0}, {LB_GETSELCOUNT, -1}, {LB_SETSEL, TRUE, 2, -1},
+        {LB_SETSEL, TRUE, -1, -1}, {LB_SETCARETINDEX, 2, 0}, {LB_GETCARETINDEX, 2},
+        {LB_SETCARETINDEX, 4, -1}, {"a,b*,c,d"_q},
+        {LB_SETITEMHEIGHT, 1, 44, 0}, {LB_GETITEMHEIGHT, 1, 44},
     };
     const Steps several = {
         {LB_SETSEL, FALSE, -1, 0}, {LB_SETSEL, TRUE, 3, 0}, {LB_SETSEL, TRUE, 1, 0},
         {LB_SETSEL, TRUE, 4, -1}, {"a,b*,c,d*"_q}, {LB_GETSELCOUNT, 2},
-        {LB_GETSELITEMS, 9, at(rows), 2}, {LB_GETSELITEMS, 1, at(rows), 1},
-        {LB_GETSELITEMS, 9, 0, 0}, {LB_SETSEL, FALSE, 1, 0},
+        {LB_GETSELITEMS, 9, at(rows), 2}, {LB_GETSELITEMS, 9, 0, 0}, {LB_SETSEL, FALSE, 1, 0},
         {LB_SELITEMRANGE, TRUE, MAKELPARAM(1, 2), 0}, {"a,b*,c*,d*"_q},
         {LB_SELITEMRANGEEX, 9, 2, 0}, {"a,b*,c,d"_q}, {LB_SELITEMRANGEEX, 2, 9, 0},
-        {"a,b*,c*,d*"_q}, {LB_SELITEMRANGE, FALSE, MAKELPARAM(2, 2), 0}, {LB_GETSELCOUNT, 2},
-        {LB_SETSEL, TRUE, -1, 0}, {LB_GETSELCOUNT, 4},
+        {"a,b*,c*,d*"_q}, {LB_SETSEL, TRUE, -1, 0}, {LB_GETSELCOUNT, 4},
         {LB_SELITEMRANGE, FALSE, MAKELPARAM(-5, 99), 0}, {"a,b,c,d"_q},
     };
     // clang-format on
@@ -36,7 +32,6 @@ TEST(ListBox, Selection)
         auto* const pList = qobject_cast<QListWidget*>(list.GetSafeHwnd());
         pList->addItems({"a"_q, "b"_q, "c"_q, "d"_q});
         runSteps(pList, one);
-        EXPECT_FALSE(list.SetTabStops(4));
         pList->setSelectionMode(QAbstractItemView::MultiSelection);
         runSteps(pList, several);
         EXPECT_EQ(10 * rows[0] + rows[1], 13);
@@ -58,18 +53,23 @@ TEST(ListBox, Selection)
     });
 }
 
-TEST(ListBox, StyleAndSorting)
+TEST(ListBox, StylePlacesAndSorting)
 {
-    QWidget parent;
-    for (const DWORD dwStyle : {LBS_MULTIPLESEL, LBS_STANDARD}) {
-        CListBox_E list;
-        ASSERT_TRUE(list.Create(dwStyle, kPlace, &parent));
-        auto* const pList = qobject_cast<QListWidget*>(list.GetSafeHwnd());
-        EXPECT_EQ(pList->selectionMode() == QAbstractItemView::SingleSelection,
-                  dwStyle == LBS_STANDARD);
-        EXPECT_EQ(list.GetStyle(), dwStyle);
-        EXPECT_FALSE(pList->findChild<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly));
-    }
+    CListBox_E list;
+    ASSERT_TRUE(list.Create(LBS_MULTIPLESEL | WS_VSCROLL, kPlace, static_cast<QWidget*>(nullptr)));
+    auto* const pList = qobject_cast<QListWidget*>(list.GetSafeHwnd());
+    EXPECT_EQ(pList->selectionMode(), QAbstractItemView::MultiSelection);
+    EXPECT_EQ(list.GetStyle(), LBS_MULTIPLESEL | WS_VSCROLL);
+    EXPECT_FALSE(pList->findChild<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly));
+
+    list.AddString(L"a");
+    list.AddString(L"b");
+    list.ShowWindow(SW_SHOW);
+    tagRECT first{}, rect{};
+    EXPECT_EQ(list.GetItemRect(0, &first) + list.GetItemRect(1, &rect), 0);
+    EXPECT_EQ(rect.top, first.bottom); // exclusive
+    EXPECT_EQ(list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(rect.left, rect.bottom - 1)), 1);
+    EXPECT_EQ(list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(rect.left, rect.bottom)), 0x1FFFF);
     QListWidget sorted; // by its form
     sorted.setSortingEnabled(true);
     // clang-format off
@@ -81,46 +81,36 @@ TEST(ListBox, StyleAndSorting)
     // clang-format on
 }
 
-TEST(CheckListBox, EveryMember)
+TEST(CheckListBox, ChecksAndStyles)
 {
-    QWidget parent;
-    QListWidget found;
-    CCheckListBox_E lists[2];
-    ASSERT_TRUE(lists[0].Create(LBS_STANDARD, kPlace, &parent) && lists[1].SubclassWindow(&found));
-    for (CCheckListBox_E& list : lists) {
-        auto* const pList = qobject_cast<QListWidget*>(list.GetSafeHwnd());
-        list.AddString(L"a");
-        list.InsertString(0, L"b");
-        pList->addItem("c"_q); // as from a form
-        EXPECT_EQ(pList->item(1)->data(Qt::CheckStateRole), QVariant(Qt::Unchecked));
-        for (const auto& [nSet, nGot, state] : {Row<int, int, Qt::CheckState>{0, 0, Qt::Unchecked},
-                                                {1, 1, Qt::Checked},
-                                                {2, 2, Qt::PartiallyChecked},
-                                                {0, 0, Qt::Unchecked},
-                                                {-1, 2, Qt::PartiallyChecked}}) {
-            list.SetCheck(1, nSet);
-            EXPECT_EQ(list.GetCheck(1), nGot);
-            EXPECT_EQ(pList->item(1)->checkState(), state);
-        }
-        list.SetCheck(3, 1);
-        EXPECT_TRUE(list.GetCheck(2) == 0 && list.GetCheck(3) == 2);
-        EXPECT_TRUE(list.IsEnabled(0));
-        list.Enable(0, FALSE);
-        EXPECT_FALSE(list.IsEnabled(0) || list.IsEnabled(3));
-        EXPECT_FALSE(pList->item(0)->flags().testFlag(Qt::ItemIsEnabled));
-        EXPECT_EQ(list.GetCheckStyle(), BS_AUTOCHECKBOX);
-        constexpr auto three = Qt::ItemIsUserCheckable | Qt::ItemIsUserTristate;
-        for (const auto& [nStyle, flags] : {Row<UINT, Qt::ItemFlags>{BS_CHECKBOX, {}},
-                                            {BS_3STATE, {}},
-                                            {BS_AUTO3STATE, three},
-                                            {BS_AUTOCHECKBOX, Qt::ItemIsUserCheckable}}) {
-            list.SetCheckStyle(nStyle);
-            EXPECT_EQ(list.GetCheckStyle(), nStyle);
-            for (const int nRow : {2, list.AddString(L"new")})
-                EXPECT_EQ(pList->item(nRow)->flags() & three, flags) << nStyle;
-        }
-        EXPECT_EQ(list.GetCheck(1), 2); // kept
+    QListWidget widget;
+    CCheckListBox_E list;
+    ASSERT_TRUE(list.SubclassWindow(&widget));
+    list.AddString(L"a");
+    list.InsertString(0, L"b");
+    widget.addItem("c"_q); // as from a form
+    const QListWidgetItem& item = *widget.item(1);
+    EXPECT_EQ(item.data(Qt::CheckStateRole), QVariant(Qt::Unchecked));
+    for (const int nSet : {1, 2, 0, -1}) {
+        list.SetCheck(1, nSet);
+        EXPECT_EQ(list.GetCheck(1), nSet < 0 ? 2 : nSet);
     }
+    EXPECT_EQ(item.checkState(), Qt::PartiallyChecked);
+    list.SetCheck(3, 1);
+    EXPECT_TRUE(list.GetCheck(2) == 0 && list.GetCheck(3) == 2);
+    list.Enable(0, FALSE);
+    EXPECT_TRUE(list.IsEnabled(1) && !list.IsEnabled(0) && !list.IsEnabled(3));
+    EXPECT_EQ(list.GetCheckStyle(), BS_AUTOCHECKBOX);
+    constexpr auto three = Qt::ItemIsUserCheckable | Qt::ItemIsUserTristate;
+    for (const auto& [nStyle, flags] : {Row<UINT, Qt::ItemFlags>{BS_3STATE, {}},
+                                        {BS_AUTO3STATE, three},
+                                        {BS_AUTOCHECKBOX, Qt::ItemIsUserCheckable}}) {
+        list.SetCheckStyle(nStyle);
+        EXPECT_EQ(list.GetCheckStyle(), nStyle);
+        for (const int nRow : {2, list.AddString(L"new")})
+            EXPECT_EQ(widget.item(nRow)->flags() & three, flags) << nStyle;
+    }
+    EXPECT_EQ(list.GetCheck(1), 2); // kept
 }
 
 } // namespace
