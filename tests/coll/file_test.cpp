@@ -248,7 +248,8 @@ TEST_F(FileTest, Ranges)
     CFile_E first(Make("0123456789"), kBoth | F::shareDenyNone);
     CFile_E second(Path(), kBoth | F::shareDenyNone);
     first.LockRange(2, 3);
-    first.LockRange(5, 0); // nothing
+    for (const ULONGLONG pos : {3U, 8U})
+        first.LockRange(pos, 0); // nothing
     const Row<ULONGLONG, ULONGLONG, Failure> rows[] = {{0, 2, kNoFailure}, {0, 3, kLocked},
                                                        {4, 1, kLocked},    {5, 1, kNoFailure},
                                                        {0, all, kLocked},  {all, 1, kBadNumber}};
@@ -261,7 +262,7 @@ TEST_F(FileTest, Ranges)
     EXPECT_EQ(failureOf([&] { first.UnlockRange(2, 2); }).second, ERROR_NOT_LOCKED);
     first.UnlockRange(2, 3);
     second.LockRange(0, 5);
-    first.LockRange(7, 1);
+    first.LockRange(7, 3);
     EXPECT_TRUE(first.Open(Path(), kBoth | F::shareDenyNone));
     first.LockRange(7, 1); // what it had locked is forgotten
     first.Close();

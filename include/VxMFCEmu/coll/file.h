@@ -156,8 +156,8 @@ class VXMFC_EXPORT CFile_E : public CObject_E
     /// Cuts or extends the file, with zeros, and moves to its new end.
     virtual void SetLength(ULONGLONG dwNewLen);
     /// Locks a range, which may lie beyond the end; one that overlaps a locked one is a lock
-    /// violation. Differs from Win32: reading and writing do not look at locks, and a file opened
-    /// only for reading locks out only those that are not.
+    /// violation, and an empty one overlaps none. Differs from Win32: reading and writing do not
+    /// look at locks, and a file opened only for reading locks out only those that are not.
     virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
     /// Unlocks a range that is exactly one that was locked.
     virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
