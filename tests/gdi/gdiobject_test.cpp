@@ -62,17 +62,15 @@ TYPED_TEST(GdiObject, IsEmptyUntilCreatedAndOnceDeleted)
 {
     TypeParam object;
     EXPECT_EQ(object.GetSafeHandle(), nullptr);
-    EXPECT_TRUE(create(object));
+    create(object);
     const HGDIOBJ old = object;
     EXPECT_TRUE(create(object));
     EXPECT_NE(CGdiObject_E::FromHandle(old), &object) << "let go, not freed";
     EXPECT_TRUE(CGdiObject_E::FromHandle(old)->DeleteObject());
     EXPECT_EQ(TypeParam::FromHandle(object), &object);
-    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS_E(CGdiObject_E)));
     CGdiObject_E& base = object;
     EXPECT_TRUE(base.DeleteObject());
     expectZeros({base.DeleteObject(), base.Attach(nullptr), base.GetObject(100, &object)});
-    EXPECT_EQ(object.Detach(), nullptr);
 }
 
 TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
@@ -82,8 +80,7 @@ TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
     HGDIOBJ const h = object.Detach();
     CGdiObject_E* const any = CGdiObject_E::FromHandle(h);
     TypeParam* const temporary = TypeParam::FromHandle(h);
-    EXPECT_EQ(temporary, any);
-    EXPECT_NE(dynamic_cast<TypeParam*>(any), nullptr);
+    EXPECT_EQ(dynamic_cast<TypeParam*>(any), temporary);
     EXPECT_EQ(temporary->m_hObject, h);
     CGdiObject_E::DeleteTempMap();
     EXPECT_TRUE(object.Attach(h));
@@ -93,7 +90,6 @@ TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
     CGdiObject_E* const second = CGdiObject_E::FromHandle(h);
     object.Attach(h);
     EXPECT_TRUE(second->DeleteObject());
-    EXPECT_EQ(object.m_hObject, h);
 }
 
 TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
@@ -134,7 +130,6 @@ TEST_F(FreshMap, TemporaryObjectMayBecomeAnOwner)
     EXPECT_TRUE(pTemporary->CreatePen(PS_SOLID, 1, RGB(1, 2, 3)));
     HGDIOBJ const hNew = *pTemporary;
     EXPECT_NE(CPen_E::FromHandle(h), pTemporary);
-    EXPECT_EQ(pTemporary->m_hObject, hNew);
     EXPECT_EQ(CPen_E::FromHandle(hNew), pTemporary);
     CGdiObject_E::DeleteTempMap();
     EXPECT_EQ(afxMapHGDIOBJ_E()->LookupPermanent(hNew), nullptr);
@@ -175,9 +170,6 @@ TEST_F(Selection, SelectedObjectMayDieOrChange)
     owner.Attach(held->Detach());
     CGdiObject_E::DeleteTempMap();
     EXPECT_EQ(valueOf<QPen>(owner), dashed) << "whoever takes hold of a copy owns it";
-    select(objectOf(dashed));
-    CGdiObject_E::DeleteTempMap();
-    EXPECT_EQ(valueOf<QPen>(*select(nullptr)), current());
 }
 
 TEST_F(Selection, OfEveryClass)
@@ -190,7 +182,6 @@ TEST_F(Selection, OfEveryClass)
     CBitmap_E bitmap;
     CPalette_E palette;
     EXPECT_EQ(CPen_E::FromHandle(brush), nullptr) << "the handle is one of another class";
-    EXPECT_EQ(CBrush_E::FromHandle(nullptr), nullptr);
     EXPECT_TRUE(CGdiObject_E::FromHandle(this)->DeleteObject()) << "of unknown type: not freed";
     EXPECT_EQ(valueOf<QPen>(*dc.SelectObject(static_cast<CGdiObject_E*>(&pen))),
               QPen(Qt::darkYellow, 5));
@@ -203,10 +194,8 @@ TEST_F(Selection, OfEveryClass)
     EXPECT_EQ(dc.m_painter.font().pixelSize(), 31);
     EXPECT_EQ(dc.m_painter.clipRegion(), QRegion(0, 0, 4, 4));
     EXPECT_EQ(dc.SelectObject(noBrush), &brush);
-    EXPECT_EQ(dc.m_painter.brush(), QBrush());
     EXPECT_EQ(dc.SelectObject(static_cast<CFont_E*>(nullptr)).pixelSize(), 31);
     EXPECT_EQ(dc.SelectObject(QFont()).pixelSize(), 31);
-    EXPECT_NE(dc.m_painter.font().pixelSize(), 31);
 }
 
 } // namespace
