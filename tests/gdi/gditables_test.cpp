@@ -42,18 +42,4 @@ TEST(GdiTables, StylesOfPensAndBrushes)
     });
 }
 
-TEST(GdiTables, BitDepths)
-{
-    using I = QImage;
-    constexpr Row<int, I::Format> kListed[] = {
-        {1, I::Format_Mono},   {4, I::Format_Indexed8},  {8, I::Format_Grayscale8},
-        {16, I::Format_RGB16}, {32, I::Format_RGBX8888}, {24, I::Format_Invalid},
-    };
-    forRows(kListed, [](int depth, I::Format expected) {
-        I::Format format = I::Format_Invalid;
-        EXPECT_EQ(bitDepthIsCorrrect(depth, format), expected != I::Format_Invalid);
-        EXPECT_EQ(format, expected);
-    });
-}
-
 } // namespace
