@@ -67,19 +67,13 @@ TEST(Fonts, PointSizesAreTenthsAndFailuresKeepTheHandle)
     expectZeros({font.CreatePointFont(0, L""), font.CreatePointFontIndirect(nullptr),
                  font.CreateFontIndirect(nullptr), CFont_E().GetLogFont(&out)});
     EXPECT_EQ(font.m_hObject, h);
-    EXPECT_TRUE(font.CreatePointFont(100, nullptr));
-    EXPECT_EQ(font.family(), QFont().family());
-}
-
-TEST(Fonts, HandleIsAFont)
-{
-    CFont_E owner;
-    owner.Attach(new QFont(QStringLiteral("DejaVu Sans"), 17));
-    tagLOGFONT out{};
-    EXPECT_EQ(owner.GetLogFont(&out), 1);
+    EXPECT_DOUBLE_EQ(CFont_E::FromHandle(font.Detach())->pointSizeF(), 9.5) << "the temporary one";
+    CFont_E attached;
+    attached.Attach(h);
+    EXPECT_EQ(attached.GetLogFont(&out), 1);
     EXPECT_STREQ(out.lfFaceName, L"DejaVu Sans");
-    const HGDIOBJ h = owner.Detach();
-    EXPECT_EQ(CFont_E::FromHandle(h)->pointSize(), 17) << "the temporary object too";
+    EXPECT_TRUE(attached.CreatePointFont(100, nullptr));
+    EXPECT_EQ(attached.family(), QFont().family());
     EXPECT_TRUE(CFont_E::FromHandle(h)->DeleteObject());
     CGdiObject_E::DeleteTempMap();
 }
