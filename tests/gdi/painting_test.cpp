@@ -132,8 +132,8 @@ TEST_F(Painting, SecondPainterOfAPaintMessageLeavesTheFirstAlone)
         QImage rendered(100, 80, QImage::Format_RGB32);
         pWidget->render(&rendered);
         EXPECT_EQ(rendered.pixelColor(20, 20), QColor(Qt::red));
-        for (const QImage& image : {rendered, pWidget->grab().toImage()})
-            EXPECT_EQ(image.pixelColor(50, 20), QColor(Qt::blue));
+        EXPECT_EQ(rendered.pixelColor(50, 20), QColor(Qt::blue));
+        EXPECT_EQ(pWidget->grab().toImage().pixelColor(50, 20), QColor(Qt::blue));
     };
     view.paint = [&] {
         CPaintDC_E dc(&view);
@@ -176,7 +176,6 @@ TEST_F(Painting, ClientContextReachesTheScreenAtOnce)
 {
     view.paint = [this] { CPaintDC_E(&view).FillSolidRect(0, 0, 100, 80, RGB(0, 128, 0)); };
     repaint();
-    view.log.clear();
     QImage expected = shown(*pWidget);
     QPainter painter(&expected);
     painter.fillRect(90, 70, 5, 5, QColor(1, 2, 3)); // by a second one meanwhile
@@ -193,7 +192,7 @@ TEST_F(Painting, ClientContextReachesTheScreenAtOnce)
         painter.drawLine(3, 3, 80, 60);
         EXPECT_EQ(shown(*pWidget), expected);
     }
-    EXPECT_EQ(view.log, QString()); // nobody was asked to paint
+    EXPECT_EQ(view.log, "ep"_q); // nobody was asked to paint again
 }
 
 TEST_F(Painting, WidgetThatDiesLeavesAnInactivePainter)
@@ -204,17 +203,15 @@ TEST_F(Painting, WidgetThatDiesLeavesAnInactivePainter)
         void paintEvent(QPaintEvent*) override
         {
             CDC_E dc(this);
-            active = {dc.m_painter.isActive()};
+            const bool began = dc.m_painter.isActive();
             Q_EMIT destroyed(this); // as its destructor does
-            active.append(dc.m_painter.isActive());
+            ended = began && !dc.m_painter.isActive();
             dc.LineTo(3, 3);
         }
-        QVector<bool> active;
-    };
-    auto* const pDying = new Dying(&top);
-    pDying->show();
-    EXPECT_TRUE(vxtest::waitUntil([&] { return !pDying->active.isEmpty(); }));
-    EXPECT_EQ(pDying->active, QVector<bool>({true, false}));
+        bool ended = false;
+    } dying(&top);
+    dying.show();
+    EXPECT_TRUE(vxtest::waitUntil([&] { return dying.ended; }));
 }
 
 TEST_F(Painting, ControlColorsAreAskedOfTheWindowAround)
