@@ -107,8 +107,6 @@ const Case kCases[] = {
                [](P& p) { p.translate(7, 3); fillPath(p, QBrush(Qt::red, Qt::DiagCrossPattern)); }},
     {__LINE__, [](C& c) { c.m_painter.scale(1.3, 0.7); c.FillRgn(&lShape(), &green()); c.PaintRgn(&lShape()); },
                [](P& p) { p.scale(1.3, 0.7); fillPath(p, kGreen); }},
-    {__LINE__, [](C& c) { CBrush_E b; b.Attach(new QBrush(QRadialGradient(20, 20, 9))); c.m_painter.setRenderHint(P::Antialiasing); c.m_painter.translate(0.5, 0.5); c.FillRgn(&lShape(), &b); },
-               [](P& p) { p.setRenderHint(P::Antialiasing); p.translate(0.5, 0.5); fillPath(p, QBrush(QRadialGradient(20, 20, 9))); }},
     {__LINE__, [](C& c) { c.FrameRgn(&lShape(), &green(), 3, 2); },
                [](P& p) { p.fillRect(2, 3, 36, 34, kGreen); p.drawImage(5, 5, canvas(QImage::Format_RGB32), 5, 5, 30, 30); }},
     {__LINE__, [](C& c) { c.InvertRgn(&lShape()); c.FillSolidRect(0, 0, 60, 50, Qt::red); },
