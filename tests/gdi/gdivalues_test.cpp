@@ -45,16 +45,15 @@ TEST(Brushes, AreMadeInAllForms)
 // Intended: whatever the index.
 TEST(Brushes, SystemColorBrushIsTheMainFramesBackground)
 {
-    CBrush_E none;
-    EXPECT_TRUE(none.CreateSysColorBrush(COLOR_BTNFACE));
-    EXPECT_EQ(valueOf<QBrush>(none), QBrush());
+    CBrush_E brush;
+    EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_BTNFACE));
+    EXPECT_EQ(valueOf<QBrush>(brush), QBrush()) << "there is none";
     QMainWindow frame;
     frame.setObjectName(QStringLiteral("CTolmMainFrame"));
     QPalette palette(Qt::cyan);
     palette.setColor(QPalette::Disabled, QPalette::Window, Qt::magenta);
     frame.setPalette(palette);
     frame.setEnabled(false);
-    CBrush_E brush;
     EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_HIGHLIGHT));
     EXPECT_EQ(valueOf<QBrush>(brush), QBrush(Qt::magenta));
 }
@@ -77,14 +76,10 @@ TEST(Bitmaps, AreMadeAndLoaded)
     EXPECT_EQ(bitmap.GetBitmapDimension(), CSize_E(5, 3)) << "Intended: it keeps its size";
 
     QTemporaryDir folder;
-    CBitmap_E saved;
-    EXPECT_TRUE(saved.CreateDiscardableBitmap(nullptr, 2, 2));
-    valueOf<QImage>(saved).fill(QColor(1, 2, 3));
     const QString path = folder.filePath("ä.bmp"_q);
-    EXPECT_TRUE(valueOf<QImage>(saved).save(path));
-    CBitmap_E loaded;
-    ASSERT_TRUE(loaded.LoadBitmap(path.toStdWString().c_str()));
-    EXPECT_EQ(valueOf<QImage>(loaded).pixelColor(1, 1), QColor(1, 2, 3));
+    EXPECT_TRUE(valueOf<QImage>(Bitmap(2, 2, QColor(1, 2, 3))).save(path));
+    ASSERT_TRUE(bitmap.LoadBitmap(path.toStdWString().c_str()));
+    EXPECT_EQ(valueOf<QImage>(bitmap).pixelColor(1, 1), QColor(1, 2, 3));
 }
 
 TEST(Bitmaps, BitsAreCountedTwiceCopiedOnceAndSetInPlace)
