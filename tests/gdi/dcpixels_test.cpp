@@ -111,11 +111,9 @@ const Case kCases[] = {
                [](P& p) { p.fillRect(2, 3, 36, 34, kGreen); p.drawImage(5, 5, canvas(QImage::Format_RGB32), 5, 5, 30, 30); }},
     {__LINE__, [](C& c) { c.InvertRgn(&lShape()); c.FillSolidRect(0, 0, 60, 50, Qt::red); },
                [](P& p) { p.setClipRegion(lRegion()); p.fillRect(0, 0, 60, 50, Qt::white); p.fillRect(0, 0, 60, 50, Qt::cyan); }},
-    // Text, in its colour whatever the pen. A plain pen is left behind; the format holds Qt flags; the count cuts.
+    // Text, in its colour whatever the pen. A plain pen is left behind; the format holds Qt flags.
     {__LINE__, [](C& c) { c.SelectObject(QPen(Qt::blue, 3)); c.SetTextColor(RGB(255, 0, 0)); auto r = rect(2, 2, 50, 40); c.DrawText(kWide, -1, &r, Qt::AlignRight); c.Rectangle(1, 1, 58, 48); },
                [](P& p) { p.setPen(Qt::red); p.drawText(corners(2, 2, 49, 39), Qt::AlignRight, kText); p.setPen(Qt::blue); p.drawRect(corners(1, 1, 57, 47)); }},
-    {__LINE__, [](C& c) { auto r = rect(2, 2, 50, 40); c.SelectObject(QPen(Qt::blue, 3)); c.DrawText(kWide, 3, &r, 0); c.LineTo(30, 49); },
-               [](P& p) { p.setPen(QPen(Qt::blue, 3)); p.drawText(corners(2, 2, 49, 39), 0, QStringLiteral("Two")); p.setPen(Qt::blue); p.drawLine(0, 0, 30, 49); }},
     {__LINE__, [](C& c) { auto r = rect(2, 2, 50, 40); c.SelectObject(QPen(Qt::blue, 3)); DrawTextA(&c, kWide, 3, &r, 0); DrawTextW(&c, L"Whole", 1, &r, Qt::AlignBottom); c.LineTo(30, 49); },
                [](P& p) { p.setPen(Qt::blue); p.drawText(corners(2, 2, 49, 39), 0, QStringLiteral("Two")); p.drawText(corners(2, 2, 49, 39), Qt::AlignBottom, QStringLiteral("Whole")); p.drawLine(0, 0, 30, 49); }},
     {__LINE__, [](C& c) { auto r = rect(0, 0, 60, 50); c.SetTextColor(RGB(0, 0, 0)); c.SelectObject(QPen(Qt::NoPen)); c.DrawText(kWide, -1, &r, 0); c.SelectObject(QPen(Qt::transparent)); c.DrawText(kWide, -1, &r, Qt::AlignRight); },
