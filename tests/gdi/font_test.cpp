@@ -26,8 +26,7 @@ TEST(Fonts, HeightsAndWeights)
         EXPECT_EQ(Font(height).pointSizeF() == QFont().pointSizeF(), height == 0) << height;
 
     constexpr Row<int, int> kRows[] = {
-        {FW_DONTCARE, 50}, {100, 0},  {200, 12}, {300, 25}, {400, 50}, {500, 57},
-        {600, 63},         {700, 75}, {800, 81}, {900, 87}, {720, 75}, {5000, 87},
+        {FW_DONTCARE, 50}, {100, 0}, {300, 25}, {700, 75}, {720, 75}, {5000, 87},
     };
     forRows(kRows, [](int win, int qt) { EXPECT_EQ(Font(-12, win).weight(), qt); });
 }
