@@ -54,6 +54,7 @@ TEST(Brushes, SystemColorBrushIsTheMainFramesBackground)
     palette.setColor(QPalette::Disabled, QPalette::Window, Qt::magenta);
     frame.setPalette(palette);
     frame.setEnabled(false);
+    brush.DeleteObject();
     EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_HIGHLIGHT));
     EXPECT_EQ(valueOf<QBrush>(brush), QBrush(Qt::magenta));
 }
@@ -78,6 +79,7 @@ TEST(Bitmaps, AreMadeAndLoaded)
     QTemporaryDir folder;
     const QString path = folder.filePath("ä.bmp"_q);
     EXPECT_TRUE(valueOf<QImage>(Bitmap(2, 2, QColor(1, 2, 3))).save(path));
+    bitmap.DeleteObject();
     ASSERT_TRUE(bitmap.LoadBitmap(path.toStdWString().c_str()));
     EXPECT_EQ(valueOf<QImage>(bitmap).pixelColor(1, 1), QColor(1, 2, 3));
 }
