@@ -76,7 +76,7 @@ TEST_F(DcValues, OfOriginsAndExtents)
     EXPECT_EQ(dc.SetMapMode(MM_TEXT), MM_LOENGLISH);
     dc.SetViewportOrg(10, 20);
     EXPECT_EQ(dc.OffsetViewportOrg(1, 1), (CPoint_E(10, 20)));
-    dc.SetWindowOrg(1, 2);
+    dc.OffsetWindowOrg(1, 2);
     dc.LPtoDP(points, 2);
     EXPECT_EQ(CPoint_E(points[1]), (CPoint_E(15, 24)));
     dc.DPtoLP(points, 2);
