@@ -76,8 +76,8 @@ const Case kCases[] = {
                [](P& p) { p.drawPolyline(kQPoints, 4); p.drawPolygon(kQPoints + 3, 4, Qt::OddEvenFill); }},
     {__LINE__, [](C& c) { c.SetPolyFillMode(WINDING); c.SelectObject(&green()); c.Polygon(kPoints, 7); },
                [](P& p) { p.setBrush(kGreen); p.drawPolygon(kQPoints, 7, Qt::WindingFill); }},
-    {__LINE__, [](C& c) { c.PolyBezier(kPoints + 1, 4); c.MoveTo(3, 3); c.PolyBezierTo(kPoints + 1, 6); c.PolylineTo(kPoints, 2); c.LineTo(0, 49); },
-               [](P& p) { QPainterPath a(kQPoints[1]), b(kQPoints[0]); a.cubicTo(kQPoints[2], kQPoints[3], kQPoints[4]); p.drawPath(a);
+    {__LINE__, [](C& c) { c.MoveTo(3, 3); c.PolyBezierTo(kPoints + 1, 6); c.PolylineTo(kPoints, 2); c.LineTo(0, 49); },
+               [](P& p) { QPainterPath b(kQPoints[0]);
                           b.cubicTo(kQPoints[1], kQPoints[2], kQPoints[3]); b.cubicTo(kQPoints[4], kQPoints[5], kQPoints[6]); p.drawPath(b);
                           p.drawLine(55, 48, 3, 3); p.drawLine(3, 3, 40, 8); p.drawLine(40, 8, 0, 49); }},
     {__LINE__, [](C& c) { c.Arc(10, 10, 30, 30, 40, 20, 20, 0); c.Pie(30, 20, 50, 40, 20, 30, 40, 60); },
