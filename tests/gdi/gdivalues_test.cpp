@@ -7,67 +7,55 @@ TEST(Pens, AreMadeFromStyleWidthAndColor)
 {
     const tagLOGBRUSH logBrush{BS_SOLID, 0x112233, 0};
     const tagLOGPEN logPen{PS_DASHDOT, {4, 9}, 0x112233};
-    CPen_E pens[] = {{PS_DASHDOT, 4, 0x112233U}, {PS_DASHDOT, 4, &logBrush}, {}};
-    pens[2].CreatePenIndirect(&logPen);
-    // Intended: the second one in the other order.
-    const COLORREF colors[] = {0x112233, 0x332211, 0x112233};
+    CPen_E pen, reversed(PS_DASHDOT, 4, &logBrush);
+    pen.CreatePenIndirect(&logPen);
+    EXPECT_EQ(valueOf<QPen>(pen), QPen(QColor(0x33, 0x22, 0x11), 4, Qt::DashDotLine));
+    EXPECT_EQ(valueOf<QPen>(reversed).color(), QColor(0x11, 0x22, 0x33)) << "Intended";
     tagLOGPEN out{};
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(pens[i].GetLogPen(&out), 1);
-        const tagLOGPEN expected{PS_DASHDOT, {4, 0}, colors[i]};
-        EXPECT_EQ(memcmp(&out, &expected, sizeof(out)), 0) << i;
-        EXPECT_EQ(valueOf<QPen>(pens[i]), QPen(VxColor(colors[i]), 4, Qt::DashDotLine));
-    }
-    const HGDIOBJ h = pens[0];
-    expectZeros({pens[0].CreatePenIndirect(nullptr), pens[0].GetLogPen(nullptr),
-                 pens[0].CreatePen(PS_SOLID, 1, static_cast<tagLOGBRUSH*>(nullptr)),
-                 pens[0].GetExtLogPen(nullptr), CPen_E().GetLogPen(&out)});
-    EXPECT_EQ(pens[0].m_hObject, h) << "failures keep it";
+    EXPECT_EQ(pen.GetLogPen(&out), 1);
+    EXPECT_TRUE(out.lopnStyle == PS_DASHDOT && out.lopnWidth.x == 4 && out.lopnColor == 0x112233);
+    const HGDIOBJ h = pen;
+    expectZeros({pen.CreatePenIndirect(nullptr), CPen_E().GetLogPen(&out),
+                 pen.CreatePen(PS_SOLID, 1, static_cast<tagLOGBRUSH*>(nullptr))});
+    EXPECT_EQ(pen.m_hObject, h) << "failures keep it";
 }
 
 TEST(Brushes, AreMadeInAllForms)
 {
     Bitmap bitmap(8, 8, Qt::red);
     CBitmap_E empty;
-    const tagLOGBRUSH solid{BS_SOLID, 0x112233, 5}, hatched{BS_HATCHED, 0x112233, HS_CROSS},
-        null{BS_NULL, 0, 0}, pattern{BS_PATTERN, 0, 0};
-    CBrush_E brushes[] = {
-        CBrush_E(0x112233U), {HS_FDIAGONAL, 0x112233}, {77, 0x112233}, CBrush_E(&bitmap), {}, {}};
-    EXPECT_TRUE(brushes[4].CreateBrushIndirect(&solid) && brushes[5].CreateBrushIndirect(&hatched));
-    const tagLOGBRUSH expected[] = {{BS_SOLID, 0x112233, 0}, {BS_HATCHED, 0x112233, 2},
-                                    {BS_NULL, 0x112233, 0},  {BS_PATTERN, 0, 0},
-                                    {BS_SOLID, 0x112233, 0}, {BS_HATCHED, 0x112233, 4}};
+    const tagLOGBRUSH solid{BS_SOLID, 0x112233, 0}, hatched{BS_HATCHED, 0x112233, HS_CROSS},
+        pattern{BS_PATTERN, 0, 0};
+    CBrush_E brushes[] = {{77, 0x112233}, CBrush_E(&bitmap), {}, {}};
+    EXPECT_TRUE(brushes[2].CreateBrushIndirect(&solid) && brushes[3].CreateBrushIndirect(&hatched));
+    const tagLOGBRUSH expected[] = {
+        {BS_NULL, 0x112233, 0}, {BS_PATTERN, 0, 0}, solid, {BS_HATCHED, 0x112233, 4}};
     tagLOGBRUSH out{};
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(brushes[i].GetLogBrush(&out), 1);
         EXPECT_EQ(memcmp(&out, &expected[i], sizeof(out)), 0) << i;
     }
-    CBrush_E& brush = brushes[4];
+    CBrush_E& brush = brushes[2];
     const HGDIOBJ h = brush;
-    expectZeros({brush.CreatePatternBrush(nullptr), brush.CreatePatternBrush(&empty),
-                 brush.CreateBrushIndirect(nullptr), brush.CreateBrushIndirect(&null),
-                 brush.CreateBrushIndirect(&pattern), brush.GetLogBrush(nullptr),
-                 CBrush_E(&empty).GetLogBrush(&out)});
+    expectZeros({brush.CreatePatternBrush(&empty), brush.CreateBrushIndirect(nullptr),
+                 brush.CreateBrushIndirect(&pattern), CBrush_E(&empty).GetLogBrush(&out)});
     EXPECT_EQ(brush.m_hObject, h);
 }
 
 // Intended: whatever the index.
 TEST(Brushes, SystemColorBrushIsTheMainFramesBackground)
 {
-    CBrush_E none;
-    EXPECT_TRUE(none.CreateSysColorBrush(COLOR_BTNFACE));
-    EXPECT_EQ(valueOf<QBrush>(none), QBrush());
+    CBrush_E brush;
+    EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_BTNFACE));
+    EXPECT_EQ(valueOf<QBrush>(brush), QBrush()) << "there is none";
     QMainWindow frame;
     frame.setObjectName(QStringLiteral("CTolmMainFrame"));
-    QPalette palette(Qt::cyan);
-    palette.setColor(QPalette::Disabled, QPalette::Window, Qt::magenta);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::magenta);
     frame.setPalette(palette);
-    for (const auto group : {QPalette::Active, QPalette::Disabled}) {
-        frame.setEnabled(group == QPalette::Active);
-        CBrush_E brush;
-        EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_HIGHLIGHT));
-        EXPECT_EQ(valueOf<QBrush>(brush), palette.brush(group, QPalette::Window));
-    }
+    brush.DeleteObject();
+    EXPECT_TRUE(brush.CreateSysColorBrush(COLOR_HIGHLIGHT));
+    EXPECT_EQ(valueOf<QBrush>(brush), QBrush(Qt::magenta));
 }
 
 TEST(Bitmaps, AreMadeAndLoaded)
@@ -77,28 +65,22 @@ TEST(Bitmaps, AreMadeAndLoaded)
     EXPECT_TRUE(bitmap.CreateBitmapIndirect(&form));
     tagBITMAP out{};
     EXPECT_EQ(bitmap.GetBitmap(&out), 1);
-    EXPECT_TRUE(out.bmWidth == 5 && out.bmHeight == 3 && out.bmWidthBytes == 12 && out.bmType == 0);
-    EXPECT_TRUE(out.bmPlanes == 1 && out.bmBitsPixel == 16);
-    EXPECT_EQ(out.bmBits, valueOf<QImage>(bitmap).bits());
+    EXPECT_EQ(std::tuple(out.bmWidth, out.bmHeight, out.bmWidthBytes, out.bmBitsPixel),
+              std::tuple(5, 3, 12, 16));
     const HGDIOBJ h = bitmap;
     expectZeros({bitmap.CreateBitmap(16, 16, 1, 24, &out), bitmap.CreateBitmapIndirect(nullptr),
-                 bitmap.CreateBitmap(0, 16, 1, 32, nullptr), bitmap.LoadBitmap(L"/no/such.png"),
-                 bitmap.CreateCompatibleBitmap(nullptr, 4, -4), bitmap.LoadBitmap(nullptr),
-                 bitmap.GetBitmap(nullptr)});
+                 bitmap.CreateCompatibleBitmap(nullptr, 4, -4), bitmap.LoadBitmap(L"/no/such.png"),
+                 CBitmap_E().GetBitmap(&out)});
     EXPECT_EQ(bitmap.m_hObject, h);
-    EXPECT_EQ(bitmap.SetBitmapDimension(70, 90), CSize_E(5, 3)); // Intended: it keeps its size
-    EXPECT_EQ(bitmap.GetBitmapDimension(), CSize_E(5, 3));
-    EXPECT_EQ(CBitmap_E().GetBitmapDimension(), CSize_E(0, 0));
+    EXPECT_EQ(bitmap.SetBitmapDimension(70, 90), CSize_E(5, 3));
+    EXPECT_EQ(bitmap.GetBitmapDimension(), CSize_E(5, 3)) << "Intended: it keeps its size";
 
     QTemporaryDir folder;
-    CBitmap_E saved;
-    EXPECT_TRUE(saved.CreateDiscardableBitmap(nullptr, 2, 2));
-    valueOf<QImage>(saved).fill(QColor(1, 2, 3));
     const QString path = folder.filePath("ä.bmp"_q);
-    EXPECT_TRUE(valueOf<QImage>(saved).save(path));
-    CBitmap_E loaded;
-    ASSERT_TRUE(loaded.LoadBitmap(path.toStdWString().c_str()));
-    EXPECT_EQ(valueOf<QImage>(loaded).pixelColor(1, 1), QColor(1, 2, 3));
+    EXPECT_TRUE(valueOf<QImage>(Bitmap(2, 2, QColor(1, 2, 3))).save(path));
+    bitmap.DeleteObject();
+    ASSERT_TRUE(bitmap.LoadBitmap(path.toStdWString().c_str()));
+    EXPECT_EQ(valueOf<QImage>(bitmap).pixelColor(1, 1), QColor(1, 2, 3));
 }
 
 TEST(Bitmaps, BitsAreCountedTwiceCopiedOnceAndSetInPlace)
@@ -106,7 +88,7 @@ TEST(Bitmaps, BitsAreCountedTwiceCopiedOnceAndSetInPlace)
     Bitmap bitmap(4, 2, QColor(10, 20, 30));
     std::vector<BYTE> bits(200, 0xEE);
     EXPECT_EQ(bitmap.GetBitmapBits(6, bits.data()), 6U);
-    EXPECT_TRUE(bits[5] == 20 && bits[6] == 0xEE);
+    EXPECT_EQ(bits[6], 0xEE);
     EXPECT_EQ(bitmap.GetBitmapBits(200, bits.data()), 128U) << "Intended: 4 x 2 x 16";
     EXPECT_TRUE(bits[31] == 255 && bits[32] == 0xEE) << "there are 32";
 
@@ -118,31 +100,19 @@ TEST(Bitmaps, BitsAreCountedTwiceCopiedOnceAndSetInPlace)
     EXPECT_EQ(last(), QColor(4, 5, 6)) << "the caller's memory";
     EXPECT_EQ(bitmap.SetBitmapBits(28, pixels.data()), 28U) << "less than the image takes";
     EXPECT_EQ(last(), QColor(Qt::black));
-    expectZeros({bitmap.SetBitmapBits(16, nullptr), bitmap.GetBitmapBits(10, nullptr),
-                 CBitmap_E().SetBitmapBits(16, bits.data()),
-                 CBitmap_E().GetBitmapBits(10, bits.data())});
+    expectZeros({bitmap.SetBitmapBits(16, nullptr), CBitmap_E().GetBitmapBits(10, bits.data())});
 }
 
 TEST(Palettes, AppendCountAndWriteEntries)
 {
     CPalette_E palette;
-    const auto append = [&palette](WORD count) { // grey ones
-        std::vector<PALETTEENTRY> memory(count + 1U);
-        memcpy(&memory[0].peBlue, &count, sizeof(count)); // the version and the count come first
-        for (std::size_t i = 1; i <= count; ++i)
-            memset(&memory[i], static_cast<int>(i - 1), 3);
-        return palette.CreatePalette(reinterpret_cast<const tagLOGPALETTE*>(memory.data()));
-    };
-    expectAll(1, {append(0), append(3), append(2), palette.GetEntryCount() == 5,
-                  palette.Entries()[4].peRed, palette.ResizePalette(100000)});
-    EXPECT_EQ(palette.GetEntryCount(), 100000);
-    EXPECT_EQ(palette.Entries()[99999].peBlue, 0);
-    EXPECT_TRUE(palette.ResizePalette(0));
     expectZeros({palette.CreatePalette(nullptr), palette.ResizePalette(0xFFFFFFFF),
-                 palette.GetEntryCount(), palette.DeleteObject(),
-                 palette.GetNearestPaletteIndex(RGB(1, 1, 1)),
-                 palette.CreateHalftonePalette(nullptr)});
-    append(10);
+                 palette.GetNearestPaletteIndex(RGB(1, 1, 1))});
+    for (BYTE grey = 0; grey < 10; ++grey) {
+        const tagLOGPALETTE one{0x300, 1, {{grey, grey, grey, 0}}};
+        EXPECT_EQ(palette.CreatePalette(&one), 1);
+    }
+    EXPECT_EQ(palette.GetEntryCount(), 10);
     PALETTEENTRY entries[4] = {{1, 2, 3, 4}, {200, 10, 10, 0}, {9, 9, 9, 9}, {200, 10, 10, 0}};
     // Intended: the difference, whatever it is.
     constexpr Row<UINT, UINT, UINT, UINT> kRows[] = {
@@ -152,9 +122,6 @@ TEST(Palettes, AppendCountAndWriteEntries)
         EXPECT_EQ(entries[0].peRed, 1) << "copies nothing";
         EXPECT_EQ(palette.SetPaletteEntries(start, count, entries), set);
     });
-    palette.AnimatePalette(4, 4, entries);
-    expectZeros(
-        {palette.GetPaletteEntries(0, 1, nullptr), palette.SetPaletteEntries(0, 1, nullptr)});
     EXPECT_EQ(palette.Entries()[0].peFlags, 4);
     EXPECT_EQ(palette.Entries()[4].peRed, 4) << "untouched";
     EXPECT_EQ(palette.GetNearestPaletteIndex(RGB(200, 10, 10)), 1U) << "3 has it too";
