@@ -265,7 +265,7 @@ TEST_F(DdxTest, OnlyAFailureOfAControlWhenSavingShowsItsMessage)
     EXPECT_FALSE(adrift.GetDlgItem("text"));
     EXPECT_FALSE(adrift.GetDlgQWidget());
     EXPECT_THROW(save.Fail(L"no control"), QString);
-    for (CDataExchange_E* const pDX : {&load, &save, &adrift}) {
+    for (CDataExchange_E* const pDX : {&load, &adrift, &save}) {
         pDX->PrepareCtrl(pText);
         EXPECT_THROW(pDX->Fail(pDX == &save ? L"" : L"shows nothing"), QString);
     }
