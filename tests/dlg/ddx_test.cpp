@@ -237,6 +237,8 @@ TEST_F(DdxTest, ChecksLimitTheControlThatTheValueThenFits)
     load.PrepareCtrl(pSlider);
     DDV_MinMaxSlider(&load, 150, 100, 200);
     DDV_MinMaxSlider(&load, 150, 200, 100); // nothing
+    save.PrepareCtrl(pSlider);
+    DDV_MinMaxSlider(&save, 160, 100, 200); // sets no value
     EXPECT_TRUE(pSlider->value() == 150 && pSlider->minimum() == 100);
     pDateTime->setMaximumDateTime(low);
     load.PrepareCtrl(pDateTime);

@@ -15,7 +15,7 @@ TEST(Memory, IsZeroFilledAndKeptByReAlloc)
     constexpr Row<void* (*)(UINT, SIZE_T), void* (*)(void*, SIZE_T, UINT), void* (*)(void*)>
         kFamilies[] = {{GlobalAlloc_E, GlobalReAlloc_E, GlobalFree_E},
                        {LocalAlloc_E, LocalReAlloc_E, LocalFree_E}};
-    constexpr Row<SIZE_T, SIZE_T> kSizes[] = {{16, 100000}, {24, 25}, {100, 0}, {0, 4096}};
+    constexpr Row<SIZE_T, SIZE_T> kSizes[] = {{16, 100000}, {100, 0}, {0, 4096}};
     forRows(kFamilies, [&](auto* alloc, auto* realloc, auto* free) {
         forRows(kSizes, [&](SIZE_T from, SIZE_T to) {
             void* const old = alloc(GMEM_FIXED, from);
@@ -27,10 +27,7 @@ TEST(Memory, IsZeroFilledAndKeptByReAlloc)
             expectBlock(block, std::min(from, to), to);
             EXPECT_EQ(free(block), nullptr);
         });
-        void* const block = realloc(nullptr, 10, 0xFFFFFFFFU);
-        expectBlock(block, 0, 10);
-        free(block);
-        EXPECT_TRUE(!alloc(0, SIZE_MAX) && !free(nullptr));
+        EXPECT_EQ(alloc(0, SIZE_MAX), nullptr);
     });
 }
 
