@@ -61,10 +61,8 @@ int unitsOf(HANDLE semaphore)
 TEST(Semaphore, ReleasesUpToANumber)
 {
     // initial and greatest count, number to release; result, previous count and units then
-    constexpr Row<int, int, int, BOOL, long, int> kRows[] = {{1, 5, 3, TRUE, 1, 3},
-                                                             {4, 5, 1, TRUE, 4, 5},
-                                                             {2, 3, 2, FALSE, -7, 2},
-                                                             {1, 5, 0, FALSE, -7, 1}};
+    constexpr Row<int, int, int, BOOL, long, int> kRows[] = {
+        {1, 5, 3, TRUE, 1, 3}, {2, 3, 2, FALSE, -7, 2}, {1, 5, 0, FALSE, -7, 1}};
     forRows(kRows, [](int initial, int maximum, int number, BOOL result, long before, int units) {
         const std::wstring name = semaphoreName();
         const HANDLE h = CreateSemaphore(nullptr, initial, maximum, name.c_str());

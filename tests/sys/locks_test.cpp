@@ -68,12 +68,13 @@ TEST(SRWLock, WorksOnAfterItsRelease)
     expectApart(&lock, {AcquireSRWLockExclusive, ReleaseSRWLockExclusive, true},
                 {AcquireSRWLockShared, ReleaseSRWLockShared, false});
     lock = SRWLOCK_INIT;
-    EXPECT_EQ(Results({TryAcquireSRWLockExclusive(&lock), TryAcquireSRWLockShared(&lock),
-                       AcquireSRWLockExclusive(&lock), ReleaseSRWLockExclusive(&lock),
-                       TryAcquireSRWLockShared(&lock), AcquireSRWLockShared(&lock),
-                       ReleaseSRWLockShared(&lock), TryAcquireSRWLockExclusive(&lock),
-                       ReleaseSRWLockShared(&lock), TryAcquireSRWLockExclusive(&lock)}),
-              Results({0, EBUSY, EDEADLK, 0, 0, 0, 0, EBUSY, 0, 0}));
+    EXPECT_EQ(TryAcquireSRWLockExclusive(&lock), 0);
+    EXPECT_EQ(TryAcquireSRWLockShared(&lock), EBUSY);
+    EXPECT_EQ(AcquireSRWLockExclusive(&lock), EDEADLK);
+    EXPECT_EQ(ReleaseSRWLockExclusive(&lock), 0);
+    EXPECT_EQ(TryAcquireSRWLockShared(&lock), 0);
+    EXPECT_EQ(TryAcquireSRWLockExclusive(&lock), EBUSY);
+    EXPECT_EQ(ReleaseSRWLockShared(&lock), 0);
 
     CONDITION_VARIABLE condition;
     EXPECT_EQ(InitializeConditionVariable(&condition), 0);
