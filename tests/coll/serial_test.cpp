@@ -200,9 +200,8 @@ TEST(Serial, AVersionableClassReadsItsOlderForms)
 
 TEST(Serial, EndlessNestingIsRefused)
 {
-#if defined(__SANITIZE_THREAD__)
-    GTEST_SKIP() << "ThreadSanitizer keeps no stack of more than 65535 frames";
-#endif
+    if (vxtest::kThreadSanitizer)
+        GTEST_SKIP() << "ThreadSanitizer keeps no stack of more than 65535 frames";
     constexpr int kCount = 200000;
     const auto drop = [](CNode* pTop) {
         while (pTop)

@@ -11,10 +11,8 @@ public:
     void OnZoom() { notes += "zoom "; }
     void OnPick(UINT nID) { notes += std::to_string(nID) + ' '; }
     void OnUpdatePick(CCmdUI_E*) { onUpdatePick(); }
-    void OnUpdateZoom(CCmdUI_E* pCmdUI) { pCmdUI->Enable(++updates > 20); }
 
     std::string notes;
-    int updates = 0;
     std::function<void()> onApply = [this] { notes += "apply "; }, onUpdatePick = [] {};
     DECLARE_MESSAGE_MAP_E()
 };
@@ -24,8 +22,6 @@ ON_BN_CLICKED_E(IDOK, &CommandDlg::OnZoom)
 ON_BN_CLICKED_E(IDOK, &CommandDlg::OnApply)
 ON_BN_CLICKED_E(1020, &CommandDlg::OnApply)
 ON_COMMAND_E(1021, &CommandDlg::OnZoom)
-ON_UPDATE_COMMAND_UI_E(1021, &CommandDlg::OnUpdateZoom)
-ON_COMMAND_E(4711, &CommandDlg::OnZoom)
 ON_COMMAND_RANGE_E(1023, 1030, &CommandDlg::OnPick)
 ON_UPDATE_COMMAND_UI_RANGE_E(1023, 1030, &CommandDlg::OnUpdatePick)
 END_MESSAGE_MAP_E()
@@ -56,7 +52,6 @@ struct CommandTest : testing::Test
     QPushButton* const m_pApply = add<QPushButton>("apply");
     QAction* const m_pApplyAction = add<QAction>("apply");
     QAction* const m_pZoom = add<QAction>("zoom");
-    QPushButton* const m_pZoomButton = add<QPushButton>("zoom");
     std::unique_ptr<CommandDlg> m_pWindow{new CommandDlg};
 };
 
@@ -65,7 +60,6 @@ TEST_F(CommandTest, ReachTheHandlers)
     m_pApply->click();
     m_pApplyAction->trigger(); // the button has the name too
     m_pZoom->trigger();
-    m_pZoomButton->click(); // the action has it
     m_pOk->click();
     EXPECT_EQ(m_pWindow->notes, "apply zoom apply ") << "the last one registered, not OnOK()";
     m_pWindow->Detach();
@@ -98,15 +92,10 @@ TEST_F(CommandTest, UpdatesRunAtIdleTimeOneAtATimeUntilTheyThrow)
         if (++calls == 2)
             AfxThrowMemoryException_E();
     };
-    const auto wait = [&] {
-        EXPECT_TRUE(waitIdle([&] { return !m_pZoom->isEnabled(); }));
-        EXPECT_TRUE(waitIdle([&] { return m_pZoom->isEnabled() && calls >= 2; }));
-        const int updates = m_pWindow->updates;
-        EXPECT_TRUE(waitIdle([&] { return m_pWindow->updates > updates + 5; }));
-    };
-    withBox(wait, closeBox);
+    withBox([&] { EXPECT_TRUE(waitIdle([&] { return calls >= 2; })); }, closeBox);
+    int rounds = 0;
+    EXPECT_TRUE(waitIdle([&] { return ++rounds > 5; }));
     EXPECT_EQ(calls, 2) << "reported once";
-    EXPECT_TRUE(m_pZoomButton->isEnabled());
 }
 
 // What menus and tool buttons of the window show may belong elsewhere.

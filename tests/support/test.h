@@ -26,6 +26,13 @@ inline QString operator""_q(const char* text, std::size_t length)
     return QString::fromUtf8(text, static_cast<int>(length));
 }
 
+/// What the sanitizer reports by itself, whatever the test finds.
+#if defined(__SANITIZE_THREAD__)
+inline constexpr bool kThreadSanitizer = true;
+#else
+inline constexpr bool kThreadSanitizer = false;
+#endif
+
 /// A row of a table of cases.
 template <typename... Cells>
 using Row = std::tuple<Cells...>;

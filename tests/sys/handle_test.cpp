@@ -37,9 +37,8 @@ TEST(Handle, OfNoObject)
     CMemFile_E file; // what the handle of a file points to
     for (const HANDLE handle : {HANDLE(), HANDLE(&file), INVALID_HANDLE_VALUE})
         expectUseless(handle, FALSE);
-    // The last two the system refuses.
     constexpr Row<int, int, LPCWSTR> kRows[] = {
-        {1, 1, nullptr}, {-1, 1, kName}, {0, 0, kOther}, {1, 2, L""}, {1, 2, L"/two/parts"}};
+        {1, 1, nullptr}, {-1, 1, kName}, {0, 0, kOther}, {1, 2, L"/the system/refuses"}};
     forRows(kRows, [](int initial, int maximum, LPCWSTR name) {
         // What has no object cannot be given back: kept where it is not taken for a leak.
         static auto* const kept = new std::vector<HANDLE>;
@@ -63,9 +62,7 @@ TEST(Semaphore, ReleasesUpToANumber)
 {
     // initial and greatest count, number to release; result, previous count and units then
     constexpr Row<int, int, int, BOOL, long, int> kRows[] = {
-        {1, 5, 3, TRUE, 1, 3},   {2, 5, 1, TRUE, 2, 3},   {0, 5, 2, TRUE, 0, 2},
-        {4, 5, 1, TRUE, 4, 5},   {2, 3, 2, FALSE, -7, 2}, {3, 2, 1, FALSE, -7, 3},
-        {1, 5, 0, FALSE, -7, 1}, {1, 5, -1, FALSE, -7, 1}};
+        {1, 5, 3, TRUE, 1, 3}, {2, 3, 2, FALSE, -7, 2}, {1, 5, 0, FALSE, -7, 1}};
     forRows(kRows, [](int initial, int maximum, int number, BOOL result, long before, int units) {
         const std::wstring name = semaphoreName();
         const HANDLE h = CreateSemaphore(nullptr, initial, maximum, name.c_str());

@@ -15,13 +15,6 @@ inline constexpr auto waitOn = WaitForSingleObject;
 /// A name for a semaphore that no other process uses. Each call has a buffer of its own.
 inline std::wstring semaphoreName() { return L"/vxmfc-test-" + std::to_wstring(getpid()); }
 
-/// What the sanitizer reports by itself, whatever the test finds.
-#if defined(__SANITIZE_THREAD__)
-inline constexpr bool kThreadSanitizer = true;
-#else
-inline constexpr bool kThreadSanitizer = false;
-#endif
-
 } // namespace vxtest
 
 using vxtest::Results;
