@@ -39,7 +39,7 @@ constexpr Conversion kConversions[] = {
     {L"i", L"i", Kind::Signed},
     {L"hd", L"hd", Kind::Signed},
     {L"I32d", L"d", Kind::Signed},
-    {L"ld", L"ld", Kind::Signed, true},
+    {L"ld", L"d", Kind::Signed, true}, // a long has 32 bits in a format, whatever was given
     {L"lld", L"lld", Kind::Signed, true},
     {L"I64i", L"lli", Kind::Signed, true},
     {L"Id", L"lld", Kind::Signed, true},
@@ -49,7 +49,7 @@ constexpr Conversion kConversions[] = {
     {L"X", L"X", Kind::Unsigned},
     {L"hu", L"hu", Kind::Unsigned},
     {L"hX", L"hX", Kind::Unsigned},
-    {L"lo", L"lo", Kind::Unsigned, true},
+    {L"lo", L"o", Kind::Unsigned, true},
     {L"llx", L"llx", Kind::Unsigned, true},
     {L"I64X", L"llX", Kind::Unsigned, true},
     {L"Iu", L"llu", Kind::Unsigned, true},
