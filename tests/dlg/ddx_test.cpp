@@ -18,6 +18,7 @@ struct DdxTest : testing::Test
         pCombo->setEditable(true);
         add<QLineEdit>("line");
         pList->addItems({"Alphabet"_q, "ALPHA"_q, "beta"_q});
+        add<QScrollBar>("scroll");
         pDateTime->setDisplayFormat("yyyy-MM-dd hh:mm"_q);
         window.SubclassWindow(&widget);
     }
@@ -35,7 +36,8 @@ struct DdxTest : testing::Test
         QStringList texts;
         QTimer poll;
         QObject::connect(&poll, &QTimer::timeout, &poll, [&texts] {
-            if (auto* const pBox = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            auto* const pBox = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (pBox && pBox->isActiveWindow()) {
                 texts += pBox->text();
                 pBox->close();
             }
@@ -93,7 +95,7 @@ const QDateTime kNoon({2024, 2, 29}, {12, 0});
 
 TEST_F(DdxTest, EveryFunctionInThreeFormsBothWays)
 {
-    const CString_E alpha(L"alpha"), beta(L"beta"), own(L"own"), red(L"Red");
+    const CString_E alpha(L"alpha"), beta(L"beta"), own(L"own"), red(L"Red"), green(L"Green");
     const CString_E noon(L"2024-02-29 12:00"), nextNoon(L"2024-03-01 12:00");
     const QDateTime next = kNoon.addDays(1);
     check<QLineEdit>(DDX(Text), 1001, "text", CString_E(L"a\U0001F600"), "a\U0001F600"_q, " b "_q,
@@ -103,10 +105,12 @@ TEST_F(DdxTest, EveryFunctionInThreeFormsBothWays)
     check<QRadioButton>(DDX(Radio), 1004, "checked", 1, true, true, 1);
     check<QComboBox>(DDX(CBIndex), 1005, "currentIndex", 2, 2, -1, -1);
     check<QComboBox>(DDX(CBString), 1005, "currentText", own, "own"_q, "Red"_q, red);
+    check<QComboBox>(DDX(CBStringExact), 1005, "currentIndex", green, 2, 0, red);
     check<QLineEdit>(DDX(CBString), 1006, "text", own, "own"_q, "Red"_q, red);
     check<QListWidget>(DDX(LBIndex), 1007, "currentRow", 1, 1, 2, 2);
     check<QListWidget>(DDX(LBString), 1007, "currentRow", alpha, 0, 2, beta);
     check<QListWidget>(DDX(LBStringExact), 1007, "currentRow", alpha, 1, -1, CString_E());
+    check<QScrollBar>(DDX(Scroll), 1008, "value", 7, 7, 8, 8);
     check<QSlider>(DDX(Slider), 1009, "value", 7, 7, 8, 8);
     check<QDateTimeEdit>(DDX(DateTimeCtrl), 1010, "dateTime", kNoon, kNoon, next, next);
     check<QDateTimeEdit>(DDX(DateTimeCtrl), 1010, "dateTime", noon, kNoon, next, nextNoon);
@@ -129,7 +133,10 @@ TEST_F(DdxTest, NumbersAndWhatIsNone)
     for (const char* refused : {"", " 12", "12 ", "+-1", "0x1", "1.0", "١", "2147483648"})
         number(-7, "-7", "-2147483648", INT_MIN, refused);
     number(BYTE(7), "7", "255", BYTE(255), "256");
+    number(short(-7), "-7", "+32767", short(32767), "32768");
     number(7U, "7", "4294967295", UINT_MAX, "-1");
+    number(-7L, "-7", "4294967296", 4294967296L, "9223372036854775808");
+    number(7ULL, "7", "18446744073709551615", ULLONG_MAX, "x");
     number(-7LL, "-7", "+9223372036854775807", LLONG_MAX, "1 2");
     number(0.1F, "0.1", "1e3", 1000.0F, "1e39");
     number(1234567.0, "1.23457e+06", "-.5", -0.5, "nan");
@@ -143,6 +150,8 @@ TEST_F(DdxTest, TextIntoABuffer)
     pText->setText("vwxyz"_q);
     DDX_Text(&save, "text", buffer, 4);
     EXPECT_STREQ(buffer, L"vwx");
+    DDX_Text(&save, "text", buffer, 0);
+    DDX_Text(&save, "text", static_cast<wchar_t*>(nullptr), 4);
 }
 
 TEST_F(DdxTest, ControlBindsOnce)
@@ -201,10 +210,17 @@ TEST_F(DdxTest, MessagesOfTheChecks)
         {CHECK(DDV_MinMaxInt(pDX, 5, 5, 10)), nullptr},
         {CHECK(DDV_MinMaxInt(pDX, 7, 10, 5)), nullptr},
         {CHECK(DDV_MinMaxInt(pDX, 4, -5, 3)), "请填入一个-5和3之间的整数。"},
+        {CHECK(DDV_MinMaxByte(pDX, 4, 5, 255)), "请填入一个5和255之间的整数。"},
+        {CHECK(DDV_MinMaxShort(pDX, 4, 5, 7)), "请填入一个5和7之间的整数。"},
+        {CHECK(DDV_MinMaxLong(pDX, 4, 5, 4294967296)), "请填入一个5和4294967296之间的整数。"},
+        {CHECK(DDV_MinMaxUInt(pDX, 4, 5, UINT_MAX)), "请填入一个5和4294967295之间的整数。"},
+        {CHECK(DDV_MinMaxDWord(pDX, 8, 5, 7)), "请填入一个5和7之间的整数。"},
+        {CHECK(DDV_MinMaxLongLong(pDX, 8, -5, 7)), "请填入一个-5和7之间的整数。"},
         {CHECK(DDV_MinMaxULongLong(pDX, 8, 5, 7)), "请填入一个5和7之间的整数。"},
         {CHECK(DDV_MinMaxFloat(pDX, 8, 0.1F, 7)), "请填入一个0.1和7之间的数字。"},
         {CHECK(DDV_MinMaxDouble(pDX, 8, 1e-7, 1.23456789)),
          "请填入一个1e-07和1.23456789之间的数字。"},
+        {CHECK(DDV_MinMaxSlider(pDX, 8, 5, 7)), "请填入一个5和7之间的整数。"},
         {CHECK(DDV_MinMaxDateTime(pDX, kNoon, nullptr, &early)),
          "请填入一个和2024-02-28T12:00:00之间的日期。"},
         {CHECK(DDV_MinMaxMonth(pDX, kNoon.date(), &earlyDay, &earlyDay)),

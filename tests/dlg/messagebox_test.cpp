@@ -25,8 +25,11 @@ TEST(MessageBox, ButtonsAndTheirAnswers)
     // Buttons from left to right, their results, that of Escape: 0 when it stays.
     const Row<UINT, const char*, std::vector<int>, int> rows[] = {
         {MB_OK, "OK", {IDOK}, IDOK},
+        {MB_OKCANCEL, "OK|Cancel", {IDOK, IDCANCEL}, IDCANCEL},
         {MB_ABORTRETRYIGNORE, "&Abort|&Retry|&Ignore", {IDABORT, IDRETRY, IDIGNORE}, 0},
         {MB_YESNOCANCEL, "&Yes|&No|Cancel", {IDYES, IDNO, IDCANCEL}, IDCANCEL},
+        {MB_YESNO, "&Yes|&No", {IDYES, IDNO}, 0},
+        {MB_RETRYCANCEL, "&Retry|Cancel", {IDRETRY, IDCANCEL}, IDCANCEL},
         {MB_CANCELTRYCONTINUE,
          "Cancel|&Try Again|&Continue",
          {IDCANCEL, IDTRYAGAIN, IDCONTINUE},

@@ -162,10 +162,12 @@ TEST_F(Registry, DeletesRenamesAndCopies)
         {[] { return RegDeleteKey_E(HKEY_CURRENT_USER, L"K\\T"); }, 0, "S=7 S/a=7 S/b/c=7"},
         // Intended: the whole of S.
         {[h] { return RegDeleteKeyValue_E(h, L"S", L"a"); }, 0, "T=7"},
+        {[h] { return RegRenameKey_E(h, L"S", L"S\\b"); }, 0, "S/b='7' S/b/a=7 S/b/b/c=7 T=7"},
         {[h] { return RegRenameKey_E(h, L"S", L"T"); }, 0, "T='7' T/a=7 T/b/c=7"}, // overwrites
         // Intended: nothing of the keys below.
         {[h] { return RegCopyTree_E(h, L"S", h); }, 0, "S=7 S/a=7 S/b/c=7 T=7 a=7"},
         {[h] { return RegRenameKey_E(h, L"no", L"x"); }, ERROR_FILE_NOT_FOUND, kAll},
+        {[h] { return RegRenameKey_E(h, L"S", nullptr); }, ERROR_INVALID_PARAMETER, kAll},
         {[] { return RegRenameKey_E(HKEY_USERS, nullptr, L"x"); }, ERROR_ACCESS_DENIED, kAll},
         // The handle stays good.
         {[h] { return RegRenameKey_E(h, nullptr, L"L") + RegDeleteKey_E(h, L"S"); }, 0,
@@ -194,6 +196,7 @@ TEST_F(Registry, QueriesMultipleValues)
     EXPECT_EQ(*reinterpret_cast<DWORD*>(values[1].ve_valueptr), 7U);
     name[0] = L'n';
     EXPECT_EQ(RegQueryMultipleValues_E(m_hKey, values, 2, buffer, &size), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(RegQueryMultipleValues_E(m_hKey, nullptr, 2, buffer, &size), ERROR_INVALID_PARAMETER);
 }
 
 // Whoever has changed the settings meanwhile.
@@ -232,9 +235,10 @@ TEST_F(Registry, EnumeratesInLinearTime)
     EXPECT_EQ(Listed(RegEnumKey_E), Listed(enumText));
     EXPECT_LT(GetTickCount() - start, 2000U); // a listing for each takes a hundred times that
     Store("😀😀😀"_q, "😀😀😀😀"_q);
+    Store("ﬀ"_q, "last"_q);
     DWORD n[3] = {}; // Intended: the greatest lengths are in UTF-16 units.
     EXPECT_EQ(RegQueryInfoKey_E(m_hKey, {}, {}, {}, {}, {}, {}, n, n + 1, n + 2, {}, {}), 0);
-    EXPECT_EQ(Results(n, n + 3), Results({10001, 6, 8}));
+    EXPECT_EQ(Results(n, n + 3), Results({10002, 6, 8}));
 }
 
 TEST_F(Registry, ThreadsShareIt)
