@@ -57,3 +57,15 @@ int loadCause(const QByteArray& bytes, Work work)
 {
     return causeOf([&] { load(bytes, work); });
 }
+
+/// An element for a number; null where elements are pointers.
+template <typename Element>
+Element elementOf(std::size_t number)
+{
+    if constexpr (std::is_pointer_v<Element>)
+        return nullptr;
+    else if constexpr (std::is_same_v<Element, CString_E>)
+        return QString::number(number);
+    else
+        return static_cast<Element>(number);
+}

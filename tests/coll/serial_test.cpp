@@ -110,15 +110,18 @@ TEST(Serial, ACyclicGraphHasItsFormAndComesBack)
 TEST(Serial, WhatIsNoGraphOfTheseClassesIsRefused)
 {
     // Wrong classes, CLenient too, which only its object shows; wrong indices: 1 is the mapped
-    // object; a link to a class; and one that is right.
+    // object; links to a class and of an object's class; and one that is right.
     // clang-format off
     static const Row<const char*, int> rows[] = {
-        {"FFFF 0200 0500 434E6F6465", Cause::badSchema}, {"FFFF 0100 FFFF", Cause::badClass},
+        {"FFFF 0200 0500 434E6F6465", Cause::badSchema}, {"FFFF 0100 0000", Cause::badClass},
+        {"FFFF 0100 0600 434E6F646500", Cause::badClass}, {"FFFF 0100 FFFF", Cause::badClass},
         {"FFFF 0100 0400 434E6F64", Cause::badClass},
         {"FFFF 0000 0600 43456D707479", Cause::badClass},
         {"FFFF 0100 0800 434C656E69656E74", Cause::badClass}, {"0100", Cause::badClass},
-        {"0200", Cause::badIndex}, {"0180", Cause::badIndex}, {"FF7F FFFFFF7F", Cause::badIndex},
+        {"0200", Cause::badIndex}, {"0080", Cause::badIndex}, {"0180", Cause::badIndex},
+        {"FF7F FFFFFFFF", Cause::badIndex}, {"FF7F FFFFFF7F", Cause::badIndex},
         {"FFFF 0100 0500 434E6F6465 00000000 0000 0200", Cause::badIndex},
+        {"FFFF 0100 0500 434E6F6465 00000000 0380", Cause::badIndex},
         {"FFFF 0100 0500 434E6F6465 00000000 0000 FFFF 0000 0600 43456D707479", Cause::none},
     };
     // clang-format on
@@ -152,33 +155,46 @@ TEST(Serial, NullAndAskedForClasses)
         EXPECT_EQ(causeOf([&] { ar.ReadObject(RUNTIME_CLASS_E(CLenient)); }), Cause::badClass);
         EXPECT_THROW(ar.ReadObject(RUNTIME_CLASS_E(CObject_E)), CNotSupportedException_E*);
     });
+    const auto readEmpty = [](auto& ar) { ar.ReadObject(RUNTIME_CLASS_E(CEmpty)); };
+    EXPECT_EQ(loadCause(hex(kFamily), readEmpty), Cause::badClass);
     const CObject_E plain;
     stored([&](auto& ar) {
+        ar.MapObject(nullptr); // nothing
         EXPECT_THROW(ar.WriteClass(nullptr), CInvalidArgException_E*);
         EXPECT_THROW(ar << &plain, CNotSupportedException_E*);
+        EXPECT_THROW(RUNTIME_CLASS_E(CWnd_E)->Store(ar), CNotSupportedException_E*);
     });
 }
 
 TEST(Serial, TagsGrowAtTheirLimit)
 {
-    // The class has the first number that takes more room, the objects the next ones.
-    std::vector<CObject_E> mapped(0x7FFE);
-    const auto map = [&](auto& ar) {
-        for (const CObject_E& object : mapped)
-            ar.MapObject(&object);
-    };
-    const CEmpty one, two;
-    const QByteArray bytes = stored([&](auto& ar) {
-        map(ar);
-        ar << &one << &two << &one << &mapped[1];
-    });
-    EXPECT_EQ(bytes, hex("FFFF 0000 0600 43456D707479 FF7F FF7F0080 FF7F 00800000 0200"));
-    load(bytes, [&](auto& ar) {
-        map(ar);
-        const std::unique_ptr<CObject_E> pOne(ar.ReadObject(nullptr));
-        const std::unique_ptr<CObject_E> pTwo(ar.ReadObject(nullptr));
-        EXPECT_EQ(ar.ReadObject(nullptr), pOne.get());
-        EXPECT_EQ(ar.ReadObject(nullptr), &mapped[1]);
+    // The class has the first number that is given, the first object the next one, and so on.
+    static const Row<DWORD, const char*, const char*> rows[] = {
+        {0x7FFD, "FDFF", "FE7F"},
+        {0x7FFE, "FEFF", "FF7F FF7F0000"},
+        {0x7FFF, "FF7F FF7F0080", "FF7F 00800000"}};
+    forRows(rows, [](DWORD first, const char* classTag, const char* objectTag) {
+        std::vector<CObject_E> mapped(first - 1);
+        const auto map = [&](auto& ar) {
+            for (const CObject_E& object : mapped)
+                ar.MapObject(&object);
+        };
+        const CEmpty one, two;
+        const QByteArray bytes = stored([&](auto& ar) {
+            ar.SetStoreParams();
+            map(ar);
+            ar << &one << &two << &one << &mapped[1];
+        });
+        EXPECT_EQ(bytes, hex("FFFF 0000 0600 43456D707479") + hex(classTag) + hex(objectTag) +
+                             hex("0200"));
+        load(bytes, [&](auto& ar) {
+            ar.SetLoadParams();
+            map(ar);
+            const std::unique_ptr<CObject_E> pOne(ar.ReadObject(nullptr));
+            const std::unique_ptr<CObject_E> pTwo(ar.ReadObject(nullptr));
+            EXPECT_EQ(ar.ReadObject(nullptr), pOne.get());
+            EXPECT_EQ(ar.ReadObject(nullptr), &mapped[1]);
+        });
     });
 }
 
@@ -234,6 +250,9 @@ TEST(Serial, EndlessNestingIsRefused)
 
 TEST(Serial, NamesBelongToTheFirstAndWhileItIsThere)
 {
+    EXPECT_EQ(CRuntimeClass_E::FromName("CNode"), RUNTIME_CLASS_E(CNode));
+    EXPECT_EQ(CRuntimeClass_E::FromName(L"CEmpty"), RUNTIME_CLASS_E(CEmpty));
+    EXPECT_EQ(CRuntimeClass_E::FromName(static_cast<const char*>(nullptr)), nullptr);
     CRuntimeClass_E record(&CEmpty::staticMetaObject, CEmpty::GetImpMetaObject(),
                            CEmpty::GetImpMetaObject(), &CEmpty::CreateObject, nullptr, 1);
     const auto isAny = [](const CObject_E*) { return true; };
@@ -241,13 +260,28 @@ TEST(Serial, NamesBelongToTheFirstAndWhileItIsThere)
         const AFX_CLASSINIT_E second(&record, "CNode", 9, isAny);
         const AFX_CLASSINIT_E other(&record, "COther", 9, isAny);
         EXPECT_EQ(CRuntimeClass_E::FromName("CNode"), RUNTIME_CLASS_E(CNode));
-        EXPECT_EQ(CRuntimeClass_E::FromName(L"COther"), &record);
+        EXPECT_EQ(CRuntimeClass_E::FromName("COther"), &record);
         const std::unique_ptr<CObject_E> pMade(CRuntimeClass_E::CreateObject("COther"));
         EXPECT_TRUE(dynamic_cast<CEmpty*>(pMade.get()));
     }
     EXPECT_EQ(CRuntimeClass_E::FromName("CNode"), RUNTIME_CLASS_E(CNode));
     EXPECT_EQ(CRuntimeClass_E::CreateObject("COther"), nullptr);
-    EXPECT_EQ(CRuntimeClass_E::FromName(static_cast<const char*>(nullptr)), nullptr);
+}
+
+template <typename T, typename A>
+void put(CArray_E<T, A>& array, unsigned i)
+{
+    array.Add(elementOf<T>(i));
+}
+template <typename T, typename A>
+void put(CList_E<T, A>& list, unsigned i)
+{
+    list.AddTail(elementOf<T>(i));
+}
+template <typename K, typename AK, typename V, typename AV>
+void put(CMap_E<K, AK, V, AV>& map, unsigned i)
+{
+    map.SetAt(elementOf<K>(i), elementOf<V>(i));
 }
 
 QByteArray storedOf(CObject_E& object)
@@ -259,39 +293,42 @@ int causeOfLoading(CObject_E& object, const QByteArray& bytes)
     return loadCause(bytes, [&](auto& ar) { object.Serialize(ar); });
 }
 
-/// @p collection comes back from its bytes and not from fewer; its count is not believed.
 template <typename Collection>
-void expectSerialized(Collection& collection)
+class SerializedOf : public testing::Test
 {
-    const QByteArray bytes = storedOf(collection);
-    Collection back, much;
-    EXPECT_EQ(causeOfLoading(back, bytes), Cause::none);
-    EXPECT_EQ(storedOf(back), bytes);
-    for (int cut = 0; cut < bytes.size(); ++cut) {
-        Collection part;
-        EXPECT_EQ(causeOfLoading(part, bytes.left(cut)), Cause::endOfFile) << cut;
-    }
-    const QByteArray most = QByteArray(14, '\xFF') + QByteArray(10, '\0');
-    EXPECT_EQ(causeOfLoading(much, most), Cause::endOfFile);
-    EXPECT_LE(much.GetCount(), 0x10000);
-}
+};
+using Collections =
+    testing::Types<CByteArray_E, CWordArray_E, CDWordArray_E, CObArray_E, CStringArray_E, CObList_E,
+                   CStringList_E, CMapWordToOb_E, CMapStringToOb_E, CMapStringToString_E,
+                   CArray_E<double>, CArray_E<wchar_t>,
+                   CMap_E<CString_E, LPCWSTR, LONGLONG, LONGLONG>>;
+TYPED_TEST_SUITE(SerializedOf, Collections);
 
-TEST(Serialized, ComesBackAndIsNotBelievedMoreThanThereIs)
+TYPED_TEST(SerializedOf, ComesBackAndIsNotBelievedMoreThanThereIs)
 {
-    CDWordArray_E numbers;
-    CArray_E<wchar_t> characters;
-    CStringList_E texts;
-    CMapWordToOb_E objects;
-    for (const WORD n : {WORD{1}, WORD{2}, WORD{0x102}}) {
-        numbers.Add(n);
-        characters.Add(static_cast<wchar_t>(n));
-        texts.AddTail(QString::number(n));
-        objects.SetAt(n, nullptr);
+    for (const unsigned count : {0U, 1U, 7U}) {
+        TypeParam collection, back, again;
+        for (unsigned i = 0; i < count; ++i)
+            put(collection, i);
+        const QByteArray bytes = storedOf(collection);
+        ASSERT_EQ(causeOfLoading(back, bytes), Cause::none);
+        ASSERT_EQ(back.GetCount(), count);
+        // Twice, which brings each bucket of a map into its first order.
+        ASSERT_EQ(causeOfLoading(again, storedOf(back)), Cause::none);
+        EXPECT_EQ(storedOf(again), bytes);
+        for (int cut = 0; cut < bytes.size(); ++cut) {
+            TypeParam part;
+            ASSERT_EQ(causeOfLoading(part, bytes.left(cut)), Cause::endOfFile) << cut;
+        }
     }
-    expectSerialized(numbers);
-    expectSerialized(characters);
-    expectSerialized(texts);
-    expectSerialized(objects);
+    // No count is believed: 2 to the 32nd elements, the most there can be, and no more than ten
+    // bytes of them.
+    for (const char* count : {"ffffffffffff0000000001000000", "ffffffffffffffffffffffffffff"}) {
+        TypeParam collection;
+        const QByteArray bytes = QByteArray::fromHex(count) + QByteArray(10, '\0');
+        EXPECT_EQ(causeOfLoading(collection, bytes), Cause::endOfFile);
+        EXPECT_LE(collection.GetCount(), 0x10000);
+    }
 }
 
 TEST(Serialized, ObjectsAreTheSameInAllCollections)
@@ -299,16 +336,20 @@ TEST(Serialized, ObjectsAreTheSameInAllCollections)
     CByteArray_E object;
     object.Add(5);
     CObArray_E array;
+    CObList_E list;
     CMapStringToOb_E map;
     array.Add(&object);
+    list.AddTail(&object);
     map.SetAt(L"k", &object);
-    const QByteArray bytes = stored([&](auto& ar) { ar << &array << &map; });
+    const QByteArray bytes = stored([&](auto& ar) { ar << &array << &list << &map; });
     CObArray_E* pArray = nullptr;
+    CObList_E* pList = nullptr;
     CMapStringToOb_E* pMap = nullptr;
-    load(bytes, [&](auto& ar) { ar >> pArray >> pMap; });
+    load(bytes, [&](auto& ar) { ar >> pArray >> pList >> pMap; });
     EXPECT_EQ(dynamic_cast<CByteArray_E&>(*pArray->GetAt(0))[0], 5);
+    EXPECT_EQ(pList->GetHead(), pArray->GetAt(0));
     EXPECT_EQ((*pMap)[L"k"], pArray->GetAt(0));
-    qDeleteAll(std::initializer_list<CObject_E*>{pArray->GetAt(0), pArray, pMap});
+    qDeleteAll(std::initializer_list<CObject_E*>{pArray->GetAt(0), pArray, pList, pMap});
 }
 
 TEST(Serialized, BytesAreThoseOfTheFormat)
@@ -316,13 +357,14 @@ TEST(Serialized, BytesAreThoseOfTheFormat)
     CWordArray_E words, back;
     words.Add(0x102);
     words.Add(3);
-    EXPECT_EQ(storedOf(words), hex("0200 0201 0300"));
     CMapStringToString_E strings;
     strings.SetAt(L"k", L"v");
-    EXPECT_EQ(storedOf(strings), hex("0100 FFFEFF016B00 FFFEFF017600"));
     CUIntArray_E uints; // what means nothing elsewhere is not written
     uints.Add(1);
-    EXPECT_EQ(storedOf(uints), "");
+    const Row<CObject_E*, const char*> rows[] = {
+        {&words, "020002010300"}, {&strings, "0100fffeff016b00fffeff017600"}, {&uints, ""}};
+    for (const auto& [object, bytes] : rows)
+        EXPECT_EQ(storedOf(*object).toHex(), bytes);
     words.SetSize(200000); // read in several pieces
     words[199999] = 5;
     ASSERT_EQ(causeOfLoading(back, storedOf(words)), Cause::none);
@@ -331,6 +373,8 @@ TEST(Serialized, BytesAreThoseOfTheFormat)
     list.AddTail(L"a");
     causeOfLoading(list, storedOf(list));
     EXPECT_EQ(list.GetCount(), 2);
+    CArray_E<std::wstring> undefined;
+    EXPECT_THROW(storedOf(undefined), CNotSupportedException_E*);
     CArray_E<wchar_t> units;
     units.Add(L'\U0001F600');
     EXPECT_THROW(storedOf(units), CNotSupportedException_E*);

@@ -78,6 +78,8 @@ TEST(Button, ClicksAndImages)
     runSteps(box, {{BM_SETCHECK, 1, 0}, {BM_CLICK, 0}, {BM_GETCHECK, 0}});
     EXPECT_EQ(clicks.count(), 1) << "none of what is set";
     checkImages(box, BM_SETIMAGE, BM_GETIMAGE);
+    tagSIZE size{};
+    EXPECT_TRUE(box.GetIdealSize(&size) && size.cx > 0 && !box.GetIdealSize(nullptr));
 }
 
 TEST(Static, StyleOfWhatIsMade)

@@ -114,6 +114,7 @@ TEST(Edit, LinesPlacesAndScrolling)
     forKinds([](CEdit_E& edit, auto of) {
         edit.SetWindowText(of(L"only", L"first\nsecond\n\nlast"));
         wchar_t room[8] = L"\3";
+        const int stops[] = {8, 40};
         // clang-format off
         runSteps(edit, {
             {EM_GETLINECOUNT, of(1, 4)}, {EM_LINELENGTH, 1, of(4, 18)},
@@ -121,16 +122,24 @@ TEST(Edit, LinesPlacesAndScrolling)
             {EM_LINEFROMCHAR, 5, 0}, {EM_LINEFROMCHAR, 6, of(0, 1)}, {EM_SETSEL, -1, -1, 0},
             {EM_LINEFROMCHAR, -1, of(0, 3)}, {EM_LINEINDEX, -1, of(0, 14)},
             {EM_GETLINE, 1, at(room), 3}, {EM_GETLINE, 0}, {EM_FMTLINES, TRUE, of(0, 1)},
+            {EM_SETTABSTOPS, 2, 0, FALSE}, {EM_SETTABSTOPS, 2, at(stops), of(FALSE, TRUE)},
         });
         // clang-format on
         EXPECT_EQ(room[2], of(L'l', L'c')) << "no end";
         EXPECT_EQ(edit.SetTabStops(16), of(FALSE, TRUE));
 
-        edit.MoveWindow(&kRect);
         edit.GetSafeHwnd()->window()->show();
         edit.ShowWindow(SW_SHOW);
         const QString strLines = "\nline"_q.repeated(of(0, 30));
         edit.SetWindowText(CString_E("abcdefgh"_q + strLines).GetString());
+        tagRECT place = kRect, got{};
+        // clang-format off
+        runSteps(edit, {
+            {EM_SETRECT, 0, at(&place), 0}, {EM_SETRECT, 0}, {EM_GETRECT, 0, at(&got), 0},
+            {EM_GETRECT, 0},
+        });
+        // clang-format on
+        EXPECT_EQ(CRect_E(got), CRect_E(kRect));
         const CPoint_E first = edit.PosFromChar(0);
         const CPoint_E fifth = edit.PosFromChar(4);
         EXPECT_GT(fifth.x, first.x + 8);

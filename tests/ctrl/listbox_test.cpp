@@ -16,7 +16,8 @@ TEST(ListBox, Selection)
         {LB_GETSELITEMS, -1, at(rows), 0}, {LB_GETSELCOUNT, -1}, {LB_SETSEL, TRUE, 2, -1},
         {LB_SETSEL, TRUE, -1, -1}, {LB_SETCARETINDEX, 2, 0}, {LB_GETCARETINDEX, 2},
         {LB_SETCARETINDEX, 4, -1}, {"a,b*,c,d"_q},
-        {LB_SETITEMHEIGHT, 1, 44, 0}, {LB_GETITEMHEIGHT, 1, 44},
+        {LB_SETITEMHEIGHT, 1, 44, 0}, {LB_GETITEMHEIGHT, 1, 44}, {LB_SETITEMHEIGHT, 9, 44, -1},
+        {LB_SETTABSTOPS, 1, 0}, {LB_SETHORIZONTALEXTENT, 500, 0}, {LB_GETLISTBOXINFO, 0},
     };
     const Steps several = {
         {LB_SETSEL, FALSE, -1, 0}, {LB_SETSEL, TRUE, 3, 0}, {LB_SETSEL, TRUE, 1, 0},

@@ -62,6 +62,13 @@ TEST(SpinButton, TextAndBuddy)
         CString_E text;
         spin.GetWindowText(text);
         EXPECT_EQ(text.Compare(L"123456"), 0) << "the value alone";
+        int nStart = -1, nEnd = -1;
+        spin.SetSel(4, 1); // nothing without the focus or ES_NOHIDESEL
+        spin.GetSel(nStart, nEnd);
+        EXPECT_EQ(nStart, nEnd);
+        pBox->selectAll();
+        spin.GetSel(nStart, nEnd);
+        EXPECT_EQ(nEnd - nStart, 6);
         QWidget home;
         const QPointer<QLineEdit> pBuddy = new QLineEdit(&home);
         const QPointer<QLineEdit> pOwn = spin.GetBuddy();

@@ -80,8 +80,20 @@ TEST_F(ImageLists, CopiesHaveBitmapsOfTheirOwn)
     EXPECT_EQ(colorOf(m_list, 1), QColor(Qt::red));
     EXPECT_EQ(valueOf<QImage>(m_blue).pixelColor(1, 1), QColor(Qt::blue)) << "left the list";
     expectZeros({copy.Create(nullptr), m_list.Copy(1, &copy, 0, ILCF_SWAP), m_list.Copy(2, 0),
-                 m_list.Copy(0, -1), m_list.Replace(0, &m_empty, nullptr),
-                 m_list.Draw(nullptr, 0, {}, 0), m_list.BeginDrag(0, {})});
+                 m_list.Copy(0, -1), m_list.Replace(0, &m_empty, nullptr)});
+}
+
+TEST_F(ImageLists, StubsDoNothing)
+{
+    CImageList_E& l = m_list;
+    const HICON icon = &m_red;
+    expectZeros({l.Create(1, 16, 1, 0U), l.Create(L"x", 16, 1, 0), l.Add(icon), l.Replace(0, icon),
+                 l.SetOverlayImage(0, 1), l.Draw(nullptr, 0, {}, 0), l.DrawIndirect(nullptr),
+                 l.DrawEx(nullptr, 0, {}, {}, 0, 0, 0), l.Read(nullptr), l.Write(nullptr),
+                 l.BeginDrag(0, {}), l.DragMove({}), l.DragEnter(nullptr, {}), l.DragLeave(nullptr),
+                 l.DragShowNolock(TRUE), l.SetDragCursorImage(0, {}), l.GetImageCount()});
+    EXPECT_TRUE(!l.ExtractIcon(0) && !l.GetDragImage(nullptr, nullptr));
+    l.EndDrag();
 }
 
 } // namespace
