@@ -143,7 +143,7 @@ TEST(Dialog, EmbeddedDialogLeavesEscapeToItsParent)
         pEdit->setFocus();
         outer.onOK = [&] { ++clicks; };
         outer.onCancel = [&] { outer.EndDialog(page.IsWindowVisible() ? 5 : 6); };
-        for (const auto key : {XK_Return, XK_KP_Enter}) {
+        for (const auto key : std::initializer_list<unsigned long>{XK_Return, XK_KP_Enter}) {
             clicks = 0;
             vxtest::typeKey(key);
             EXPECT_TRUE(vxtest::waitUntil([&] { return clicks > 0; }));
