@@ -64,9 +64,15 @@ TEST(DumpContext, HexDumpWritesRows)
     dc.Flush();
 }
 
-TEST(MemoryState, TakesWhatTheSystemSays)
+TEST(MemoryState, TakesWhatTheSystemSaysAndDumpsIt)
 {
+    static QString seen;
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { seen += text + u'|'; });
     CMemoryState_E before, after, change;
+    change.DumpStatistics();
+    qInstallMessageHandler(previous);
+    EXPECT_EQ(seen, "Physical Memory changed:  0  KB.  Virtual Memory changed:  0  KB.|"_q);
     try {
         before.Checkpoint();
     } catch (const std::out_of_range&) {
