@@ -256,8 +256,8 @@ void CFile_E::LockRange(ULONGLONG dwPos, ULONGLONG dwCount)
     const int fd = Descriptor();
     // The system lets an open file lock again what it has locked itself.
     const bool bOverlaps = std::any_of(m_ranges.cbegin(), m_ranges.cend(), [=](const Range& r) {
-        return dwPos < r.first ? r.first - dwPos < dwCount && r.count > 0
-                               : dwPos - r.first < r.count && dwCount > 0;
+        return dwCount > 0 && r.count > 0 &&
+               (dwPos < r.first ? r.first - dwPos < dwCount : dwPos - r.first < r.count);
     });
     Check(bOverlaps ? ERROR_LOCK_VIOLATION : setRangeLock(fd, dwPos, dwCount, true));
     m_ranges.push_back({dwPos, dwCount});

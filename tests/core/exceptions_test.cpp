@@ -55,6 +55,16 @@ TEST(Exceptions, DeleteFollowsTheAutoDeleteFlag)
     }
 }
 
+TEST(Exceptions, RecordsCannotTellKindsApart)
+{
+    const CRuntimeClass_E* const pClass = RUNTIME_CLASS_E(COleException_E);
+    EXPECT_TRUE(CFileException_E().IsKindOf(pClass) && CObject_E().IsKindOf(pClass));
+    EXPECT_STREQ(pClass->GetClassName(), "CObject_E");
+    EXPECT_STREQ(pClass->GetImpClassName(), "QObject");
+    EXPECT_EQ(pClass->GetObjectSize(), 48);
+    EXPECT_EQ(CFileException_E().GetRuntimeClass(), RUNTIME_CLASS_E(CException_E));
+}
+
 TEST(Exceptions, Messages)
 {
     // What throws, room for the message and the message, null when nothing is thrown. It is cut,

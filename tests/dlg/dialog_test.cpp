@@ -126,7 +126,7 @@ TEST(Dialog, ModelessIsShownByItsStyleAndStaysUntilDestroyed)
     EXPECT_EQ(dialog.notes, "init cancel cancel cancel gone");
 }
 
-TEST(Dialog, EmbeddedDialogLeavesEscapeToItsParent)
+TEST(Dialog, EmbeddedDialogLeavesEnterAndEscapeToItsParent)
 {
     VXTEST_NEEDS_X11();
     NotingDlg outer(kSettings), page;
